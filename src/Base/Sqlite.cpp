@@ -1,0 +1,113 @@
+#include "Base/Sqlite.h"
+
+#include <sqlite3.h>
+
+namespace fendrel::sqlite {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int busyTimeout = 2000; // milliseconds
+}
+
+bool Error::isDamage() const {
+    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
+}
+
+void Statement::Finalize::operator()(sqlite3_stmt* statement) const {
+    sqlite3_finalize(statement);
+}
+
+void Statement::bind(int parameter, const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    sqlite3_bind_text64(m_statement.get(), parameter, bytes.constData(), static_cast<sqlite3_uint64>(bytes.size()),
+                        SQLITE_TRANSIENT, SQLITE_UTF8);
+}
+
+void Statement::bind(int parameter, double number) {
+    sqlite3_bind_double(m_statement.get(), parameter, number);
+}
+
+void Statement::bind(int parameter, qint64 number) {
+    sqlite3_bind_int64(m_statement.get(), parameter, number);
+}
+
+Statement::Step Statement::step() {
+    switch (sqlite3_step(m_statement.get())) {
+    case SQLITE_ROW:
+        return Step::row;
+    case SQLITE_DONE:
+        return Step::done;
+    default:
+        return Step::failed;
+    }
+}
+
+void Statement::reset() {
+    sqlite3_reset(m_statement.get());
+    sqlite3_clear_bindings(m_statement.get());
+}
+
+QString Statement::text(int column) const {
+    const void* bytes = sqlite3_column_text(m_statement.get(), column);
+    return QString::fromUtf8(static_cast<const char*>(bytes), sqlite3_column_bytes(m_statement.get(), column));
+}
+
+double Statement::number(int column) const {
+    return sqlite3_column_double(m_statement.get(), column);
+}
+
+qint64 Statement::integer(int column) const {
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+void Database::Close::operator()(sqlite3* database) const {
+    sqlite3_close_v2(database);
+}
+
+Result<std::shared_ptr<Database>, Error> Database::open(const QString& path) {
+    auto database = std::make_shared<Database>();
+    sqlite3* handle = nullptr;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX, nullptr);
+    database->m_database.reset(handle); // SQLite gives a handle even for a failed opening
+    if (code != SQLITE_OK)
+        return Result<std::shared_ptr<Database>, Error>::failure(database->lastError());
+    sqlite3_busy_timeout(handle, busyTimeout);
+    return database;
+}
+
+Result<Statement, Error> Database::prepare(const QString& sql) {
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(m_database.get(), sql.toUtf8().constData(), -1, &statement, nullptr) != SQLITE_OK)
+        return Result<Statement, Error>::failure(lastError());
+    return Statement(statement);
+}
+
+bool Database::run(const QString& sql) {
+    return sqlite3_exec(m_database.get(), sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+Error Database::lastError() const {
+    if (!m_database)
+        return {.code = SQLITE_NOMEM, .text = u"out of memory"_s};
+    return {.code = sqlite3_errcode(m_database.get()), .text = QString::fromUtf8(sqlite3_errmsg(m_database.get()))};
+}
+
+Transaction::Transaction(Database& database)
+    : m_database(database), m_isOpen(database.run(u"BEGIN IMMEDIATE"_s)) {}
+
+Transaction::~Transaction() {
+    if (m_isOpen)
+        m_database.run(u"ROLLBACK"_s);
+}
+
+bool Transaction::commit() {
+    if (m_isOpen && m_database.run(u"COMMIT"_s)) {
+        m_isOpen = false;
+        return true;
+    }
+    return false;
+}
+
+} // namespace fendrel::sqlite

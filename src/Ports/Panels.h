@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QRect>
+#include <QRegion>
+#include <Qt>
+
+#include <functional>
+
+namespace fendrel {
+
+/// What the window system must know of our own panels beyond what the toolkit tells it. Windows are named by their
+/// native id. Main thread; all coordinates are device pixels.
+class Panels {
+public:
+    enum class Kind {
+        dock, ///< on every virtual desktop, never takes the keyboard
+        gate, ///< on every virtual desktop, above full-screen windows
+        menu, ///< open for a moment, over everything; draws its own shadow
+    };
+
+    virtual ~Panels() = default;
+
+    virtual void prepare(quintptr window, Kind kind) = 0; ///< before the window is shown for the first time
+    /// Keeps other windows off `area`, a strip along one edge of `display`; an empty area reserves nothing.
+    virtual void reserve(quintptr window, Qt::Edge edge, const QRect& display, const QRect& area) = 0;
+    virtual void setInputRegion(quintptr window, const QRegion& region) = 0; ///< in the window's coordinates
+    virtual void activate(quintptr window) = 0; ///< in front of everything, with the keyboard
+
+    virtual bool hasTransparency() const = 0; ///< whether a compositor blends windows
+    std::function<void()> onTransparencyChanged = [] {};
+};
+
+} // namespace fendrel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Base/Worker.h"
+#include "Ports/Accessibility.h"
+#include "Ports/Applications.h"
+#include "Ports/Clock.h"
+#include "Ports/Displays.h"
+#include "Ports/HttpClient.h"
+#include "Ports/IdleTime.h"
+#include "Ports/LanguageModel.h"
+#include "Ports/Panels.h"
+#include "Ports/SettingsStore.h"
+#include "Ports/Shell.h"
+#include "Ports/StatusArea.h"
+#include "Ports/SystemLook.h"
+
+#include <memory>
+
+namespace fendrel {
+
+/// The user's folders that belong to Fendrel, each owner-only. They may not exist yet.
+struct Folders {
+    QString data{};    ///< modes, learned answers, the sockets
+    QString config{};  ///< the settings
+    QString crashes{}; ///< crash reports
+};
+
+/// One adapter of every port. Members are destroyed in reverse order; adapters may use the ones before them.
+struct Platform {
+    Folders folders{};
+    std::unique_ptr<Worker> disk{}; ///< writes what the services save, off the main thread
+    std::unique_ptr<Clock> clock{};
+    std::unique_ptr<SettingsStore> settings{};
+    std::unique_ptr<Applications> applications{};
+    std::unique_ptr<Accessibility> accessibility{};
+    std::unique_ptr<Displays> displays{};
+    std::unique_ptr<Panels> panels{};
+    std::unique_ptr<SystemLook> look{};
+    std::unique_ptr<StatusArea> statusArea{};
+    std::unique_ptr<IdleTime> idleTime{};
+    std::unique_ptr<Shell> shell{};
+    std::unique_ptr<LanguageModel> languageModel{};
+    std::unique_ptr<HttpClient> http{};
+};
+
+} // namespace fendrel

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <functional>
+
+namespace fendrel {
+
+/// How the user wants the desktop to look. Main thread.
+class SystemLook {
+public:
+    virtual ~SystemLook() = default;
+    virtual bool isDark() const = 0;
+    virtual bool reducesMotion() const = 0;
+    std::function<void()> onChanged = [] {};
+};
+
+} // namespace fendrel
