@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace fendrel {
+
+/// Finds icons by name in the desktop's icon theme and those that it builds on.
+class IconTheme {
+public:
+    /// `folders` hold themes, the strongest first; `loose` hold icons that belong to no theme.
+    IconTheme(const QString& name, QStringList folders, QStringList loose);
+
+    static QStringList standardFolders();
+    static QStringList standardLooseFolders();
+
+    /// The path of the icon's file, best for a dock: a drawing that scales, else the largest picture that is no wider
+    /// than 256 pixels. `icon` may be a path itself. Empty when there is none.
+    QString find(const QString& icon) const;
+
+private:
+    struct Folder {
+        QString path{}; ///< one that exists
+        int size{};     ///< pixels
+        bool isScalable{};
+    };
+
+    void addTheme(const QString& name, QStringList& seen);
+    QList<Folder> foldersOf(const QString& theme, const QStringList& subfolders,
+                            const QHash<QString, QHash<QString, QString>>& index) const;
+
+    QStringList m_folders;
+    QStringList m_loose;
+    QList<QList<Folder>> m_themes; ///< the strongest theme first; in each the best folder first
+};
+
+} // namespace fendrel

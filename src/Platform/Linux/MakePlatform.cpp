@@ -1,0 +1,74 @@
+#include "Platform/MakePlatform.h"
+
+#include "Platform/Linux/DesktopShell.h"
+#include "Platform/Linux/PortalLook.h"
+#include "Platform/Linux/StatusNotifierArea.h"
+#include "Platform/Linux/X11Accessibility.h"
+#include "Platform/Linux/X11Applications.h"
+#include "Platform/Linux/X11Displays.h"
+#include "Platform/Linux/X11IdleTime.h"
+#include "Platform/Linux/X11Panels.h"
+#include "Platform/Null/NullLanguageModel.h"
+#include "Platform/Shared/NetworkClient.h"
+#include "Platform/Shared/SettingsFile.h"
+#include "Platform/Shared/SystemClock.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString stateFolder() {
+    const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
+    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + u"/.local/state"_s;
+}
+
+} // namespace
+
+Folders standardFolders() {
+    const auto inside = [](QStandardPaths::StandardLocation location) {
+        return QStandardPaths::writableLocation(location) + u"/Fendrel"_s;
+    };
+    return {.data = inside(QStandardPaths::GenericDataLocation),
+            .config = inside(QStandardPaths::GenericConfigLocation),
+            .crashes = stateFolder() + u"/Fendrel/DiagnosticReports"_s};
+}
+
+Platform makePlatform() {
+    Platform platform;
+    platform.folders = standardFolders();
+    platform.disk = std::make_unique<Worker>(u"disk"_s);
+    platform.clock = std::make_unique<SystemClock>();
+    Clock& clock = *platform.clock;
+    platform.settings =
+        std::make_unique<SettingsFile>(platform.folders.config + u"/Settings.json"_s, *platform.disk, clock);
+
+    const auto connection = X11Connection::open(clock);
+    if (!connection)
+        qFatal("The X server does not answer any more");
+    const auto windows = std::make_shared<X11Windows>(connection, clock);
+    const auto monitors = std::make_shared<X11Monitors>(connection);
+    const auto catalog =
+        std::make_shared<ApplicationCatalog>(DesktopEntries::standardFolders(), DesktopEntryContext::ofThisSession(),
+                                             ApplicationIdentity::builtIn(), clock);
+    const auto groups = std::make_shared<ApplicationGroups>(windows, catalog, clock);
+    const auto settings = std::make_shared<DesktopSettings>(connection);
+
+    platform.applications = std::make_unique<X11Applications>(groups, settings, clock);
+    platform.accessibility = std::make_unique<X11Accessibility>(groups, clock);
+    platform.displays = std::make_unique<X11Displays>(monitors, windows);
+    platform.panels = std::make_unique<X11Panels>(windows, monitors, connection);
+    platform.look = std::make_unique<PortalLook>(settings);
+    platform.statusArea = std::make_unique<StatusNotifierArea>();
+    platform.idleTime = std::make_unique<X11IdleTime>(connection);
+    platform.shell = std::make_unique<DesktopShell>(catalog, clock);
+    platform.languageModel = std::make_unique<NullLanguageModel>();
+    platform.http = std::make_unique<NetworkClient>(clock);
+    return platform;
+}
+
+} // namespace fendrel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Ports/Platform.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace fendrel {
+
+/// What this desktop lacks for Fendrel to run, as a sentence for the user; nothing when all is there.
+/// To be asked before the toolkit opens the display, which ends the program where there is none.
+std::optional<QString> missingRequirement();
+
+/// Sets up the toolkit for this system; to be called before it starts.
+void prepareToolkit();
+
+/// The user's folders, as the environment says.
+Folders standardFolders();
+
+/// Every port with this system's adapter. Called once, on the main thread, when the toolkit runs.
+Platform makePlatform();
+
+} // namespace fendrel

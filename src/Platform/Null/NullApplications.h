@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Ports/Applications.h"
+
+namespace fendrel {
+
+class NullApplications final : public Applications {
+public:
+    QList<InstalledApp> installed() const override { return {}; }
+    QList<RunningApp> running() const override { return {}; }
+    std::optional<RunningApp> frontmost() const override { return {}; }
+    std::optional<QString> location(const QString&) const override { return {}; }
+    AppIcon icon(const QString&) const override { return {}; }
+    QString fileManager() const override { return {}; }
+    NativeApps nativeApps() const override { return {}; }
+    void open(const QString&, bool) override {}
+    void activate(qint64) override {}
+    void hide(qint64) override {}
+    void unhide(qint64) override {}
+    void quit(qint64) override {}
+    void forceQuit(qint64) override {}
+};
+
+} // namespace fendrel

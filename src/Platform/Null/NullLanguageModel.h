@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Platform/Null/AtNextTurn.h"
+#include "Ports/LanguageModel.h"
+
+#include <utility>
+
+namespace fendrel {
+
+class NullLanguageModel final : public LanguageModel {
+public:
+    bool isAvailable() const override { return false; }
+    QString unavailableReason() const override {
+        return QStringLiteral("There is no language model on this computer.");
+    }
+    void prewarm(const QString&) override {}
+    Handle ask(const Question&, Answered answered) override {
+        return atNextTurn([answered = std::move(answered)] {
+            answered(Result<Answer, QString>::failure(QStringLiteral("there is no language model")));
+        });
+    }
+};
+
+} // namespace fendrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Platform/Null/NullAccessibility.h"
+#include "Platform/Null/NullApplications.h"
+#include "Platform/Null/NullClock.h"
+#include "Platform/Null/NullDisplays.h"
+#include "Platform/Null/NullHttpClient.h"
+#include "Platform/Null/NullIdleTime.h"
+#include "Platform/Null/NullLanguageModel.h"
+#include "Platform/Null/NullPanels.h"
+#include "Platform/Null/NullSettingsStore.h"
+#include "Platform/Null/NullShell.h"
+#include "Platform/Null/NullStatusArea.h"
+#include "Platform/Null/NullSystemLook.h"
+#include "Ports/Platform.h"
+
+#include <memory>
+
+namespace fendrel {
+
+/// A system on which nothing is available and nothing happens. Its folders have no names.
+inline Platform nullPlatform() {
+    return {
+        .disk = std::make_unique<Worker>(QStringLiteral("disk")),
+        .clock = std::make_unique<NullClock>(),
+        .settings = std::make_unique<NullSettingsStore>(),
+        .applications = std::make_unique<NullApplications>(),
+        .accessibility = std::make_unique<NullAccessibility>(),
+        .displays = std::make_unique<NullDisplays>(),
+        .panels = std::make_unique<NullPanels>(),
+        .look = std::make_unique<NullSystemLook>(),
+        .statusArea = std::make_unique<NullStatusArea>(),
+        .idleTime = std::make_unique<NullIdleTime>(),
+        .shell = std::make_unique<NullShell>(),
+        .languageModel = std::make_unique<NullLanguageModel>(),
+        .http = std::make_unique<NullHttpClient>(),
+    };
+}
+
+} // namespace fendrel

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Ports/StatusArea.h"
+
+namespace fendrel {
+
+class NullStatusArea : public StatusArea {
+public:
+    bool isAvailable() const override { return false; }
+};
+
+} // namespace fendrel

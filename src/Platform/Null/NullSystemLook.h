@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Ports/SystemLook.h"
+
+namespace fendrel {
+
+class NullSystemLook final : public SystemLook {
+public:
+    bool isDark() const override { return false; }
+    bool reducesMotion() const override { return false; }
+};
+
+} // namespace fendrel
