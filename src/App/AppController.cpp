@@ -1,0 +1,165 @@
+#include "App/AppController.h"
+
+#include <algorithm>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+const QString onboardingDoneKey = u"onboardingDone"_s;
+}
+
+AppController::AppController(Platform& platform)
+    : m_platform(platform), m_store(platform.folders.data, *platform.disk),
+      m_engine(m_store, *platform.settings, *platform.clock,
+               ModeCatalog::with(platform.applications->nativeApps()),
+               [&platform](const QString& bundleID) { return platform.applications->location(bundleID).has_value(); }),
+      m_budget(*platform.settings, *platform.clock, *platform.idleTime),
+      m_preferences(*platform.settings, *platform.look), m_focus(*platform.settings, *platform.clock),
+      m_titles(*platform.accessibility),
+      m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
+      m_classifier(m_engine, *platform.languageModel, *platform.clock,
+                   VerdictCache(platform.folders.data, *platform.disk),
+                   [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
+      m_gate(*platform.clock),
+      m_drift(m_engine, m_classifier, m_focus, m_gate, m_workspace, *platform.applications, *platform.clock),
+      m_router(m_titles, m_classifier, m_drift), m_tidyUp(m_workspace, m_engine.catalog()),
+      m_feedback(*platform.settings, *platform.shell, platform.folders.crashes) {}
+
+void AppController::launch(const QString& settingsPane) {
+    wire();
+    if (m_store.problem()) {
+        onAlert({.message = tr("Fendrel couldn't read your modes"),
+                 .informativeText = *m_store.problem(),
+                 .buttons = {tr("OK")}});
+    }
+    if (m_preferences.crashReports())
+        m_feedback.offerCrashReport();
+    start();
+    showSettings(settingsPane);
+}
+
+/// Runs again when onboarding is finished.
+void AppController::start() {
+    if (!isOnboardingDone())
+        onShowOnboarding();
+    layoutDocks();
+    m_router.appDidActivate(m_platform.applications->frontmost());
+}
+
+const QStringList& AppController::settingsPanes() {
+    static const QStringList panes{u"general"_s, u"dock"_s,     u"appearance"_s,  u"widgets"_s,
+                                   u"modes"_s,   u"accounts"_s, u"permissions"_s, u"about"_s};
+    return panes;
+}
+
+void AppController::showSettings(const QString& pane) {
+    if (settingsPanes().contains(pane))
+        onShowSettings(pane);
+}
+
+void AppController::startedAgain(const QString& settingsPane) {
+    if (settingsPanes().contains(settingsPane))
+        onShowSettings(settingsPane);
+    else if (!isOnboardingDone())
+        onShowOnboarding();
+    else
+        onAttention();
+}
+
+bool AppController::isOnboardingDone() const {
+    return m_platform.settings->flag(onboardingDoneKey);
+}
+
+void AppController::finishOnboarding(const QStringList& templateIDs) {
+    QList<Mode> chosen;
+    for (const Mode& mode : m_engine.catalog().templates) {
+        if (templateIDs.contains(mode.id))
+            chosen.append(m_engine.seeded(mode));
+    }
+    if (chosen.isEmpty()) {
+        for (const Mode& mode : m_engine.catalog().starterTemplates())
+            chosen.append(m_engine.seeded(mode));
+    }
+    m_platform.settings->set(onboardingDoneKey, true);
+    m_engine.replaceModes(chosen);
+    m_engine.commit(chosen.first());
+    Q_EMIT onboardingChanged();
+    start();
+}
+
+QList<Display> AppController::dockScreens() const {
+    return fendrel::dockScreens(m_platform.displays->all(), m_preferences.dockDisplay(), m_activeDisplay);
+}
+
+void AppController::layoutDocks() {
+    const ContinuousTime now = m_platform.clock->continuousNow();
+    const QList<Display> displays = dockScreens();
+    std::erase_if(m_autoHide, [&](const auto& entry) {
+        return std::ranges::find(displays, entry.first, &Display::id) == displays.end();
+    });
+    for (const Display& display : displays)
+        m_autoHide[display.id].setEnabled(m_preferences.autoHide(), now);
+    scheduleDockTimer();
+    onLayoutDocks();
+    Q_EMIT dockVisibilityChanged();
+}
+
+void AppController::updateActiveDisplay() {
+    if (m_preferences.dockDisplay() != DockDisplay::active)
+        return;
+    const auto window = m_titles.window();
+    const auto frame = window ? m_platform.accessibility->frame(*window) : std::nullopt;
+    const auto display = frame ? displayAt(m_platform.displays->all(), frame->center()) : std::nullopt;
+    if (!display || display->id == m_activeDisplay)
+        return;
+    m_activeDisplay = display->id;
+    layoutDocks();
+}
+
+bool AppController::isDockShown(const QString& displayID) const {
+    const auto found = m_autoHide.find(displayID);
+    return found == m_autoHide.end() || found->second.isShown();
+}
+
+void AppController::dockPointerChanged(const QString& displayID, bool isInside) {
+    m_autoHide[displayID].setPointerInside(isInside, m_platform.clock->continuousNow());
+    scheduleDockTimer();
+    Q_EMIT dockVisibilityChanged();
+}
+
+void AppController::dockHoldChanged(const QString& displayID, bool isHeld) {
+    m_autoHide[displayID].setHeld(isHeld, m_platform.clock->continuousNow());
+    scheduleDockTimer();
+    Q_EMIT dockVisibilityChanged();
+}
+
+/// The docks are looked after thirty times a second, but only while time alone can change one of them.
+void AppController::scheduleDockTimer() {
+    constexpr auto interval = Clock::Duration(1s) / 30;
+    constexpr auto tolerance = Clock::Duration(1s) / 150;
+    const bool isNeeded =
+        std::ranges::any_of(m_autoHide, [](const auto& entry) { return entry.second.isWaiting(); });
+    if (!isNeeded)
+        m_dockTimer.reset();
+    else if (!m_dockTimer)
+        m_dockTimer = m_platform.clock->every(interval, tolerance, [this] { updateAutoHide(); });
+}
+
+void AppController::updateAutoHide() {
+    const ContinuousTime now = m_platform.clock->continuousNow();
+    bool hasChanged = false;
+    for (auto& [display, autoHide] : m_autoHide) {
+        const bool wasShown = autoHide.isShown();
+        autoHide.tick(now);
+        hasChanged |= autoHide.isShown() != wasShown;
+    }
+    if (!hasChanged)
+        return;
+    scheduleDockTimer();
+    Q_EMIT dockVisibilityChanged();
+}
+
+} // namespace fendrel

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "App/Alert.h"
+#include "App/EventRouter.h"
+#include "App/Feedback.h"
+#include "App/Preferences.h"
+#include "App/TidyUp.h"
+#include "App/Workspace.h"
+#include "Dock/AutoHide.h"
+#include "Dock/DockPlacement.h"
+#include "Focus/Classifier.h"
+#include "Focus/DriftBudget.h"
+#include "Focus/DriftHandling.h"
+#include "Focus/FocusSession.h"
+#include "Focus/Gate.h"
+#include "Focus/WindowTitles.h"
+#include "Modes/ModeEngine.h"
+#include "Modes/ModeStore.h"
+#include "Ports/Platform.h"
+
+#include <QObject>
+
+#include <map>
+
+namespace fendrel {
+
+/// Owns every service, in the order of their creation, and starts and stops them. Main thread.
+class AppController : public QObject {
+    Q_OBJECT
+public:
+    /// The platform has to outlive the controller.
+    explicit AppController(Platform& platform);
+    ~AppController() override;
+
+    // What the interface does for the controller
+    std::function<void()> onShowOnboarding = [] {};
+    std::function<void(const QString& pane)> onShowSettings = [](const QString&) {};
+    std::function<void(const Alert&)> onAlert = [](const Alert&) {};
+    std::function<void()> onLayoutDocks = [] {}; ///< make the panels match `dockScreens`
+    std::function<void()> onAttention = [] {};   ///< the user started the program once more
+    std::function<void()> onFocusDock = [] {};   ///< lead the keyboard to the dock
+    std::function<void()> onQuit = [] {};
+
+    /// Everything that happens once, after the hooks are set. A known pane opens the settings there.
+    void launch(const QString& settingsPane = {});
+    void quit() { onQuit(); }
+
+    static const QStringList& settingsPanes();
+    void showSettings(const QString& pane); ///< an unknown pane opens nothing
+    /// The program was started a second time, perhaps for a settings pane.
+    void startedAgain(const QString& settingsPane);
+
+    bool isOnboardingDone() const;
+    void showOnboarding() { onShowOnboarding(); }
+    /// Starts the user off with these templates, in the catalogue's order; none of them known: with the starters.
+    void finishOnboarding(const QStringList& templateIDs);
+
+    // The docks
+    QList<Display> dockScreens() const;
+    bool isDockShown(const QString& displayID) const;
+    void dockPointerChanged(const QString& displayID, bool isInside);
+    void dockHoldChanged(const QString& displayID, bool isHeld); ///< a menu of the dock opened or closed
+    void updateAutoHide();
+    void focusDock() { onFocusDock(); }
+    bool isDockTimerRunning() const { return m_dockTimer.has_value(); }
+
+    Platform& platform() { return m_platform; }
+    ModeEngine& engine() { return m_engine; }
+    const ModeEngine& engine() const { return m_engine; }
+    DriftBudget& budget() { return m_budget; }
+    Preferences& preferences() { return m_preferences; }
+    FocusSession& focus() { return m_focus; }
+    WindowTitles& titles() { return m_titles; }
+    Workspace& workspace() { return m_workspace; }
+    Classifier& classifier() { return m_classifier; }
+    Gate& gate() { return m_gate; }
+    DriftHandling& drift() { return m_drift; }
+
+Q_SIGNALS:
+    void dockVisibilityChanged();
+    void onboardingChanged();
+
+private:
+    void wire();
+    void start();
+    void layoutDocks();
+    void scheduleDockTimer();
+    void updateActiveDisplay();
+    void modeDidChange(const Mode& mode);
+    void focusDidChange(bool isOn);
+    std::optional<Mode> spendingMode() const;
+
+    Platform& m_platform;
+    ModeStore m_store;
+    ModeEngine m_engine;
+    DriftBudget m_budget;
+    Preferences m_preferences;
+    FocusSession m_focus;
+    WindowTitles m_titles;
+    Workspace m_workspace;
+    Classifier m_classifier;
+    Gate m_gate;
+    DriftHandling m_drift;
+    EventRouter m_router;
+    TidyUp m_tidyUp;
+    Feedback m_feedback;
+
+    std::map<QString, AutoHide> m_autoHide; ///< by display
+    std::optional<QString> m_activeDisplay;
+    std::optional<Handle> m_dockTimer;
+};
+
+} // namespace fendrel

@@ -1,0 +1,38 @@
+#include "App/EventRouter.h"
+
+#include "Focus/Classifier.h"
+#include "Focus/DriftHandling.h"
+
+#include <QCoreApplication>
+
+namespace fendrel {
+
+EventRouter::EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift)
+    : m_titles(titles), m_classifier(classifier), m_drift(drift) {}
+
+void EventRouter::appDidActivate(const std::optional<RunningApp>& app) {
+    if (!isOnboardingDone() || (app && app->pid == QCoreApplication::applicationPid()))
+        return;
+    m_drift.frontChanged(app);
+    // A change of the front is judged once, by what follows it. Coming back to the same window changes nothing there,
+    // yet it is a new attempt to use what may be gated.
+    const auto before = m_titles.front();
+    m_titles.track(app);
+    if (m_titles.front() == before)
+        windowDidChange(before);
+}
+
+void EventRouter::windowDidChange(const std::optional<WindowTitles::Front>& front) {
+    if (!isOnboardingDone())
+        return;
+    if (front)
+        m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
+    else
+        m_classifier.clearFront();
+}
+
+void EventRouter::judgeFrontAgain() {
+    windowDidChange(m_titles.front());
+}
+
+} // namespace fendrel

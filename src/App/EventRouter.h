@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Focus/WindowTitles.h"
+
+#include <functional>
+#include <optional>
+
+namespace fendrel {
+
+class Classifier;
+class DriftHandling;
+
+/// Takes what happens on the desktop to the parts that judge it. Main thread.
+class EventRouter {
+public:
+    EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift);
+
+    std::function<bool()> isOnboardingDone = [] { return true; };
+
+    /// Another application came to the front; nothing: no window is active.
+    void appDidActivate(const std::optional<RunningApp>& app);
+    /// The front application or the title of its window changed.
+    void windowDidChange(const std::optional<WindowTitles::Front>& front);
+    /// Judges what is in front once more, when what it is judged by has changed.
+    void judgeFrontAgain();
+
+private:
+    WindowTitles& m_titles;
+    Classifier& m_classifier;
+    DriftHandling& m_drift;
+};
+
+} // namespace fendrel

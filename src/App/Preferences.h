@@ -1,0 +1,149 @@
+#pragma once
+
+#include "App/DockAppearance.h"
+#include "App/PreferenceTypes.h"
+#include "Base/EnumNames.h"
+#include "Ports/SettingsStore.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace fendrel {
+
+class SystemLook;
+
+/// The user's settings. Each is read once at construction and stored the moment it is set. Main thread.
+/// All properties share one change signal: settings change rarely, and whoever shows one shows it again cheaply.
+class Preferences : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(fendrel::preferences::DockSize dockSize READ dockSize WRITE setDockSize NOTIFY changed)
+    Q_PROPERTY(bool autoHide READ autoHide WRITE setAutoHide NOTIFY changed)
+    Q_PROPERTY(bool magnify READ magnify WRITE setMagnify NOTIFY changed)
+    Q_PROPERTY(bool focusGlow READ focusGlow WRITE setFocusGlow NOTIFY changed)
+    Q_PROPERTY(bool sounds READ sounds WRITE setSounds NOTIFY changed)
+    Q_PROPERTY(int modeModifiers READ modeModifiers WRITE setModeModifiers NOTIFY changed)
+    Q_PROPERTY(int appModifiers READ appModifiers WRITE setAppModifiers NOTIFY changed)
+    Q_PROPERTY(bool clickToHide READ clickToHide WRITE setClickToHide NOTIFY changed)
+    Q_PROPERTY(bool tidyOnSwitch READ tidyOnSwitch WRITE setTidyOnSwitch NOTIFY changed)
+    Q_PROPERTY(bool claudePings READ claudePings WRITE setClaudePings NOTIFY changed)
+    Q_PROPERTY(bool crashReports READ crashReports WRITE setCrashReports NOTIFY changed)
+    Q_PROPERTY(QString breakThrough READ breakThrough WRITE setBreakThrough NOTIFY changed)
+    Q_PROPERTY(fendrel::preferences::Strictness strictness READ strictness WRITE setStrictness NOTIFY changed)
+    Q_PROPERTY(fendrel::preferences::DockPosition dockPosition READ dockPosition WRITE setDockPosition NOTIFY changed)
+    Q_PROPERTY(fendrel::preferences::DockDisplay dockDisplay READ dockDisplay WRITE setDockDisplay NOTIFY changed)
+    Q_PROPERTY(bool matchSystem READ matchSystem WRITE setMatchSystem NOTIFY changed)
+    Q_PROPERTY(bool showsDark READ showsDark NOTIFY changed)
+    Q_PROPERTY(fendrel::DockAppearance appearance READ appearance WRITE setAppearance NOTIFY changed)
+
+public:
+    Preferences(SettingsStore& store, SystemLook& look);
+    ~Preferences() override;
+
+    DockSize dockSize() const { return m_dockSize.value; }
+    void setDockSize(DockSize size) { change(m_dockSize, size); }
+    bool autoHide() const { return m_autoHide.value; }
+    void setAutoHide(bool on) { change(m_autoHide, on); }
+    bool magnify() const { return m_magnify.value; }
+    void setMagnify(bool on) { change(m_magnify, on); }
+    bool focusGlow() const { return m_focusGlow.value; }
+    void setFocusGlow(bool on) { change(m_focusGlow, on); }
+    bool sounds() const { return m_sounds.value; }
+    void setSounds(bool on) { change(m_sounds, on); }
+    const std::optional<Shortcut>& focusShortcut() const { return m_focusShortcut.value; }
+    void setFocusShortcut(const std::optional<Shortcut>& shortcut) { change(m_focusShortcut, shortcut); }
+    int modeModifiers() const { return m_modeModifiers.value; }
+    void setModeModifiers(int modifiers) { change(m_modeModifiers, modifiers); }
+    int appModifiers() const { return m_appModifiers.value; }
+    void setAppModifiers(int modifiers) { change(m_appModifiers, modifiers); }
+    bool clickToHide() const { return m_clickToHide.value; }
+    void setClickToHide(bool on) { change(m_clickToHide, on); }
+    bool tidyOnSwitch() const { return m_tidyOnSwitch.value; }
+    void setTidyOnSwitch(bool on) { change(m_tidyOnSwitch, on); }
+    bool claudePings() const { return m_claudePings.value; }
+    void setClaudePings(bool on) { change(m_claudePings, on); }
+    bool crashReports() const { return m_crashReports.value; }
+    void setCrashReports(bool on) { change(m_crashReports, on); }
+    const QString& breakThrough() const { return m_breakThrough.value; }
+    void setBreakThrough(const QString& words) { change(m_breakThrough, words); }
+    Strictness strictness() const { return m_strictness.value; }
+    void setStrictness(Strictness strictness) { change(m_strictness, strictness); }
+    DockPosition dockPosition() const { return m_dockPosition.value; }
+    void setDockPosition(DockPosition position) { change(m_dockPosition, position); }
+    DockDisplay dockDisplay() const { return m_dockDisplay.value; }
+    void setDockDisplay(DockDisplay display) { change(m_dockDisplay, display); }
+    const DockAppearance& lightAppearance() const { return m_lightAppearance.value; }
+    const DockAppearance& darkAppearance() const { return m_darkAppearance.value; }
+    bool matchSystem() const { return m_matchSystem.value; }
+    void setMatchSystem(bool on) { change(m_matchSystem, on); }
+
+    bool systemIsDark() const { return m_systemIsDark; }
+    /// Which of the two looks is shown and edited while the user edits one; not stored.
+    void setEditingDark(std::optional<bool> editing);
+
+    bool showsDark() const;
+    const DockAppearance& appearance() const { return showsDark() ? darkAppearance() : lightAppearance(); }
+    void setAppearance(const DockAppearance& look);
+
+    /// The label of the hot key of the mode or of the dock's app at a position, which counts from 0; nothing when
+    /// that position has no hot key.
+    std::optional<QString> modeShortcut(int index) const;
+    std::optional<QString> appShortcut(int index) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    template<class Value>
+    struct Setting {
+        QString key;
+        Value value;
+    };
+
+    static StoredValue stored(bool value) { return value; }
+    static StoredValue stored(int value) { return qint64{value}; }
+    static StoredValue stored(const QString& value) { return value; }
+    static StoredValue stored(const std::optional<Shortcut>& value) { return toJson(value); }
+    static StoredValue stored(const DockAppearance& value) { return toJson(value); }
+    template<class Enumeration>
+        requires std::is_enum_v<Enumeration>
+    static StoredValue stored(Enumeration value) {
+        return enumName(value);
+    }
+
+    template<class Value>
+    void change(Setting<Value>& setting, const Value& value) {
+        // Stored even when it equals the default in force: the user chose it, and defaults may change.
+        m_store.set(setting.key, stored(value));
+        if (setting.value == value)
+            return;
+        setting.value = value;
+        Q_EMIT changed();
+    }
+
+    SettingsStore& m_store;
+    SystemLook& m_look;
+    Setting<DockSize> m_dockSize;
+    Setting<bool> m_autoHide;
+    Setting<bool> m_magnify;
+    Setting<bool> m_focusGlow;
+    Setting<bool> m_sounds;
+    Setting<std::optional<Shortcut>> m_focusShortcut;
+    Setting<int> m_modeModifiers;
+    Setting<int> m_appModifiers;
+    Setting<bool> m_clickToHide;
+    Setting<bool> m_tidyOnSwitch;
+    Setting<bool> m_claudePings;
+    Setting<bool> m_crashReports;
+    Setting<QString> m_breakThrough;
+    Setting<Strictness> m_strictness;
+    Setting<DockPosition> m_dockPosition;
+    Setting<DockDisplay> m_dockDisplay;
+    Setting<DockAppearance> m_lightAppearance;
+    Setting<DockAppearance> m_darkAppearance;
+    Setting<bool> m_matchSystem;
+    bool m_systemIsDark = false;
+    std::optional<bool> m_editingDark;
+};
+
+} // namespace fendrel

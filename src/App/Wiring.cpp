@@ -1,0 +1,80 @@
+// How the services meet: every hook is set here and nowhere else.
+
+#include "App/AppController.h"
+#include "Modes/EntryDelay.h"
+
+namespace fendrel {
+
+void AppController::wire() {
+    Applications& applications = *m_platform.applications;
+    applications.onInstalledChanged = [this] { m_workspace.refreshInstalled(); };
+    applications.onRunningChanged = [this] {
+        m_workspace.refreshRunning();
+        m_drift.runningChanged();
+    };
+    applications.onActivated = [this](const std::optional<RunningApp>& app) {
+        m_workspace.refreshRunning();
+        m_router.appDidActivate(app);
+        updateActiveDisplay();
+    };
+    m_titles.onChange = [this](const std::optional<WindowTitles::Front>& front) {
+        m_router.windowDidChange(front);
+        updateActiveDisplay();
+    };
+
+    m_platform.displays->onChanged = [this] { layoutDocks(); };
+    m_platform.displays->onSpaceChanged = [this] { updateAutoHide(); };
+    connect(&m_preferences, &Preferences::changed, this, &AppController::layoutDocks);
+
+    m_engine.entryDelay = [this](const Mode& target) {
+        return entryDelay(target, m_budget.isUsedUp(target), m_focus.isOn(), m_preferences.strictness());
+    };
+    m_engine.onCommit = [this](const Mode& mode) { modeDidChange(mode); };
+    m_focus.onChange = [this](bool isOn) { focusDidChange(isOn); };
+    m_budget.current = [this] { return std::optional(m_engine.current()); };
+    m_budget.spending = [this] { return spendingMode(); };
+    m_router.isOnboardingDone = [this] { return isOnboardingDone(); };
+    m_drift.isOnboardingDone = [this] { return isOnboardingDone(); };
+    m_feedback.showAlert = [this](const Alert& alert) { onAlert(alert); };
+}
+
+AppController::~AppController() {
+    // The ports outlive the services: nothing may reach a service through them from now on.
+    m_platform.applications->onInstalledChanged = [] {};
+    m_platform.applications->onRunningChanged = [] {};
+    m_platform.applications->onActivated = [](const auto&) {};
+    m_platform.displays->onChanged = [] {};
+    m_platform.displays->onSpaceChanged = [] {};
+    m_platform.accessibility->onTrustChanged = [] {};
+    m_platform.languageModel->onAvailabilityChanged = [] {};
+}
+
+/// After every committed switch.
+void AppController::modeDidChange(const Mode& mode) {
+    if (m_preferences.tidyOnSwitch())
+        m_tidyUp.tidy(mode);
+    m_drift.modeChanged();
+    m_router.judgeFrontAgain();
+}
+
+void AppController::focusDidChange(bool isOn) {
+    if (isOn)
+        m_router.judgeFrontAgain();
+    else
+        m_drift.focusStopped();
+}
+
+/// The mode whose allowance is being spent now: the current one, while something that is certainly another mode's is in
+/// front.
+std::optional<Mode> AppController::spendingMode() const {
+    const Mode& current = m_engine.current();
+    const auto& front = m_classifier.front();
+    if (current.dailyBudget <= Seconds{} || !front || !front->verdict)
+        return {};
+    const Verdict& verdict = *front->verdict;
+    const bool isElsewhere = verdict.certainty == Certainty::certain && verdict.modeID &&
+                             *verdict.modeID != current.id && m_engine.mode(*verdict.modeID);
+    return isElsewhere ? std::optional(current) : std::nullopt;
+}
+
+} // namespace fendrel
