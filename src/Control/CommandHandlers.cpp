@@ -1,0 +1,226 @@
+#include "Control/CommandHandlers.h"
+
+#include "App/AppController.h"
+#include "Control/Duration.h"
+#include "Control/SettingsAccess.h"
+#include "Control/Status.h"
+#include "Modes/SiteName.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace fendrel::control {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Answer = Result<QJsonValue, QString>;
+
+Answer done() {
+    return QJsonValue();
+}
+
+} // namespace
+
+CommandHandlers::CommandHandlers(AppController& controller) : m_controller(controller) {
+    ModeEngine& engine = controller.engine();
+    m_handlers = {
+        {u"status"_s, [&](const Request&) -> Answer { return QJsonValue(status(controller)); }},
+        {u"watch"_s, [](const Request&) { return done(); }}, // the server streams
+        {u"modes"_s, [this](const Request&) { return modes(); }},
+        {u"switch"_s, [this](const Request& request) { return switchMode(request.arguments[0]); }},
+        {u"focus start"_s, [this](const Request& request) { return startFocus(request); }},
+        {u"focus stop"_s,
+         [&](const Request&) {
+             controller.focus().stop();
+             return done();
+         }},
+        {u"gate"_s, [this](const Request& request) { return answerGate(request.arguments[0]); }},
+        {u"correct"_s, [this](const Request& request) { return correct(request.arguments[0]); }},
+        {u"explain"_s, [&](const Request&) -> Answer { return QJsonValue(explanation(controller)); }},
+        {u"mode add-app"_s,
+         [this, &engine](const Request& request) {
+             return editMode(request.arguments[0], [&](const QString& id) {
+                 engine.addApp(request.arguments[1], id);
+                 return done();
+             });
+         }},
+        {u"mode remove-app"_s,
+         [this, &engine](const Request& request) {
+             return editMode(request.arguments[0], [&](const QString& id) {
+                 if (!engine.mode(id)->apps.contains(request.arguments[1]))
+                     return Answer::failure(u"%1 has no application %2"_s.arg(id, request.arguments[1]));
+                 engine.removeApp(request.arguments[1], id);
+                 return done();
+             });
+         }},
+        {u"mode add-site"_s,
+         [this, &engine](const Request& request) {
+             return editMode(request.arguments[0], [&](const QString& id) {
+                 const auto site = siteName(request.arguments[1]);
+                 if (!site)
+                     return Answer::failure(u"'%1' names no web site"_s.arg(request.arguments[1]));
+                 engine.addSite(*site, id);
+                 return done();
+             });
+         }},
+        {u"mode remove-site"_s,
+         [this, &engine](const Request& request) {
+             return editMode(request.arguments[0], [&](const QString& id) {
+                 const QString site = siteName(request.arguments[1]).value_or(request.arguments[1]);
+                 if (!engine.mode(id)->sites.contains(site))
+                     return Answer::failure(u"%1 has no site %2"_s.arg(id, site));
+                 engine.removeSite(site, id);
+                 return done();
+             });
+         }},
+        {u"settings list"_s,
+         [&](const Request&) -> Answer {
+             QJsonObject all;
+             for (const QString& name : SettingsAccess::names(controller.preferences()))
+                 all.insert(name, *SettingsAccess::get(controller.preferences(), name));
+             return QJsonValue(all);
+         }},
+        {u"settings get"_s, [this](const Request& request) { return getSetting(request.arguments[0]); }},
+        {u"settings set"_s,
+         [this](const Request& request) { return setSetting(request.arguments[0], request.arguments[1]); }},
+        {u"settings open"_s, [this](const Request& request) { return openSettings(request.arguments[0]); }},
+        {u"onboarding finish"_s, [this](const Request& request) { return finishOnboarding(request.arguments); }},
+        {u"dock focus"_s,
+         [&](const Request&) {
+             controller.focusDock();
+             return done();
+         }},
+        {u"quit"_s,
+         [&](const Request&) {
+             controller.quit();
+             return done();
+         }},
+        {u"activate"_s,
+         [&](const Request& request) {
+             controller.startedAgain(request.arguments.value(0));
+             return done();
+         }},
+    };
+}
+
+Answer CommandHandlers::run(const Request& request) {
+    const auto handler = m_handlers.constFind(request.command);
+    if (handler == m_handlers.constEnd())
+        return Answer::failure(u"unknown command '%1'"_s.arg(request.command));
+    const Command* known = command(request.command);
+    const auto least = std::ranges::count(known->parameters, Parameter::Count::one, &Parameter::count);
+    if (request.arguments.size() < least)
+        return Answer::failure(u"usage: "_s + usage(*known));
+    return (*handler)(request);
+}
+
+Answer CommandHandlers::modes() const {
+    QJsonArray list;
+    for (const Mode& mode : m_controller.engine().modes()) {
+        list.append(QJsonObject{{u"id"_s, mode.id},
+                                {u"name"_s, mode.name},
+                                {u"symbol"_s, mode.symbol},
+                                {u"tint"_s, hex(mode.tint)},
+                                {u"current"_s, mode.id == m_controller.engine().current().id},
+                                {u"apps"_s, QJsonArray::fromStringList(mode.apps)},
+                                {u"sites"_s, QJsonArray::fromStringList(mode.sites)},
+                                {u"entryDelay"_s, mode.entryDelay.count()},
+                                {u"dailyBudget"_s, mode.dailyBudget.count()}});
+    }
+    return QJsonValue(list);
+}
+
+Answer CommandHandlers::editMode(const QString& id, const std::function<Answer(const QString&)>& edit) {
+    if (!m_controller.engine().mode(id))
+        return Answer::failure(u"unknown mode '%1'"_s.arg(id));
+    return edit(id);
+}
+
+Answer CommandHandlers::switchMode(const QString& id) {
+    return editMode(id, [this](const QString& known) {
+        ModeEngine& engine = m_controller.engine();
+        engine.requestSwitch(Mode(*engine.mode(known)));
+        return done();
+    });
+}
+
+Answer CommandHandlers::startFocus(const Request& request) {
+    const auto option = request.options.constFind(u"for"_s);
+    if (option == request.options.constEnd()) {
+        m_controller.focus().start();
+        return done();
+    }
+    const auto duration = parseDuration(*option);
+    if (!duration)
+        return Answer::failure(u"'%1' is no duration: 25m or 1h30m is expected"_s.arg(*option));
+    m_controller.focus().start(*duration);
+    return done();
+}
+
+Answer CommandHandlers::answerGate(const QString& answer) {
+    if (!gateAnswers().contains(answer))
+        return Answer::failure(u"'%1' is no answer: one of %2 is expected"_s.arg(answer, gateAnswers().join(u", ")));
+    if (!m_controller.gate().blocked())
+        return Answer::failure(u"the gate is closed"_s);
+    DriftHandling& drift = m_controller.drift();
+    if (answer == "stay"_L1)
+        drift.stay();
+    else if (answer == "switch"_L1)
+        drift.switchToOwner();
+    else if (answer == "allow-once"_L1)
+        drift.allowOnce();
+    else
+        drift.addToMode();
+    return done();
+}
+
+Answer CommandHandlers::correct(const QString& mode) {
+    if (!m_controller.classifier().front())
+        return Answer::failure(u"nothing in front is judged"_s);
+    if (mode == "none"_L1) {
+        m_controller.drift().correctFront({});
+        return done();
+    }
+    return editMode(mode, [this](const QString& id) {
+        m_controller.drift().correctFront(id);
+        return done();
+    });
+}
+
+Answer CommandHandlers::getSetting(const QString& name) const {
+    const auto value = SettingsAccess::get(m_controller.preferences(), name);
+    if (!value)
+        return Answer::failure(u"unknown setting '%1'"_s.arg(name));
+    return *value;
+}
+
+Answer CommandHandlers::setSetting(const QString& name, const QString& text) {
+    if (const auto problem = SettingsAccess::set(m_controller.preferences(), name, text))
+        return Answer::failure(*problem);
+    return done();
+}
+
+Answer CommandHandlers::openSettings(const QString& pane) {
+    if (!AppController::settingsPanes().contains(pane)) {
+        return Answer::failure(
+            u"unknown pane '%1': one of %2 is expected"_s.arg(pane, AppController::settingsPanes().join(u", ")));
+    }
+    m_controller.showSettings(pane);
+    return done();
+}
+
+Answer CommandHandlers::finishOnboarding(const QStringList& templates) {
+    for (const QString& id : templates) {
+        const auto& known = m_controller.engine().catalog().templates;
+        if (std::ranges::find(known, id, &Mode::id) == known.end())
+            return Answer::failure(u"unknown mode '%1'"_s.arg(id));
+    }
+    m_controller.finishOnboarding(templates);
+    return done();
+}
+
+} // namespace fendrel::control

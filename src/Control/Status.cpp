@@ -1,0 +1,194 @@
+#include "Control/Status.h"
+
+#include "App/AppController.h"
+#include "Base/EnumNames.h"
+#include "Base/Overloaded.h"
+
+#include <QJsonArray>
+
+#include <cmath>
+
+namespace fendrel::control {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QJsonValue text(const std::optional<QString>& value) {
+    return value ? QJsonValue(*value) : QJsonValue();
+}
+
+double tenths(Seconds seconds) {
+    return std::round(seconds.count() * 10) / 10;
+}
+
+QJsonValue pending(const ModeEngine& engine, StatusForm form) {
+    if (!engine.pending())
+        return {};
+    QJsonObject object{{u"id"_s, engine.pending()->target.id}};
+    if (form == StatusForm::marker)
+        object.insert(u"due"_s, static_cast<qint64>(engine.pending()->due.time_since_epoch().count()));
+    else
+        object.insert(u"secondsLeft"_s, tenths(engine.pendingRemaining()));
+    return object;
+}
+
+QJsonObject focus(const FocusSession& session) {
+    const auto& end = session.endsAt();
+    return {{u"on"_s, session.isOn()},
+            {u"endsAt"_s, end ? QJsonValue(toDateTime(*end).toString(Qt::ISODateWithMs)) : QJsonValue()}};
+}
+
+QJsonValue front(const WindowTitles& titles) {
+    const auto& front = titles.front();
+    if (!front)
+        return {};
+    return QJsonObject{{u"bundleID"_s, front->bundleID},
+                       {u"appName"_s, front->appName},
+                       {u"title"_s, text(front->title)},
+                       {u"pid"_s, front->pid}};
+}
+
+QJsonObject subjectObject(const Subject& subject) {
+    return std::visit(Overloaded{
+                          [](const AppSubject& app) {
+                              return QJsonObject{{u"kind"_s, u"app"_s},
+                                                 {u"bundleID"_s, app.bundleID},
+                                                 {u"name"_s, app.name},
+                                                 {u"title"_s, text(app.title)}};
+                          },
+                          [](const SiteSubject& site) {
+                              return QJsonObject{
+                                  {u"kind"_s, u"site"_s}, {u"host"_s, site.host}, {u"title"_s, site.title}};
+                          },
+                      },
+                      subject);
+}
+
+QJsonValue verdictObject(const std::optional<Verdict>& verdict) {
+    if (!verdict)
+        return {};
+    return QJsonObject{{u"modeID"_s, text(verdict->modeID)},
+                       {u"certainty"_s, enumName(verdict->certainty)},
+                       {u"what"_s, verdict->what},
+                       {u"source"_s, enumName(verdict->source)}};
+}
+
+QJsonValue judgement(const Classifier& classifier) {
+    const auto& front = classifier.front();
+    if (!front)
+        return {};
+    return QJsonObject{{u"subject"_s, subjectObject(front->subject)},
+                       {u"state"_s, front->verdict ? u"judged"_s : u"classifying"_s},
+                       {u"verdict"_s, verdictObject(front->verdict)}};
+}
+
+QJsonValue gate(const Gate& gate, StatusForm form) {
+    const auto& blocked = gate.blocked();
+    if (!blocked)
+        return {};
+    QJsonObject object{{u"kind"_s, u"app"_s},
+                       {u"bundleID"_s, blocked->bundleID},
+                       {u"name"_s, blocked->name},
+                       {u"owner"_s, blocked->owner ? QJsonValue(blocked->owner->id) : QJsonValue()},
+                       {u"note"_s, text(blocked->note)}};
+    if (form == StatusForm::shown)
+        object.insert(u"secondsWaited"_s, tenths(gate.waited()));
+    return object;
+}
+
+QJsonObject budgets(AppController& controller) {
+    QJsonObject object;
+    for (const Mode& mode : controller.engine().modes()) {
+        const DriftBudget& budget = controller.budget();
+        object.insert(mode.id, QJsonObject{{u"used"_s, tenths(budget.used(mode.id))},
+                                           {u"remaining"_s, tenths(budget.remaining(mode))},
+                                           {u"inMode"_s, tenths(budget.inMode(mode.id))}});
+    }
+    return object;
+}
+
+QJsonObject dock(AppController& controller) {
+    QJsonArray displays;
+    for (const Display& display : controller.dockScreens())
+        displays.append(QJsonObject{{u"id"_s, display.id}, {u"shown"_s, controller.isDockShown(display.id)}});
+    return {{u"displays"_s, displays}};
+}
+
+} // namespace
+
+QJsonObject status(AppController& controller, StatusForm form) {
+    const Mode& mode = controller.engine().current();
+    return {
+        {u"mode"_s, QJsonObject{{u"id"_s, mode.id}, {u"name"_s, mode.name}}},
+        {u"pending"_s, pending(controller.engine(), form)},
+        {u"focus"_s, focus(controller.focus())},
+        {u"front"_s, front(controller.titles())},
+        {u"judgement"_s, judgement(controller.classifier())},
+        {u"gate"_s, gate(controller.gate(), form)},
+        {u"budgets"_s, budgets(controller)},
+        {u"dock"_s, dock(controller)},
+        {u"onboarding"_s, QJsonObject{{u"done"_s, controller.isOnboardingDone()}}},
+    };
+}
+
+QJsonObject explanation(AppController& controller) {
+    const auto& front = controller.classifier().front();
+    if (!front) {
+        const bool isSomethingInFront = controller.titles().front().has_value();
+        return {{u"subject"_s, QJsonValue()},
+                {u"verdict"_s, QJsonValue()},
+                {u"because"_s,
+                 QJsonArray{isSomethingInFront
+                                ? u"No mode lists what is in front, nothing is remembered of it, and it isn't asked about."_s
+                                : u"Nothing is in front."_s}}};
+    }
+    QJsonArray because;
+    if (!front->verdict) {
+        because.append(u"The language model is being asked."_s);
+    } else {
+        const Verdict& verdict = *front->verdict;
+        const Mode* mode = verdict.modeID ? controller.engine().mode(*verdict.modeID) : nullptr;
+        const QString belongs = mode ? u"belongs to "_s + mode->name : u"belongs to no mode"_s;
+        switch (verdict.source) {
+        case Source::rule:
+            because.append(u"It %1, which lists it."_s.arg(belongs));
+            break;
+        case Source::you:
+            because.append(u"You said that it %1."_s.arg(belongs));
+            break;
+        case Source::model:
+            because.append(u"The language model said that it %1 (%2), as: %3."_s.arg(
+                belongs, enumName(verdict.certainty), verdict.what));
+            break;
+        }
+        if (const auto* app = std::get_if<AppSubject>(&front->subject)) {
+            switch (controller.drift().decide(verdict, *app)) {
+            case drift::Decision::noMode:
+                because.append(u"What belongs to no mode is never stopped."_s);
+                break;
+            case drift::Decision::currentMode:
+                because.append(u"That is the current mode."_s);
+                break;
+            case drift::Decision::notCertain:
+                because.append(u"Only what is certain is stopped."_s);
+                break;
+            case drift::Decision::allowedOnce:
+                because.append(u"You allowed it for this session."_s);
+                break;
+            case drift::Decision::noFocus:
+                because.append(u"That isn't the current mode, but without a focus session nothing is stopped."_s);
+                break;
+            case drift::Decision::notInFront:
+            case drift::Decision::gate:
+                because.append(u"That isn't the current mode, and a focus session is on: it is stopped."_s);
+                break;
+            }
+        }
+    }
+    return {{u"subject"_s, subjectObject(front->subject)},
+            {u"verdict"_s, verdictObject(front->verdict)},
+            {u"because"_s, because}};
+}
+
+} // namespace fendrel::control

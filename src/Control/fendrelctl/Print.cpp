@@ -1,0 +1,66 @@
+#include "Control/fendrelctl/Print.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace fendrel::control {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString scalar(const QJsonValue& value) {
+    if (value.isNull() || value.isUndefined())
+        return u"-"_s;
+    if (value.isBool())
+        return value.toBool() ? u"yes"_s : u"no"_s;
+    return value.toVariant().toString();
+}
+
+void print(QString& text, const QJsonValue& value, int depth) {
+    const QString indent(depth * 2, u' ');
+    if (value.isArray()) {
+        for (const QJsonValue& item : value.toArray()) {
+            if (item.isObject() || item.isArray())
+                print(text, item, depth);
+            else
+                text += indent + scalar(item) + u'\n';
+        }
+        return;
+    }
+    const QJsonObject object = value.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const QJsonValue part = member.value();
+        const bool isEmpty = (part.isObject() && part.toObject().isEmpty()) ||
+                             (part.isArray() && part.toArray().isEmpty());
+        if (!isEmpty && (part.isObject() || part.isArray())) {
+            text += indent + member.key() + u":\n"_s;
+            print(text, part, depth + 1);
+        } else {
+            text += indent + member.key() + u": "_s + (isEmpty ? u"-"_s : scalar(part)) + u'\n';
+        }
+    }
+}
+
+} // namespace
+
+QString plainText(const QJsonValue& value) {
+    if (value.isNull() || value.isUndefined())
+        return {};
+    if (!value.isObject() && !value.isArray())
+        return scalar(value) + u'\n';
+    QString text;
+    print(text, value, 0);
+    return text;
+}
+
+QString modesText(const QJsonValue& modes) {
+    QString text;
+    for (const QJsonValue& mode : modes.toArray()) {
+        text += mode[u"id"].toString() + u'\t' + mode[u"name"].toString() +
+                (mode[u"current"].toBool() ? u"\t*\n"_s : u"\n"_s);
+    }
+    return text;
+}
+
+} // namespace fendrel::control

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+
+namespace fendrel::control {
+
+/// An answer as plain text for people: "name: value" lines, parts of a part indented, lists one item a line.
+QString plainText(const QJsonValue& value);
+
+/// The answer to `modes`: identifier, name and a star, in columns that scripts can split at tabs.
+QString modesText(const QJsonValue& modes);
+
+} // namespace fendrel::control
