@@ -1,0 +1,48 @@
+import QtQuick
+import QtQuick.Shapes
+import Fendrel.Style
+import Fendrel.Types
+
+// How much of the mode's daily drift allowance is left: a ring that empties.
+DockItem {
+    id: meter
+
+    required property FocusController focusState
+    required property color tint
+
+    tipText: focusState.budgetText
+    readonly property real share: focusState.budgetLeft
+    readonly property color ringColor: share <= 0 ? colors.warning : tint
+
+    implicitWidth: 30
+    implicitHeight: 36
+    visible: focusState.hasBudget
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: focusState.budgetText
+
+    Shape {
+        anchors.centerIn: parent
+        width: 26
+        height: 26
+
+        ShapePath {
+            strokeColor: meter.colors.pressed
+            strokeWidth: 4
+            fillColor: "transparent"
+            PathAngleArc { centerX: 13; centerY: 13; radiusX: 10.5; radiusY: 10.5; startAngle: 0; sweepAngle: 360 }
+        }
+        ShapePath {
+            strokeColor: meter.ringColor
+            strokeWidth: 4
+            capStyle: ShapePath.RoundCap
+            fillColor: "transparent"
+            PathAngleArc {
+                centerX: 13; centerY: 13; radiusX: 10.5; radiusY: 10.5
+                startAngle: -90
+                sweepAngle: -Math.max(0.5, 360 * meter.share)
+                Behavior on sweepAngle { NumberAnimation { duration: Theme.slow } }
+            }
+        }
+    }
+}

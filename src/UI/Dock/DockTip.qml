@@ -1,0 +1,83 @@
+import QtQuick
+import Fendrel.Style
+import Fendrel.Types
+
+// The label beside the bar that says what the item under the pointer is. One for the whole dock: it glides from item to
+// item. What forces its label (a switch that is pending) shows while nothing else is asked for.
+Item {
+    id: tip
+
+    required property int edge
+    required property Rectangle bar
+    property bool isSuppressed: false
+
+    // What asks for its label: { item, text, isForced }, the newest last.
+    property var asking: []
+
+    function update(item: Item, text: string, isWanted: bool, isForced: bool) {
+        const others = asking.filter(other => other.item !== item)
+        asking = isWanted || isForced ? [...others, { item: item, text: text, isForced: !isWanted }] : others
+    }
+
+    readonly property var current: asking.filter(other => !other.isForced)[0] ?? asking[0] ?? null
+    readonly property bool isWanted: current !== null && !isSuppressed
+
+    // Where it points: kept when it goes, so that it fades where it was.
+    property point spot: Qt.point(0, 0)
+    property string spotText: ""
+    function place() {
+        if (!current)
+            return
+        const center = current.item.mapToItem(tip, current.item.width / 2, current.item.height / 2)
+        spot = edge === DockController.Bottom ? Qt.point(center.x, bar.y - 10)
+             : edge === DockController.Left ? Qt.point(bar.x + bar.width + 10, center.y)
+             : Qt.point(bar.x - 10, center.y)
+        spotText = current.text
+    }
+    onCurrentChanged: place()
+    Connections {
+        target: tip.current?.item ?? null
+        function onXChanged() { tip.place() }
+        function onWidthChanged() { tip.place() }
+    }
+    Connections {
+        target: tip.bar
+        function onXChanged() { tip.place() }
+        function onYChanged() { tip.place() }
+    }
+
+    Rectangle {
+        id: bubble
+
+        readonly property real wantedX: tip.edge === DockController.Bottom ? tip.spot.x - width / 2
+                                      : tip.edge === DockController.Left ? tip.spot.x : tip.spot.x - width
+        readonly property real wantedY: tip.edge === DockController.Bottom ? tip.spot.y - height : tip.spot.y - height / 2
+
+        x: Math.max(8, Math.min(tip.width - width - 8, wantedX))
+        y: Math.max(2, Math.min(tip.height - height - 2, wantedY))
+        width: Math.min(label.implicitWidth + 24, 460)
+        height: 30
+        radius: 9
+        color: "#f0202127"
+        border.width: 1
+        border.color: "#26ffffff"
+        opacity: tip.isWanted ? 1 : 0
+        visible: opacity > 0
+
+        Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+        Behavior on x { enabled: bubble.opacity > 0.5; NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
+
+        Text {
+            id: label
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 24)
+            text: tip.spotText
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: "#f6f7f9"
+            font.pixelSize: 12
+            font.weight: Font.Medium
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,82 @@
+#include "UI/Dock/ModesModel.h"
+
+#include "App/AppController.h"
+#include "UI/SyncRows.h"
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+enum Role { modeIDRole = Qt::UserRole + 1, nameRole, symbolRole, shortcutRole, tintRole, isCurrentRole, isPendingRole };
+}
+
+ModesModel::ModesModel(AppController& controller) : m_controller(controller) {
+    connect(&controller.engine(), &ModeEngine::changed, this, &ModesModel::refresh);
+    connect(&controller.preferences(), &Preferences::changed, this, &ModesModel::refresh);
+    refresh();
+}
+
+int ModesModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant ModesModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row& row = m_rows[index.row()];
+    switch (role) {
+    case modeIDRole:
+        return row.id;
+    case Qt::DisplayRole:
+    case nameRole:
+        return row.name;
+    case symbolRole:
+        return row.symbol;
+    case shortcutRole:
+        return row.shortcut;
+    case tintRole:
+        return row.tint;
+    case isCurrentRole:
+        return row.isCurrent;
+    case isPendingRole:
+        return row.isPending;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ModesModel::roleNames() const {
+    return {{modeIDRole, "modeID"}, {nameRole, "name"},           {symbolRole, "symbol"},      {shortcutRole, "shortcut"},
+            {tintRole, "tint"},     {isCurrentRole, "isCurrent"}, {isPendingRole, "isPending"}};
+}
+
+QVariantList ModesModel::menuEntries(const QString& checkedID) const {
+    QVariantList entries;
+    for (const Row& row : m_rows) {
+        entries.append(QVariantMap{{u"text"_s, row.name},
+                                   {u"value"_s, row.id},
+                                   {u"symbol"_s, row.symbol},
+                                   {u"tint"_s, row.tint},
+                                   {u"isChecked"_s, row.id == checkedID}});
+    }
+    return entries;
+}
+
+void ModesModel::refresh() {
+    const ModeEngine& engine = m_controller.engine();
+    QList<Row> wanted;
+    for (const Mode& mode : engine.modes()) {
+        const auto shortcut = m_controller.preferences().modeShortcut(static_cast<int>(wanted.size()));
+        wanted.append(Row{.id = mode.id,
+                          .name = mode.name,
+                          .symbol = mode.symbol,
+                          .shortcut = shortcut.value_or(QString()),
+                          .tint = color(mode.tint),
+                          .isCurrent = mode.id == engine.current().id,
+                          .isPending = engine.pending() && mode.id == engine.pending()->target.id});
+    }
+    RowSync<ModesModel, Row>::sync(*this, m_rows, wanted);
+}
+
+} // namespace fendrel

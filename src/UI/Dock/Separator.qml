@@ -1,0 +1,18 @@
+import QtQuick
+import Fendrel.Style
+
+// The fine line between two sections of the dock.
+Item {
+    required property Colors colors
+    required property bool isVertical
+
+    implicitWidth: isVertical ? 30 : 9
+    implicitHeight: isVertical ? 9 : 30
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: parent.isVertical ? parent.width : 1
+        height: parent.isVertical ? 1 : parent.height
+        color: parent.colors.line
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import Fendrel.Style
+import Fendrel.Types
+
+// What is in front and the mode that it belongs to. Pressed, it takes the user's correction.
+DockItem {
+    id: chip
+
+    required property VerdictController verdict
+
+    implicitWidth: isVertical ? 36 : 12 + dot.width + 9 + words.width + 14
+    implicitHeight: 36
+    visible: verdict.isShown
+
+    tipText: isVertical && !verdict.isClassifying ? words.first + " · " + words.second + ". " + help : help
+    readonly property string help: qsTr("Not right? Click to tell Fendrel")
+
+    Accessible.role: Accessible.Button
+    Accessible.name: verdict.isClassifying ? qsTr("Judging what is in front") : words.first + ", " + words.second
+    Accessible.description: help
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 12
+        color: chip.verdict.isElsewhere ? chip.colors.faded(chip.verdict.tint, chip.isHovered ? 0.24 : 0.16)
+             : chip.isPressed ? chip.colors.pressed : chip.colors.hover
+        border.width: chip.isHovered ? 1 : 0
+        border.color: chip.colors.line
+        Behavior on color { ColorAnimation { duration: Theme.normal } }
+    }
+
+    Rectangle {
+        id: dot
+        x: chip.isVertical ? (chip.width - width) / 2 : 12
+        anchors.verticalCenter: parent.verticalCenter
+        width: chip.isVertical ? 14 : 9
+        height: width
+        radius: width / 2
+        // What nobody is certain of is an outline.
+        color: chip.verdict.isCertain ? chip.verdict.tint : "transparent"
+        border.width: chip.verdict.isCertain ? 0 : 2
+        border.color: chip.verdict.tint
+
+        SequentialAnimation on opacity {
+            running: chip.verdict.isClassifying && !Theme.reducesMotion
+            loops: Animation.Infinite
+            NumberAnimation { to: 0.25; duration: 500 }
+            NumberAnimation { to: 1; duration: 500 }
+            onStopped: dot.opacity = 1
+        }
+    }
+
+    Column {
+        id: words
+        readonly property string first: chip.verdict.isClassifying ? qsTr("Judging…") : chip.verdict.what
+        readonly property string second: chip.verdict.isClassifying ? "" : chip.verdict.modeName === "" ? qsTr("No mode") : chip.verdict.modeName
+
+        visible: !chip.isVertical
+        x: dot.x + dot.width + 9
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(150, Math.max(top.implicitWidth, bottom.implicitWidth))
+
+        Label {
+            id: top
+            colors: chip.colors
+            text: words.first
+            width: parent.width
+            font.pixelSize: 12
+            font.weight: Font.DemiBold
+        }
+        Label {
+            id: bottom
+            colors: chip.colors
+            color: chip.verdict.isElsewhere ? chip.colors.tintText(chip.verdict.tint) : chip.colors.secondaryText
+            text: words.second
+            visible: text !== ""
+            width: parent.width
+            font.pixelSize: Theme.textSmall
+        }
+    }
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Ports/Clock.h"
+
+#include <QQuickView>
+#include <QtQmlIntegration>
+
+#include <functional>
+
+namespace fendrel {
+
+class AppController;
+class AppIcons;
+class DockController;
+class FocusController;
+class GateController;
+
+/// The window that covers what the gate stops: the whole work area of the display that it is on, but for the dock, where
+/// the user can say that the judgement is wrong. Its content is GateView.qml. Made once and kept, so that it shows at once.
+class GatePanel : public QQuickView {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(bool isOpen READ isOpen NOTIFY openChanged)
+    Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
+    Q_PROPERTY(QString icon READ icon NOTIFY openChanged)
+
+public:
+    GatePanel(QQmlEngine& engine, AppController& controller, AppIcons& icons, DockController& dock,
+              FocusController& focus, GateController& gate);
+
+    /// The part of a display that a dock keeps for itself, in device pixels.
+    std::function<QRect(const QString& displayID)> dockArea = [](const QString&) { return QRect(); };
+
+    bool isOpen() const;
+    bool isTransparent() const;
+    bool isDark() const;
+    QString icon() const;
+
+    /// To be called when the panel's way out is drawn: the window goes.
+    Q_INVOKABLE void closed();
+
+Q_SIGNALS:
+    void openChanged();
+    void transparencyChanged();
+    void lookChanged();
+    void attentionAsked();
+
+private:
+    void gateChanged();
+    void comeForward();
+    QRect cover() const;
+
+    AppController& m_controller;
+    AppIcons& m_icons;
+};
+
+} // namespace fendrel

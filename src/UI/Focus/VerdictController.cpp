@@ -1,0 +1,69 @@
+#include "UI/Focus/VerdictController.h"
+
+#include "App/AppController.h"
+
+namespace fendrel {
+
+namespace {
+
+const Verdict* frontVerdict(AppController& controller) {
+    const auto& front = controller.classifier().front();
+    return front && front->verdict ? &*front->verdict : nullptr;
+}
+
+const Mode* frontMode(AppController& controller) {
+    const Verdict* verdict = frontVerdict(controller);
+    return verdict && verdict->modeID ? controller.engine().mode(*verdict->modeID) : nullptr;
+}
+
+} // namespace
+
+VerdictController::VerdictController(AppController& controller) : m_controller(controller) {
+    connect(&controller.classifier(), &Classifier::changed, this, &VerdictController::changed);
+    connect(&controller.engine(), &ModeEngine::changed, this, &VerdictController::changed);
+}
+
+bool VerdictController::isShown() const {
+    return m_controller.classifier().front().has_value();
+}
+
+bool VerdictController::isClassifying() const {
+    const auto& front = m_controller.classifier().front();
+    return front && !front->verdict;
+}
+
+QString VerdictController::what() const {
+    const Verdict* verdict = frontVerdict(m_controller);
+    return verdict ? verdict->what : QString();
+}
+
+QString VerdictController::modeID() const {
+    const Mode* mode = frontMode(m_controller);
+    return mode ? mode->id : QString();
+}
+
+QString VerdictController::modeName() const {
+    const Mode* mode = frontMode(m_controller);
+    return mode ? mode->name : QString();
+}
+
+QColor VerdictController::tint() const {
+    const Mode* mode = frontMode(m_controller);
+    return color(mode ? mode->tint : Tint::graphite);
+}
+
+bool VerdictController::isElsewhere() const {
+    const Mode* mode = frontMode(m_controller);
+    return mode && mode->id != m_controller.engine().current().id;
+}
+
+bool VerdictController::isCertain() const {
+    const Verdict* verdict = frontVerdict(m_controller);
+    return verdict && verdict->certainty == Certainty::certain;
+}
+
+void VerdictController::correct(const QString& modeID) {
+    m_controller.drift().correctFront(modeID.isEmpty() ? std::nullopt : std::optional(modeID));
+}
+
+} // namespace fendrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+namespace fendrel {
+
+class AppController;
+
+/// The judgement of what is in front, and the user's correction of it.
+class VerdictController : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
+    Q_PROPERTY(bool isClassifying READ isClassifying NOTIFY changed)
+    Q_PROPERTY(QString what READ what NOTIFY changed)
+    Q_PROPERTY(QString modeID READ modeID NOTIFY changed)
+    Q_PROPERTY(QString modeName READ modeName NOTIFY changed)
+    Q_PROPERTY(QColor tint READ tint NOTIFY changed)
+    Q_PROPERTY(bool isElsewhere READ isElsewhere NOTIFY changed)
+    Q_PROPERTY(bool isCertain READ isCertain NOTIFY changed)
+
+public:
+    explicit VerdictController(AppController& controller);
+
+    bool isShown() const;
+    bool isClassifying() const;
+    QString what() const;
+    QString modeID() const;   ///< empty when it belongs to no mode
+    QString modeName() const; ///< empty when it belongs to no mode
+    QColor tint() const;
+    bool isElsewhere() const; ///< it belongs to a mode other than the current one
+    bool isCertain() const;
+
+    Q_INVOKABLE void correct(const QString& modeID); ///< empty: it belongs to no mode
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    AppController& m_controller;
+};
+
+} // namespace fendrel

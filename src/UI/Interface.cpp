@@ -1,0 +1,149 @@
+#include "UI/Interface.h"
+
+#include "App/AppController.h"
+#include "UI/Dock/DockPanel.h"
+#include "UI/Images/ShadowImages.h"
+#include "UI/Images/SymbolImages.h"
+#include "UI/Setup/AlertController.h"
+#include "UI/Setup/Dialog.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <algorithm>
+
+Q_IMPORT_QML_PLUGIN(Fendrel_StylePlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_DockPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_FocusPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_SetupPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_TrayPlugin)
+
+/// Generated with the module Fendrel.Types. It registers itself before main, if only the linker keeps it.
+void qml_register_types_Fendrel_Types();
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+Interface::Interface(AppController& controller)
+    : m_controller(controller), m_icons(controller.workspace()), m_focus(controller), m_verdict(controller),
+      m_gate(controller), m_dock(controller, m_icons), m_firstRun(controller, m_icons), m_settings(controller) {
+    qml_register_types_Fendrel_Types();
+    m_engine.addImportPath(u"qrc:/qml"_s);
+    m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
+    m_engine.addImageProvider(u"symbol"_s, new SymbolImages);
+    m_engine.addImageProvider(u"shadow"_s, new ShadowImages);
+    applyLook();
+
+    controller.onLayoutDocks = [this] { layoutDocks(); };
+    controller.onShowOnboarding = [this] { showFirstRun(); };
+    controller.onShowSettings = [this](const QString& pane) { showSettings(pane); };
+    controller.onAlert = [this](const Alert& alert) { showAlert(alert); };
+    controller.onAttention = [this] { showSettings(m_settings.pane()); };
+    controller.onFocusDock = [this] { focusDock(); };
+    controller.platform().panels->onTransparencyChanged = [this] {
+        for (const auto& [display, dock] : m_docks)
+            dock->transparencyDidChange();
+        Q_EMIT m_gatePanel->transparencyChanged();
+    };
+    controller.platform().statusArea->onChanged = [this] { showTray(); };
+    QObject::connect(&controller.preferences(), &Preferences::changed, &m_settings, [this] { applyLook(); });
+
+    m_gatePanel = std::make_unique<GatePanel>(m_engine, controller, m_icons, m_dock, m_focus, m_gate);
+    m_gatePanel->dockArea = [this](const QString& displayID) {
+        const auto dock = m_docks.find(displayID);
+        return dock == m_docks.end() ? QRect() : dock->second->reserved();
+    };
+    showTray();
+}
+
+Interface::~Interface() {
+    m_controller.platform().panels->onTransparencyChanged = [] {};
+    m_controller.platform().statusArea->onChanged = [] {};
+}
+
+void Interface::layoutDocks() {
+    const QList<Display> displays = m_controller.dockScreens();
+    std::erase_if(m_docks, [&](const auto& entry) {
+        return std::ranges::find(displays, entry.first, &Display::id) == displays.end();
+    });
+    for (const Display& display : displays) {
+        auto& dock = m_docks[display.id];
+        if (!dock)
+            dock = std::make_unique<DockPanel>(m_engine, m_controller, m_dock, m_focus, m_verdict);
+        dock->place(display);
+    }
+}
+
+void Interface::focusDock() {
+    if (!m_docks.empty())
+        m_docks.begin()->second->takeKeyboard();
+}
+
+void Interface::showFirstRun() {
+    if (m_firstRunWindow) {
+        m_firstRunWindow->present();
+        return;
+    }
+    m_firstRunWindow = std::make_unique<Dialog>(m_engine, QCoreApplication::translate("Interface", "Welcome to Fendrel"),
+                                                u"Setup/FirstRunView.qml"_s,
+                                                QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}},
+                                                QSize(760, 690));
+    QObject::connect(&m_controller, &AppController::onboardingChanged, m_firstRunWindow.get(), [this] {
+        // The window is still in the middle of the press that ended it.
+        m_firstRunWindow->hide();
+        m_firstRunWindow.release()->deleteLater();
+    });
+    m_firstRunWindow->present();
+}
+
+void Interface::showSettings(const QString& pane) {
+    m_settings.setPane(pane);
+    if (!m_settingsWindow) {
+        m_settingsWindow = std::make_unique<Dialog>(m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"),
+                                                    u"Setup/SettingsView.qml"_s,
+                                                    QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}},
+                                                    QSize(820, 600));
+        m_settingsWindow->onClosed = [this] { m_settingsWindow.release()->deleteLater(); };
+    }
+    m_settingsWindow->present();
+}
+
+void Interface::showAlert(const Alert& alert) {
+    auto* answers = new AlertController(alert, m_controller.preferences().systemIsDark());
+    auto& window = m_alerts.emplace_back(std::make_unique<Dialog>(
+        m_engine, alert.message, u"Setup/AlertView.qml"_s, QVariantMap{{u"alert"_s, QVariant::fromValue(answers)}},
+        QSize()));
+    answers->setParent(window.get());
+    window->onClosed = [answers] { answers->cancel(); };
+    QObject::connect(answers, &AlertController::done, window.get(), [this, dialog = window.get()] {
+        const auto kept = std::ranges::find(m_alerts, dialog, [](const auto& other) { return other.get(); });
+        dialog->hide();
+        kept->release()->deleteLater();
+        m_alerts.erase(kept);
+    });
+    window->present();
+}
+
+void Interface::showTray() {
+    m_tray.reset();
+    if (!m_controller.platform().statusArea->isAvailable())
+        return;
+    QQmlComponent component(&m_engine, QUrl(u"qrc:/qml/Fendrel/Tray/Tray.qml"_s));
+    m_tray.reset(component.createWithInitialProperties({{u"dock"_s, QVariant::fromValue(&m_dock)},
+                                                        {u"focusState"_s, QVariant::fromValue(&m_focus)},
+                                                        {u"iconName"_s, u"org.fendrel.Fendrel"_s}}));
+    if (!m_tray)
+        qWarning().noquote() << component.errorString();
+}
+
+void Interface::applyLook() {
+    const int theme = qmlTypeId("Fendrel.Style", 1, 0, "Theme");
+    if (QObject* singleton = m_engine.singletonInstance<QObject*>(theme))
+        singleton->setProperty("reducesMotion", m_controller.platform().look->reducesMotion());
+}
+
+} // namespace fendrel

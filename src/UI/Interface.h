@@ -1,0 +1,59 @@
+#pragma once
+
+#include "App/Alert.h"
+#include "UI/Dock/DockController.h"
+#include "UI/Focus/FocusController.h"
+#include "UI/Focus/GateController.h"
+#include "UI/Focus/GatePanel.h"
+#include "UI/Focus/VerdictController.h"
+#include "UI/Images/AppIcons.h"
+#include "UI/Setup/FirstRunController.h"
+#include "UI/Setup/SettingsController.h"
+
+#include <QQmlEngine>
+#include <QString>
+
+#include <list>
+#include <map>
+#include <memory>
+
+
+namespace fendrel {
+
+class AppController;
+class Dialog;
+class DockPanel;
+
+/// Everything that the user sees: makes the windows and keeps them in line with what the controller says.
+class Interface {
+public:
+    explicit Interface(AppController& controller);
+    ~Interface();
+
+private:
+    void layoutDocks();
+    void focusDock();
+    void showFirstRun();
+    void showSettings(const QString& pane);
+    void showAlert(const Alert& alert);
+    void showTray();
+    void applyLook();
+
+    AppController& m_controller;
+    AppIcons m_icons;
+    QQmlEngine m_engine;
+    FocusController m_focus;
+    VerdictController m_verdict;
+    GateController m_gate;
+    DockController m_dock;
+    FirstRunController m_firstRun;
+    SettingsController m_settings;
+    std::map<QString, std::unique_ptr<DockPanel>> m_docks; ///< by display
+    std::unique_ptr<GatePanel> m_gatePanel;
+    std::unique_ptr<Dialog> m_firstRunWindow;
+    std::unique_ptr<Dialog> m_settingsWindow;
+    std::list<std::unique_ptr<Dialog>> m_alerts;
+    std::unique_ptr<QObject> m_tray;
+};
+
+} // namespace fendrel

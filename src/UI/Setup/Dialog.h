@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QQuickView>
+
+#include <functional>
+
+namespace fendrel {
+
+/// An ordinary window with a QML view in it, in the middle of the main screen.
+class Dialog : public QQuickView {
+    Q_OBJECT
+public:
+    Dialog(QQmlEngine& engine, const QString& title, const QString& view, const QVariantMap& properties, QSize size);
+
+    void present(); ///< shows it, in front
+
+    std::function<void()> onClosed = [] {}; ///< the user closed the window; it may be destroyed here, later
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+};
+
+} // namespace fendrel

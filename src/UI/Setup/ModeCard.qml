@@ -1,0 +1,121 @@
+import QtQuick
+import Fendrel.Style
+
+// A built-in mode to choose: its symbol, its name, and the applications found for it.
+Item {
+    id: card
+
+    required property Colors colors
+    required property var mode
+    required property bool isChosen
+
+    signal toggled()
+
+    implicitHeight: 84
+    activeFocusOnTab: true
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: mode.name
+    Accessible.description: applications
+    Accessible.checkable: true
+    Accessible.checked: isChosen
+    Accessible.focusable: true
+    Accessible.onPressAction: toggled()
+    Accessible.onToggleAction: toggled()
+
+    readonly property string applications: mode.apps.length === 0 ? qsTr("Web sites only, so far") : mode.apps.slice(0, 3).join(", ")
+
+    Keys.onSpacePressed: toggled()
+    Keys.onReturnPressed: toggled()
+
+    Rectangle {
+        id: body
+        anchors.fill: parent
+        radius: 16
+        color: card.colors.card
+        border.width: card.isChosen ? 2 : 1
+        border.color: card.isChosen ? card.mode.tint : hover.hovered ? card.colors.faded(card.mode.tint, 0.5) : card.colors.line
+        scale: tap.pressed ? 0.985 : 1
+        Behavior on scale { NumberAnimation { duration: Theme.quick } }
+        Behavior on border.color { ColorAnimation { duration: Theme.quick } }
+    }
+
+    Rectangle {
+        id: badge
+        x: 16
+        anchors.verticalCenter: parent.verticalCenter
+        width: 48
+        height: 48
+        radius: 14
+        color: card.isChosen ? card.mode.tint : card.colors.faded(card.mode.tint, 0.14)
+        Behavior on color { ColorAnimation { duration: Theme.normal } }
+        Symbol {
+            anchors.centerIn: parent
+            size: 25
+            name: card.mode.symbol
+            color: card.isChosen ? card.colors.onTint(card.mode.tint) : card.colors.tintText(card.mode.tint)
+        }
+    }
+
+    Column {
+        anchors { left: badge.right; leftMargin: 14; right: check.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
+        spacing: 6
+
+        Label {
+            colors: card.colors
+            text: card.mode.name
+            font.pixelSize: 16
+            font.weight: Font.DemiBold
+            width: parent.width
+            Accessible.ignored: true
+        }
+        Row {
+            spacing: 5
+            visible: card.mode.icons.length > 0
+            Repeater {
+                model: card.mode.icons.slice(0, 6)
+                Image {
+                    required property string modelData
+                    width: 20
+                    height: 20
+                    sourceSize { width: 40; height: 40 }
+                    source: modelData
+                    asynchronous: true
+                    smooth: true
+                    mipmap: true
+                }
+            }
+        }
+        Label {
+            colors: card.colors
+            color: card.colors.secondaryText
+            visible: card.mode.icons.length === 0
+            text: card.applications
+            font.pixelSize: 12
+            width: parent.width
+            Accessible.ignored: true
+        }
+    }
+
+    Rectangle {
+        id: check
+        anchors { right: parent.right; rightMargin: 16; verticalCenter: parent.verticalCenter }
+        width: 24
+        height: 24
+        radius: 12
+        color: card.isChosen ? card.mode.tint : "transparent"
+        border.width: card.isChosen ? 0 : 1.5
+        border.color: card.colors.line
+        Symbol {
+            anchors.centerIn: parent
+            visible: card.isChosen
+            name: "checkmark"
+            size: 15
+            color: card.colors.onTint(card.mode.tint)
+        }
+    }
+
+    FocusRing { target: card; targetRadius: 16 }
+
+    HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }
+    TapHandler { id: tap; onTapped: card.toggled() }
+}

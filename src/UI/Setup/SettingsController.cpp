@@ -1,0 +1,49 @@
+#include "UI/Setup/SettingsController.h"
+
+#include "App/AppController.h"
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+SettingsController::SettingsController(AppController& controller) : m_controller(controller) {
+    connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
+}
+
+Preferences* SettingsController::preferences() {
+    return &m_controller.preferences();
+}
+
+void SettingsController::setPane(const QString& pane) {
+    if (pane == m_pane)
+        return;
+    m_pane = pane;
+    Q_EMIT paneChanged();
+}
+
+bool SettingsController::isDark() const {
+    return m_controller.preferences().systemIsDark();
+}
+
+QString SettingsController::version() const {
+    return QStringLiteral(FENDREL_VERSION);
+}
+
+QVariantList SettingsController::presets() const {
+    QVariantList list;
+    for (const auto& [name, look] : DockAppearance::presets()) {
+        list.append(QVariantMap{{u"name"_s, name},
+                                {u"background"_s, look.background},
+                                {u"opacity"_s, look.opacity},
+                                {u"isDark"_s, look.isDark},
+                                {u"isChosen"_s, look == m_controller.preferences().appearance()}});
+    }
+    return list;
+}
+
+void SettingsController::choosePreset(const QString& name) {
+    if (const auto look = DockAppearance::preset(name))
+        m_controller.preferences().setAppearance(*look);
+}
+
+} // namespace fendrel

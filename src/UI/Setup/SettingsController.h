@@ -1,0 +1,46 @@
+#pragma once
+
+#include "App/Preferences.h"
+
+#include <QObject>
+#include <QVariantList>
+#include <QtQmlIntegration>
+
+namespace fendrel {
+
+class AppController;
+
+/// The settings window: the pane it shows, and what its controls need beside the preferences themselves.
+class SettingsController : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(fendrel::Preferences* preferences READ preferences CONSTANT)
+    Q_PROPERTY(QString pane READ pane WRITE setPane NOTIFY paneChanged)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
+    Q_PROPERTY(QString version READ version CONSTANT)
+    /// The built-in looks: name, background, isDark and isChosen.
+    Q_PROPERTY(QVariantList presets READ presets NOTIFY looksChanged)
+
+public:
+    explicit SettingsController(AppController& controller);
+
+    Preferences* preferences();
+    const QString& pane() const { return m_pane; }
+    void setPane(const QString& pane);
+    bool isDark() const;
+    QString version() const;
+    QVariantList presets() const;
+
+    Q_INVOKABLE void choosePreset(const QString& name);
+
+Q_SIGNALS:
+    void paneChanged();
+    void looksChanged();
+
+private:
+    AppController& m_controller;
+    QString m_pane{QStringLiteral("general")};
+};
+
+} // namespace fendrel

@@ -1,0 +1,39 @@
+import QtQuick
+
+// The colours of one window, light or dark.
+QtObject {
+    id: colors
+
+    required property bool isDark
+
+    readonly property color window: isDark ? "#1b1c20" : "#f5f5f7"
+    readonly property color card: isDark ? "#26272c" : "#ffffff"
+    readonly property color text: isDark ? "#f3f4f6" : "#1c1d21"
+    readonly property color secondaryText: isDark ? "#a7abb4" : "#5c606a"
+    readonly property color line: isDark ? "#1fffffff" : "#1a000000"
+    readonly property color hover: isDark ? "#14ffffff" : "#0d000000"
+    readonly property color pressed: isDark ? "#24ffffff" : "#1a000000"
+    readonly property color field: isDark ? "#1f2025" : "#f3f4f6"
+    readonly property color accent: "#2f7df0"
+    readonly property color warning: isDark ? "#f5b13d" : "#a15c00"
+
+    // Text or symbols on a filled tint: white, but dark on the light tints.
+    function onTint(tint: color): color {
+        return luminance(tint) > 0.5 ? "#1c1d21" : "#ffffff"
+    }
+
+    // The tint as text or symbol on this window's background: shifted until it can be read.
+    function tintText(tint: color): color {
+        return isDark ? Qt.lighter(tint, 1.25) : Qt.darker(tint, 1.18)
+    }
+
+    function faded(base: color, opacity: real): color {
+        return Qt.rgba(base.r, base.g, base.b, opacity)
+    }
+
+    // Relative luminance as WCAG 2 defines it.
+    function luminance(base: color): real {
+        const linear = channel => channel <= 0.03928 ? channel / 12.92 : Math.pow((channel + 0.055) / 1.055, 2.4)
+        return 0.2126 * linear(base.r) + 0.7152 * linear(base.g) + 0.0722 * linear(base.b)
+    }
+}

@@ -1,0 +1,25 @@
+import QtQuick
+
+// One of the program's own line symbols, in any colour.
+Image {
+    id: symbol
+
+    required property string name
+    property color color: "black"
+    property int size: 18
+
+    // "#rrggbb" or "#aarrggbb" as text, always with its alpha.
+    readonly property string colorText: {
+        const digits = color.toString().substring(1)
+        return digits.length === 6 ? "ff" + digits : digits
+    }
+
+    width: size
+    height: size
+    sourceSize { width: size * 2; height: size * 2 }
+    source: name === "" ? "" : "image://symbol/" + name + "/" + colorText
+    fillMode: Image.PreserveAspectFit
+    smooth: true
+    mipmap: true
+    Accessible.ignored: true
+}

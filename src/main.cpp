@@ -1,0 +1,100 @@
+#include "App/AppController.h"
+#include "Base/Log.h"
+#include "Control/ControlClient.h"
+#include "Control/ControlServer.h"
+#include "Control/InstanceLock.h"
+#include "Platform/MakePlatform.h"
+#include "Platform/Shared/CrashReporter.h"
+#include "Platform/Shared/TerminationSignals.h"
+#include "UI/Interface.h"
+
+#include <QCommandLineParser>
+#include <QFont>
+#include <QGuiApplication>
+#include <QIcon>
+
+#include <algorithm>
+#include <cstdio>
+#include <span>
+#include <string_view>
+
+using namespace fendrel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Options {
+    QString settingsPane;
+};
+
+int fail(const QString& message) {
+    std::fprintf(stderr, "fendrel: %s\n", qUtf8Printable(message));
+    return 1;
+}
+
+Options readOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Takes the place of the dock and keeps you in one mode of work at a time."_s);
+    const QCommandLineOption settingsPage(u"settings-page"_s, u"Open the settings at a pane: %1."_s.arg(
+                                                                  AppController::settingsPanes().join(u", ")),
+                                          u"pane"_s);
+    parser.addOption(settingsPage);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(arguments);
+    return {.settingsPane = parser.value(settingsPage)};
+}
+
+/// Brings the application that runs already to the user's attention.
+int activateRunning(const QString& dataFolder, const Options& options) {
+    control::ControlClient client;
+    const control::Request request{.command = u"activate"_s, .arguments = {options.settingsPane}};
+    const bool isDone = client.connectTo(control::socketPath(dataFolder)) &&
+                        client.send(request, [](const QJsonObject&) { return false; });
+    return isDone ? 0 : fail(u"Fendrel is running, but does not answer"_s);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QCoreApplication::setApplicationName(u"Fendrel"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(FENDREL_VERSION));
+    QGuiApplication::setDesktopFileName(u"org.fendrel.Fendrel"_s);
+    const std::span words(argv, static_cast<std::size_t>(argc));
+    const bool wantsText = std::ranges::any_of(words, [](std::string_view word) {
+        return word == "--help" || word == "-h" || word == "--version" || word == "-v";
+    });
+    if (wantsText) {
+        const QCoreApplication application(argc, argv);
+        readOptions(QCoreApplication::arguments());
+    }
+    if (const auto missing = missingRequirement())
+        return fail(*missing);
+    prepareToolkit();
+
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const Options options = readOptions(QGuiApplication::arguments());
+
+    const Folders folders = standardFolders();
+    const control::InstanceLock lock(folders.data);
+    if (lock.state() == control::InstanceLock::State::heldByAnother)
+        return activateRunning(folders.data, options);
+    if (lock.state() == control::InstanceLock::State::failed)
+        return fail(u"the folder %1 cannot be written"_s.arg(folders.data));
+
+    const CrashReporter crashes(folders.crashes);
+    QGuiApplication::setFont(QFont(u"Inter"_s));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.fendrel.Fendrel"_s, QIcon(u":/icons/fendrel.svg"_s)));
+
+    Platform platform = makePlatform();
+    AppController controller(platform);
+    controller.onQuit = [] { QCoreApplication::quit(); };
+    TerminationSignals signals;
+    signals.onTermination = [&controller] { controller.quit(); };
+    const Interface interface(controller);
+    control::ControlServer server(controller, folders.data);
+    server.listen();
+    controller.launch(options.settingsPane);
+    return QGuiApplication::exec();
+}
