@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Ports/SettingsStore.h"
+
+namespace fendrel {
+
+class FakeSettings final : public SettingsStore {
+public:
+    std::optional<StoredValue> value(const QString& key) const override {
+        const auto found = values.constFind(key);
+        return found == values.constEnd() ? std::nullopt : std::optional(*found);
+    }
+    void set(const QString& key, StoredValue value, Urgency) override {
+        ++writes;
+        values.insert(key, std::move(value));
+    }
+    void remove(const QString& key) override {
+        ++writes;
+        values.remove(key);
+    }
+
+    QHash<QString, StoredValue> values; ///< prepared by the test without counting as a write
+    int writes = 0;                     ///< calls of set and remove
+};
+
+} // namespace fendrel
