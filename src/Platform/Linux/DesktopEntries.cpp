@@ -36,15 +36,17 @@ DesktopEntries::DesktopEntries(QStringList folders, DesktopEntryContext context,
     : m_folders(std::move(folders)), m_context(std::move(context)), m_clock(clock) {
     const auto changed = [this] {
         m_changes = m_clock.after(changesSettle, [this] {
-            const auto before = m_index.all();
-            read();
-            if (m_index.all() != before)
-                onChanged();
+            EntryIndex fresh = read();
+            // What was handed out lives until something is said to have changed.
+            if (fresh.all() == m_index.all())
+                return;
+            m_index = std::move(fresh);
+            onChanged();
         });
     };
     QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_watcher, changed);
     QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_watcher, changed);
-    read();
+    m_index = read();
 }
 
 QStringList DesktopEntries::standardFolders() {
@@ -58,7 +60,7 @@ QStringList DesktopEntries::standardFolders() {
     return folders;
 }
 
-void DesktopEntries::read() {
+EntryIndex DesktopEntries::read() {
     QHash<QString, DesktopEntry> entries;
     QStringList toWatch;
     const QHash<QString, Known> before = std::exchange(m_known, {});
@@ -94,8 +96,8 @@ void DesktopEntries::read() {
         return entry.isHidden ||
                (!entry.tryExec.isEmpty() && QStandardPaths::findExecutable(entry.tryExec).isEmpty());
     });
-    m_index = EntryIndex(entries.values());
     watch(toWatch);
+    return EntryIndex(entries.values());
 }
 
 const std::optional<DesktopEntry>& DesktopEntries::entryAt(const QFileInfo& file) {

@@ -32,7 +32,7 @@ private:
         std::optional<DesktopEntry> entry{};
     };
 
-    void read();
+    EntryIndex read();
     const std::optional<DesktopEntry>& entryAt(const QFileInfo& file);
     void watch(const QStringList& paths);
 
