@@ -1,0 +1,1 @@
+// Nothing: this file makes the precompiled headers, which the other targets use.
