@@ -185,8 +185,12 @@ void DriftHandling::correctFront(const std::optional<QString>& modeID) {
         return;
     m_classifier.correct(front->subject, modeID);
     const auto blocked = m_gate.blocked();
-    if (blocked && blocked->bundleID == key(front->subject) && modeID == m_engine.current().id)
-        letThrough(*blocked);
+    if (!blocked || blocked->bundleID != key(front->subject) || modeID != m_engine.current().id)
+        return;
+    // A list goes before the user's word, and would close the gate on it again the moment it has the keyboard.
+    if (const Mode* mode = m_engine.listing(blocked->bundleID); mode && mode->id != modeID)
+        m_allowedOnce.insert(blocked->bundleID);
+    letThrough(*blocked);
 }
 
 } // namespace fendrel

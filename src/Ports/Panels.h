@@ -14,7 +14,7 @@ class Panels {
 public:
     enum class Kind {
         dock, ///< on every virtual desktop, never takes the keyboard
-        gate, ///< on every virtual desktop, above full-screen windows
+        gate, ///< on every virtual desktop, above full-screen windows; docks stay above it where that is possible
         menu, ///< open for a moment, over everything; draws its own shadow
     };
 

@@ -55,7 +55,7 @@ Interface::Interface(AppController& controller)
     m_gatePanel = std::make_unique<GatePanel>(m_engine, controller, m_icons, m_dock, m_focus, m_gate);
     m_gatePanel->dockArea = [this](const QString& displayID) {
         const auto dock = m_docks.find(displayID);
-        return dock == m_docks.end() ? QRect() : dock->second->reserved();
+        return dock == m_docks.end() ? QRect() : dock->second->touchable();
     };
     showTray();
 }
@@ -72,8 +72,10 @@ void Interface::layoutDocks() {
     });
     for (const Display& display : displays) {
         auto& dock = m_docks[display.id];
-        if (!dock)
+        if (!dock) {
             dock = std::make_unique<DockPanel>(m_engine, m_controller, m_dock, m_focus, m_verdict);
+            QObject::connect(dock.get(), &DockPanel::touchableChanged, m_gatePanel.get(), &GatePanel::leaveOutDock);
+        }
         dock->place(display);
     }
 }

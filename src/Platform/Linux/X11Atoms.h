@@ -42,6 +42,7 @@ struct X11Atoms {
     xcb_atom_t netWmWindowTypeNotification{};
     xcb_atom_t netWmWindowTypeDialog{};
     xcb_atom_t netWmWindowTypeNormal{};
+    xcb_atom_t netWmWindowTypePopupMenu{};
     xcb_atom_t gtkApplicationId{};
     xcb_atom_t kdeDesktopFile{};
     xcb_atom_t wmState{};
@@ -84,6 +85,7 @@ inline constexpr auto x11AtomNames = std::to_array<std::pair<xcb_atom_t X11Atoms
     {&X11Atoms::netWmWindowTypeNotification, "_NET_WM_WINDOW_TYPE_NOTIFICATION"},
     {&X11Atoms::netWmWindowTypeDialog, "_NET_WM_WINDOW_TYPE_DIALOG"},
     {&X11Atoms::netWmWindowTypeNormal, "_NET_WM_WINDOW_TYPE_NORMAL"},
+    {&X11Atoms::netWmWindowTypePopupMenu, "_NET_WM_WINDOW_TYPE_POPUP_MENU"},
     {&X11Atoms::gtkApplicationId, "_GTK_APPLICATION_ID"},
     {&X11Atoms::kdeDesktopFile, "_KDE_NET_WM_DESKTOP_FILE"},
     {&X11Atoms::wmState, "WM_STATE"},

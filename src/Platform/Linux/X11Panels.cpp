@@ -92,6 +92,10 @@ void X11Panels::bringToFront(xcb_window_t window) {
         // The active full-screen window stays on top of everything until another window is active.
         self->m_requests.activate(window, time);
         self->m_requests.stackAbove(window);
+        for (auto panel = self->m_panels.cbegin(); panel != self->m_panels.cend(); ++panel) {
+            if (panel->kind == Kind::dock && panel->isMapped)
+                self->m_requests.stackAbove(panel.key());
+        }
         if (!self->m_windows->hasManager()) {
             xcb_set_input_focus(self->m_connection->xcb(), XCB_INPUT_FOCUS_POINTER_ROOT, window, time);
             self->m_connection->flush();
@@ -136,6 +140,8 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
 void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
     const auto& atoms = m_connection->atoms();
     panel.isMapped = true;
+    if (panel.kind == Kind::menu)
+        return; // the window manager has nothing to do with it
     m_requests.addStates(window, atoms.netWmStateAbove, atoms.netWmStateSticky);
     m_requests.addStates(window, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager);
     m_requests.moveToEveryDesktop(window);
@@ -143,15 +149,28 @@ void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
         bringToFront(window);
 }
 
-void X11Panels::setUp(xcb_window_t window, const Panel& panel) {
+xcb_atom_t X11Panels::typeOf(Kind kind) const {
     const auto& atoms = m_connection->atoms();
-    const QList<quint32> type{panel.kind == Kind::dock ? atoms.netWmWindowTypeDock : atoms.netWmWindowTypeDialog};
-    if (m_connection->property(window, atoms.netWmWindowType).numbers() != type)
-        m_connection->setNumbers(window, atoms.netWmWindowType, XCB_ATOM_ATOM, type);
+    switch (kind) {
+    case Kind::dock:
+        return atoms.netWmWindowTypeDock;
+    case Kind::menu:
+        return atoms.netWmWindowTypePopupMenu;
+    case Kind::gate:
+        break;
+    }
+    return atoms.netWmWindowTypeDialog;
+}
+
+void X11Panels::setUp(xcb_window_t window, const Panel& panel) {
+    const QList<quint32> type{typeOf(panel.kind)};
+    const xcb_atom_t property = m_connection->atoms().netWmWindowType;
+    if (m_connection->property(window, property).numbers() != type)
+        m_connection->setNumbers(window, property, XCB_ATOM_ATOM, type);
     if (panel.kind == Kind::dock)
         refuseFocus(window);
     // Once a window is mapped, its state is the window manager's to write.
-    if (!panel.isMapped)
+    if (panel.kind != Kind::menu && !panel.isMapped)
         setUpStates(window);
     m_connection->flush();
 }

@@ -148,14 +148,14 @@ void DockPanel::updateRegions() {
     panels.setInputRegion(
         winId(), QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect());
 
-    m_reserved = {};
+    QRect reserved;
     if (!autoHides) {
         const QRect area = toEdge(bar);
         const QRect strip = edge() == Qt::BottomEdge ? QRect(0, area.top(), width(), area.height())
                                                      : QRect(area.left(), 0, area.width(), height());
-        m_reserved = ScreenSpace::toDevice(strip.translated(m_frame.topLeft()));
+        reserved = ScreenSpace::toDevice(strip.translated(m_frame.topLeft()));
     }
-    panels.reserve(winId(), edge(), m_display.frame, m_reserved);
+    panels.reserve(winId(), edge(), m_display.frame, reserved);
 
     QRegion seen;
     if (!isTransparent()) {
@@ -164,6 +164,11 @@ void DockPanel::updateRegions() {
         seen = QRegion(outline.toFillPolygon().toPolygon());
     }
     setMask(seen);
+
+    if (const QRect touchable = ScreenSpace::toDevice(input.translated(m_frame.topLeft())); touchable != m_touchable) {
+        m_touchable = touchable;
+        Q_EMIT touchableChanged();
+    }
 }
 
 void DockPanel::takeKeyboard() {

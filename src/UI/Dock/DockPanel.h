@@ -32,7 +32,7 @@ public:
               VerdictController& verdict);
 
     void place(const Display& display); ///< also takes over a changed edge
-    const QRect& reserved() const { return m_reserved; } ///< what it keeps other windows off, in device pixels
+    const QRect& touchable() const { return m_touchable; } ///< where it takes input, in device pixels
 
     QRectF bar() const { return m_bar; } ///< where the bar rests, in the window
     void setBar(const QRectF& bar);
@@ -57,6 +57,7 @@ Q_SIGNALS:
     void transparencyChanged();
     void pointerChanged();
     void heldChanged();
+    void touchableChanged();
     void keyboardTaken();
 
 private:
@@ -70,7 +71,7 @@ private:
     Display m_display;
     QRect m_frame; ///< where the window is meant to be: what the window manager says of it comes late
     QRectF m_bar;
-    QRect m_reserved;
+    QRect m_touchable;
     bool m_isPointerInside = false;
     bool m_isHeld = false;
 };

@@ -46,16 +46,15 @@ QString GatePanel::icon() const {
     return blocked ? m_icons.source(blocked->bundleID) : QString();
 }
 
-/// In device pixels. Where nobody knows which display it is, it is the main one.
-QRect GatePanel::cover() const {
+/// Where nobody knows on which display the stopped window is, it is the main one.
+Display GatePanel::display() const {
     const QList<Display> displays = m_controller.platform().displays->all();
     if (displays.isEmpty())
-        return {0, 0, 1280, 720};
+        return {.id = {}, .frame = {0, 0, 1280, 720}};
     const auto window = m_controller.titles().window();
     const auto frame = window ? m_controller.platform().accessibility->frame(*window) : std::nullopt;
     const auto shown = frame ? displayAt(displays, frame->center()) : std::nullopt;
-    const Display& display = shown ? *shown : displays.first();
-    return (QRegion(display.workArea) - dockArea(display.id)).boundingRect();
+    return shown ? *shown : displays.first();
 }
 
 void GatePanel::gateChanged() {
@@ -63,10 +62,25 @@ void GatePanel::gateChanged() {
 }
 
 void GatePanel::comeForward() {
-    setGeometry(ScreenSpace::toLogical(cover()));
+    m_display = display();
+    // A frameless window of exactly a display's size counts as full-screen, and goes above every dock: one line more.
+    setGeometry(ScreenSpace::toLogical(m_display.frame).adjusted(0, 0, 0, 1));
+    leaveOutDock();
     show();
     m_controller.platform().panels->activate(winId());
     Q_EMIT attentionAsked();
+}
+
+/// The dock lies above the gate where the window manager allows it; where not, it is at least reached through it, and
+/// seen when nothing blends windows.
+void GatePanel::leaveOutDock() {
+    if (!isOpen())
+        return;
+    const QRect dock = dockArea(m_display.id);
+    const QRegion rest = (QRegion(m_display.frame) - dock).translated(-m_display.frame.topLeft());
+    m_controller.platform().panels->setInputRegion(winId(), rest);
+    const QRect cover = ScreenSpace::toLogical(m_display.frame);
+    setMask(isTransparent() ? QRegion() : (QRegion(cover) - ScreenSpace::toLogical(dock)).translated(-cover.topLeft()));
 }
 
 void GatePanel::closed() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Ports/Clock.h"
+#include "Ports/Displays.h"
 
 #include <QQuickView>
 #include <QtQmlIntegration>
@@ -15,7 +15,7 @@ class DockController;
 class FocusController;
 class GateController;
 
-/// The window that covers what the gate stops: the whole work area of the display that it is on, but for the dock, where
+/// The window that covers what the gate stops: the whole display that it is on. The dock there can still be used: there
 /// the user can say that the judgement is wrong. Its content is GateView.qml. Made once and kept, so that it shows at once.
 class GatePanel : public QQuickView {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     GatePanel(QQmlEngine& engine, AppController& controller, AppIcons& icons, DockController& dock,
               FocusController& focus, GateController& gate);
 
-    /// The part of a display that a dock keeps for itself, in device pixels.
+    /// Where the dock of a display takes input, in device pixels.
     std::function<QRect(const QString& displayID)> dockArea = [](const QString&) { return QRect(); };
 
     bool isOpen() const;
@@ -41,6 +41,8 @@ public:
     /// To be called when the panel's way out is drawn: the window goes.
     Q_INVOKABLE void closed();
 
+    void leaveOutDock(); ///< to be called when the dock's place changes
+
 Q_SIGNALS:
     void openChanged();
     void transparencyChanged();
@@ -50,10 +52,11 @@ Q_SIGNALS:
 private:
     void gateChanged();
     void comeForward();
-    QRect cover() const;
+    Display display() const;
 
     AppController& m_controller;
     AppIcons& m_icons;
+    Display m_display; ///< the one that is covered
 };
 
 } // namespace fendrel
