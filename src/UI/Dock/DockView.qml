@@ -39,13 +39,18 @@ FocusScope {
     Accessible.role: Accessible.ToolBar
     Accessible.name: qsTr("Fendrel dock")
 
-    // Arrows go through the items; Escape gives the keyboard back.
+    // Arrows go through the items, Home and End to the first and last; Escape gives the keyboard back.
     Keys.onPressed: event => {
         const forward = [Qt.Key_Right, Qt.Key_Down].includes(event.key)
         const backward = [Qt.Key_Left, Qt.Key_Up].includes(event.key)
         if (forward || backward) {
             const item = root.Window.activeFocusItem?.nextItemInFocusChain(forward)
             item?.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+            event.accepted = true
+        } else if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
+            const first = pills.itemAt(0)
+            const item = event.key === Qt.Key_Home ? first : first?.nextItemInFocusChain(false)
+            item?.forceActiveFocus(Qt.TabFocusReason)
             event.accepted = true
         } else if (event.key === Qt.Key_Escape) {
             root.panel.releaseKeyboard()

@@ -8,7 +8,6 @@ DockItem {
     required property string modeID
     required property string name
     required property string symbol
-    required property string shortcut
     required property color tint
     required property bool isCurrent
     required property bool isPending
@@ -24,8 +23,7 @@ DockItem {
 
     Behavior on implicitWidth { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
-    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(name).arg(pendingSeconds)
-                       : shortcut === "" ? name : name + "   " + shortcut
+    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(name).arg(pendingSeconds) : name
     isTipForced: isPending
 
     Accessible.role: Accessible.RadioButton

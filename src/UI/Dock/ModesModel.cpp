@@ -8,12 +8,11 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 namespace {
-enum Role { modeIDRole = Qt::UserRole + 1, nameRole, symbolRole, shortcutRole, tintRole, isCurrentRole, isPendingRole };
+enum Role { modeIDRole = Qt::UserRole + 1, nameRole, symbolRole, tintRole, isCurrentRole, isPendingRole };
 }
 
 ModesModel::ModesModel(AppController& controller) : m_controller(controller) {
     connect(&controller.engine(), &ModeEngine::changed, this, &ModesModel::refresh);
-    connect(&controller.preferences(), &Preferences::changed, this, &ModesModel::refresh);
     refresh();
 }
 
@@ -33,8 +32,6 @@ QVariant ModesModel::data(const QModelIndex& index, int role) const {
         return row.name;
     case symbolRole:
         return row.symbol;
-    case shortcutRole:
-        return row.shortcut;
     case tintRole:
         return row.tint;
     case isCurrentRole:
@@ -47,7 +44,7 @@ QVariant ModesModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ModesModel::roleNames() const {
-    return {{modeIDRole, "modeID"}, {nameRole, "name"},           {symbolRole, "symbol"},      {shortcutRole, "shortcut"},
+    return {{modeIDRole, "modeID"}, {nameRole, "name"},           {symbolRole, "symbol"},
             {tintRole, "tint"},     {isCurrentRole, "isCurrent"}, {isPendingRole, "isPending"}};
 }
 
@@ -67,11 +64,9 @@ void ModesModel::refresh() {
     const ModeEngine& engine = m_controller.engine();
     QList<Row> wanted;
     for (const Mode& mode : engine.modes()) {
-        const auto shortcut = m_controller.preferences().modeShortcut(static_cast<int>(wanted.size()));
         wanted.append(Row{.id = mode.id,
                           .name = mode.name,
                           .symbol = mode.symbol,
-                          .shortcut = shortcut.value_or(QString()),
                           .tint = color(mode.tint),
                           .isCurrent = mode.id == engine.current().id,
                           .isPending = engine.pending() && mode.id == engine.pending()->target.id});

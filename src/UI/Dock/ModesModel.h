@@ -29,7 +29,6 @@ private:
         QString id;
         QString name;
         QString symbol;
-        QString shortcut; ///< empty without a hot key
         QColor tint;
         bool isCurrent = false;
         bool isPending = false;
