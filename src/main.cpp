@@ -35,9 +35,9 @@ int fail(const QString& message) {
 Options readOptions(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Takes the place of the dock and keeps you in one mode of work at a time."_s);
-    const QCommandLineOption settingsPage(u"settings-page"_s, u"Open the settings at a pane: %1."_s.arg(
-                                                                  AppController::settingsPanes().join(u", ")),
-                                          u"pane"_s);
+    const QCommandLineOption settingsPage(
+        u"settings-page"_s, u"Open the settings at a pane: %1."_s.arg(AppController::settingsPanes().join(u", ")),
+        u"pane"_s);
     parser.addOption(settingsPage);
     parser.addHelpOption();
     parser.addVersionOption();

@@ -11,8 +11,8 @@ namespace fendrel {
 struct Alert {
     QString message{};
     QString informativeText{};
-    QStringList buttons{};                                   ///< the first is the default
-    std::function<void(int button)> answered = [](int) {};   ///< the position of the button; the last one on Escape
+    QStringList buttons{};                                 ///< the first is the default
+    std::function<void(int button)> answered = [](int) {}; ///< the position of the button; the last one on Escape
 };
 
 } // namespace fendrel

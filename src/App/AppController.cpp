@@ -12,12 +12,13 @@ const QString onboardingDoneKey = u"onboardingDone"_s;
 }
 
 AppController::AppController(Platform& platform)
-    : m_platform(platform), m_store(platform.folders.data, *platform.disk),
-      m_engine(m_store, *platform.settings, *platform.clock,
-               ModeCatalog::with(platform.applications->nativeApps()),
+    : m_platform(platform),
+      m_store(platform.folders.data, *platform.disk),
+      m_engine(m_store, *platform.settings, *platform.clock, ModeCatalog::with(platform.applications->nativeApps()),
                [&platform](const QString& bundleID) { return platform.applications->location(bundleID).has_value(); }),
       m_budget(*platform.settings, *platform.clock, *platform.idleTime),
-      m_preferences(*platform.settings, *platform.look), m_focus(*platform.settings, *platform.clock),
+      m_preferences(*platform.settings, *platform.look),
+      m_focus(*platform.settings, *platform.clock),
       m_titles(*platform.accessibility),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
       m_classifier(m_engine, *platform.languageModel, *platform.clock,
@@ -25,7 +26,8 @@ AppController::AppController(Platform& platform)
                    [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
       m_gate(*platform.clock),
       m_drift(m_engine, m_classifier, m_focus, m_gate, m_workspace, *platform.applications, *platform.clock),
-      m_router(m_titles, m_classifier, m_drift), m_tidyUp(m_workspace, m_engine.catalog()),
+      m_router(m_titles, m_classifier, m_drift),
+      m_tidyUp(m_workspace, m_engine.catalog()),
       m_feedback(*platform.settings, *platform.shell, platform.folders.crashes) {}
 
 void AppController::launch(const QString& settingsPane) {
@@ -140,8 +142,7 @@ void AppController::dockHoldChanged(const QString& displayID, bool isHeld) {
 void AppController::scheduleDockTimer() {
     constexpr auto interval = Clock::Duration(1s) / 30;
     constexpr auto tolerance = Clock::Duration(1s) / 150;
-    const bool isNeeded =
-        std::ranges::any_of(m_autoHide, [](const auto& entry) { return entry.second.isWaiting(); });
+    const bool isNeeded = std::ranges::any_of(m_autoHide, [](const auto& entry) { return entry.second.isWaiting(); });
     if (!isNeeded)
         m_dockTimer.reset();
     else if (!m_dockTimer)

@@ -27,14 +27,14 @@ struct DockAppearance {
 public:
     QColor background{0xf7, 0xf7, 0xf9}; ///< opaque
     bool isDark{false};                  ///< text and symbols are light
-    double opacity{0.86};                          ///< of the background, 0 to 1
-    double cornerRadius{18};                       ///< pixels, 0 to 40
-    double spacing{6};                             ///< pixels between icons, 0 to 24
-    double iconScale{1};                           ///< factor on the size of the icons, 0.75 to 1.5
-    double magnification{1.35};                    ///< factor under the pointer, 1 to 2
-    double shadow{0.28};                           ///< opacity, 0 to 1
-    double border{0.10};                           ///< opacity of the hairline around the dock, 0 to 1
-    bool blur{true};                               ///< where the compositor can
+    double opacity{0.86};                ///< of the background, 0 to 1
+    double cornerRadius{18};             ///< pixels, 0 to 40
+    double spacing{6};                   ///< pixels between icons, 0 to 24
+    double iconScale{1};                 ///< factor on the size of the icons, 0.75 to 1.5
+    double magnification{1.35};          ///< factor under the pointer, 1 to 2
+    double shadow{0.28};                 ///< opacity, 0 to 1
+    double border{0.10};                 ///< opacity of the hairline around the dock, 0 to 1
+    bool blur{true};                     ///< where the compositor can
 
     bool operator==(const DockAppearance&) const = default;
 

@@ -45,7 +45,8 @@ std::optional<QString> digitShortcut(int modifiers, int index) {
 } // namespace
 
 Preferences::Preferences(SettingsStore& store, SystemLook& look)
-    : m_store(store), m_look(look),
+    : m_store(store),
+      m_look(look),
       m_dockSize{u"dockSize"_s, readEnum(store, u"dockSize"_s, DockSize::medium)},
       m_autoHide{u"autoHide"_s, store.flag(u"autoHide"_s)},
       m_magnify{u"magnify"_s, readOnByDefault(store, u"magnify"_s)},
@@ -63,8 +64,8 @@ Preferences::Preferences(SettingsStore& store, SystemLook& look)
       m_dockPosition{u"dockPosition"_s, readEnum(store, u"dockPosition"_s, DockPosition::bottom)},
       m_dockDisplay{u"dockDisplay"_s, readEnum(store, u"dockDisplay"_s, DockDisplay::main)},
       m_lightAppearance{u"dockAppearance"_s, readAppearance(store, u"dockAppearance"_s, {})},
-      m_darkAppearance{u"dockAppearanceDark"_s, readAppearance(store, u"dockAppearanceDark"_s,
-                                                               DockAppearance::preset(u"Midnight"_s).value())},
+      m_darkAppearance{u"dockAppearanceDark"_s,
+                       readAppearance(store, u"dockAppearanceDark"_s, DockAppearance::preset(u"Midnight"_s).value())},
       m_matchSystem{u"matchSystemAppearance"_s, store.flag(u"matchSystemAppearance"_s)},
       m_systemIsDark(look.isDark()) {
     Q_ASSERT(QThread::currentThread() == thread());

@@ -106,10 +106,8 @@ private:
     static StoredValue stored(const std::optional<Shortcut>& value) { return toJson(value); }
     static StoredValue stored(const DockAppearance& value) { return toJson(value); }
     template<class Enumeration>
-        requires std::is_enum_v<Enumeration>
-    static StoredValue stored(Enumeration value) {
-        return enumName(value);
-    }
+    requires std::is_enum_v<Enumeration>
+    static StoredValue stored(Enumeration value) { return enumName(value); }
 
     template<class Value>
     void change(Setting<Value>& setting, const Value& value) {

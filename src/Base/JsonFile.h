@@ -19,8 +19,8 @@ enum class ReadError {
 Result<QJsonObject, ReadError> read(const QString& path);
 
 /// Replaces a file in one step (temporary file, flush to disk, rename), readable by its owner only. The folder is made
-/// when it is missing, owner-only too. Returns false, with a line in the log, when that fails; the old file then stands.
-/// Blocks on the disk; safe on any thread.
+/// when it is missing, owner-only too. Returns false, with a line in the log, when that fails; the old file then
+/// stands. Blocks on the disk; safe on any thread.
 bool write(const QString& path, const QByteArray& content);
 
 /// Moves a file that cannot be used out of the way, so that nothing of the user's is lost when a new one is written.

@@ -94,8 +94,7 @@ Error Database::lastError() const {
     return {.code = sqlite3_errcode(m_database.get()), .text = QString::fromUtf8(sqlite3_errmsg(m_database.get()))};
 }
 
-Transaction::Transaction(Database& database)
-    : m_database(database), m_isOpen(database.run(u"BEGIN IMMEDIATE"_s)) {}
+Transaction::Transaction(Database& database) : m_database(database), m_isOpen(database.run(u"BEGIN IMMEDIATE"_s)) {}
 
 Transaction::~Transaction() {
     if (m_isOpen)

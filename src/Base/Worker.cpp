@@ -1,13 +1,13 @@
 #include "Base/Worker.h"
 
+#include <pthread.h>
+
 #include <algorithm>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <thread>
 #include <utility>
-
-#include <pthread.h>
 
 namespace fendrel {
 

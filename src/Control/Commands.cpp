@@ -20,7 +20,9 @@ const QList<Command>& commands() {
          .parameters = {mode},
          .help = u"Ask for a mode; asking again for one that is waited for cuts the wait by 3 seconds."_s},
         {.name = u"focus start"_s,
-         .options = {{.name = u"for"_s, .takes = Takes::duration, .help = u"end by itself, for example after 25m or 1h30m"_s}},
+         .options = {{.name = u"for"_s,
+                      .takes = Takes::duration,
+                      .help = u"end by itself, for example after 25m or 1h30m"_s}},
          .help = u"Start a focus session, open-ended unless a duration is given."_s},
         {.name = u"focus stop"_s, .help = u"End the focus session."_s},
         {.name = u"gate"_s,
@@ -42,7 +44,8 @@ const QList<Command>& commands() {
         {.name = u"settings open"_s,
          .parameters = {{.name = u"PANE"_s, .takes = Takes::text}},
          .help = u"Open the settings window at a pane."_s},
-        {.name = u"dock focus"_s, .help = u"Lead the keyboard to the dock: arrows move, Return presses, Escape leaves."_s},
+        {.name = u"dock focus"_s,
+         .help = u"Lead the keyboard to the dock: arrows move, Return presses, Escape leaves."_s},
         {.name = u"onboarding finish"_s,
          .parameters = {{.name = u"TEMPLATE"_s, .takes = Takes::text, .count = Count::any}},
          .help = u"Finish the first run with these modes, or with the usual ones."_s},
@@ -98,8 +101,8 @@ Parsed parse(const QStringList& words) {
         }
     }
     const auto least = std::ranges::count(found->parameters, Parameter::Count::one, &Parameter::count);
-    const bool takesAny = std::ranges::find(found->parameters, Parameter::Count::any, &Parameter::count) !=
-                          found->parameters.end();
+    const bool takesAny =
+        std::ranges::find(found->parameters, Parameter::Count::any, &Parameter::count) != found->parameters.end();
     const auto given = request.arguments.size();
     if (given < least || (!takesAny && given > found->parameters.size()))
         return {.error = u"usage: fendrelctl "_s + usage(*found)};

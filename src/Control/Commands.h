@@ -28,8 +28,8 @@ struct Command {
     QString name{}; ///< one or more words
     QList<Parameter> parameters{};
     QList<Option> options{};
-    QString help{}; ///< one sentence
-    bool isStream{}; ///< answers with lines until it is interrupted
+    QString help{};    ///< one sentence
+    bool isStream{};   ///< answers with lines until it is interrupted
     bool isInternal{}; ///< for the programs themselves: in no help
 };
 

@@ -3,12 +3,12 @@
 #include <QFile>
 #include <QJsonDocument>
 
-#include <cerrno>
-#include <cstring>
-
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 
 namespace fendrel::control {
 
@@ -31,8 +31,8 @@ bool ControlClient::connectTo(const QString& path) {
 bool ControlClient::send(const Request& request, const std::function<bool(const QJsonObject&)>& take) {
     const QByteArray line = encode(request);
     for (qsizetype sent = 0; sent < line.size();) {
-        const auto count = ::send(m_socket, line.constData() + sent, static_cast<std::size_t>(line.size() - sent),
-                                  MSG_NOSIGNAL);
+        const auto count =
+            ::send(m_socket, line.constData() + sent, static_cast<std::size_t>(line.size() - sent), MSG_NOSIGNAL);
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)

@@ -8,12 +8,12 @@
 #include <QFile>
 #include <QLocalSocket>
 
-#include <algorithm>
-#include <utility>
-
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace fendrel::control {
 
@@ -91,9 +91,9 @@ void ControlServer::receive(QLocalSocket* socket) {
         return;
     QList<QByteArray> lines;
     const QByteArray bytes = socket->readAll();
-    const bool isSound =
-        client->second.framer.feed({bytes.constData(), static_cast<std::size_t>(bytes.size())},
-                                   [&](std::string_view line) { lines.append(QByteArray(line.data(), static_cast<qsizetype>(line.size()))); });
+    const bool isSound = client->second.framer.feed(
+        {bytes.constData(), static_cast<std::size_t>(bytes.size())},
+        [&](std::string_view line) { lines.append(QByteArray(line.data(), static_cast<qsizetype>(line.size()))); });
     for (const QByteArray& line : lines) {
         handle(socket, line);
         // Answering is how it shows that the other end is gone.

@@ -3,12 +3,12 @@
 #include <QDir>
 #include <QFile>
 
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 namespace fendrel::control {
 

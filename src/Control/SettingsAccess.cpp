@@ -32,9 +32,8 @@ QList<QMetaProperty> properties() {
 
 std::optional<QMetaProperty> property(const QString& name) {
     const auto all = properties();
-    const auto found = std::ranges::find_if(all, [&](const QMetaProperty& candidate) {
-        return name == QLatin1StringView(candidate.name());
-    });
+    const auto found = std::ranges::find_if(
+        all, [&](const QMetaProperty& candidate) { return name == QLatin1StringView(candidate.name()); });
     if (found == all.end())
         return {};
     return *found;

@@ -50,19 +50,19 @@ QJsonValue front(const WindowTitles& titles) {
 }
 
 QJsonObject subjectObject(const Subject& subject) {
-    return std::visit(Overloaded{
-                          [](const AppSubject& app) {
-                              return QJsonObject{{u"kind"_s, u"app"_s},
-                                                 {u"bundleID"_s, app.bundleID},
-                                                 {u"name"_s, app.name},
-                                                 {u"title"_s, text(app.title)}};
-                          },
-                          [](const SiteSubject& site) {
-                              return QJsonObject{
-                                  {u"kind"_s, u"site"_s}, {u"host"_s, site.host}, {u"title"_s, site.title}};
-                          },
-                      },
-                      subject);
+    return std::visit(
+        Overloaded{
+            [](const AppSubject& app) {
+                return QJsonObject{{u"kind"_s, u"app"_s},
+                                   {u"bundleID"_s, app.bundleID},
+                                   {u"name"_s, app.name},
+                                   {u"title"_s, text(app.title)}};
+            },
+            [](const SiteSubject& site) {
+                return QJsonObject{{u"kind"_s, u"site"_s}, {u"host"_s, site.host}, {u"title"_s, site.title}};
+            },
+        },
+        subject);
 }
 
 QJsonValue verdictObject(const std::optional<Verdict>& verdict) {
@@ -139,9 +139,10 @@ QJsonObject explanation(AppController& controller) {
         return {{u"subject"_s, QJsonValue()},
                 {u"verdict"_s, QJsonValue()},
                 {u"because"_s,
-                 QJsonArray{isSomethingInFront
-                                ? u"No mode lists what is in front, nothing is remembered of it, and it isn't asked about."_s
-                                : u"Nothing is in front."_s}}};
+                 QJsonArray{
+                     isSomethingInFront
+                         ? u"No mode lists what is in front, nothing is remembered of it, and it isn't asked about."_s
+                         : u"Nothing is in front."_s}}};
     }
     QJsonArray because;
     if (!front->verdict) {

@@ -6,8 +6,8 @@
 
 namespace fendrel {
 
-/// Whether the dock of one display shows. A dock that hides by itself shows while the pointer is at its edge or over it,
-/// and a moment longer, and while something holds it (an open menu).
+/// Whether the dock of one display shows. A dock that hides by itself shows while the pointer is at its edge or over
+/// it, and a moment longer, and while something holds it (an open menu).
 class AutoHide {
 public:
     static constexpr auto delay = std::chrono::milliseconds{450}; ///< after the pointer left

@@ -45,21 +45,19 @@ void Classifier::clearFront() {
 }
 
 std::optional<Verdict> Classifier::ruleVerdict(const Subject& subject) const {
-    const Mode* mode = std::visit(
-        Overloaded{
-            [this](const AppSubject& app) -> const Mode* {
-                return m_engine.catalog().sharedApps.contains(app.bundleID) ? nullptr
-                                                                            : m_engine.listing(app.bundleID);
-            },
-            [this](const SiteSubject& site) { return m_engine.listingSite(site.host); },
-        },
-        subject);
+    const Mode* mode = std::visit(Overloaded{
+                                      [this](const AppSubject& app) -> const Mode* {
+                                          return m_engine.catalog().sharedApps.contains(app.bundleID)
+                                                     ? nullptr
+                                                     : m_engine.listing(app.bundleID);
+                                      },
+                                      [this](const SiteSubject& site) { return m_engine.listingSite(site.host); },
+                                  },
+                                  subject);
     if (!mode)
         return {};
-    return Verdict{.modeID = mode->id,
-                   .certainty = Certainty::certain,
-                   .what = plainName(subject),
-                   .source = Source::rule};
+    return Verdict{
+        .modeID = mode->id, .certainty = Certainty::certain, .what = plainName(subject), .source = Source::rule};
 }
 
 std::optional<Verdict> Classifier::cachedVerdict(const Subject& subject) {

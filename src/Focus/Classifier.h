@@ -18,8 +18,8 @@ namespace fendrel {
 class Clock;
 class ModeEngine;
 
-/// Decides to which mode the thing in front belongs: by the modes' lists, then by remembered answers, then by asking the
-/// language model. Publishes the judgement of what is in front, and takes the user's corrections. Main thread.
+/// Decides to which mode the thing in front belongs: by the modes' lists, then by remembered answers, then by asking
+/// the language model. Publishes the judgement of what is in front, and takes the user's corrections. Main thread.
 class Classifier : public QObject {
     Q_OBJECT
 public:

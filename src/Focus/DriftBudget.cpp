@@ -22,8 +22,12 @@ constexpr auto idleAfter = 120s;
 } // namespace
 
 DriftBudget::DriftBudget(SettingsStore& settings, Clock& clock, const IdleTime& idleTime)
-    : m_settings(settings), m_clock(clock), m_idleTime(idleTime), m_day(today()),
-      m_lastTick(clock.continuousNow()), m_timer(clock.every(5s, 1s, [this] { update(); })) {
+    : m_settings(settings),
+      m_clock(clock),
+      m_idleTime(idleTime),
+      m_day(today()),
+      m_lastTick(clock.continuousNow()),
+      m_timer(clock.every(5s, 1s, [this] { update(); })) {
     if (m_settings.read<QString>(dayKey) == m_day) {
         m_used = m_settings.read<QHash<QString, double>>(usedKey).value_or(QHash<QString, double>());
         m_inMode = m_settings.read<QHash<QString, double>>(inModeKey).value_or(QHash<QString, double>());

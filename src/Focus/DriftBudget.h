@@ -15,8 +15,8 @@ namespace fendrel {
 class IdleTime;
 class SettingsStore;
 
-/// Counts, for the calendar day, the time spent in each mode, and how much of each mode's daily allowance went to things
-/// of other modes. Main thread.
+/// Counts, for the calendar day, the time spent in each mode, and how much of each mode's daily allowance went to
+/// things of other modes. Main thread.
 class DriftBudget : public QObject {
     Q_OBJECT
 public:

@@ -13,8 +13,13 @@ using namespace std::chrono_literals;
 
 DriftHandling::DriftHandling(ModeEngine& engine, Classifier& classifier, const FocusSession& focus, Gate& gate,
                              Workspace& workspace, Applications& applications, Clock& clock)
-    : m_engine(engine), m_classifier(classifier), m_focus(focus), m_gate(gate), m_workspace(workspace),
-      m_applications(applications), m_clock(clock) {}
+    : m_engine(engine),
+      m_classifier(classifier),
+      m_focus(focus),
+      m_gate(gate),
+      m_workspace(workspace),
+      m_applications(applications),
+      m_clock(clock) {}
 
 void DriftHandling::classify(const Subject& subject) {
     m_lastSubject = subject;

@@ -16,8 +16,7 @@ const QString endsAtKey = u"focusEndsAt"_s;
 } // namespace
 
 FocusSession::FocusSession(SettingsStore& settings, Clock& clock)
-    : m_settings(settings), m_clock(clock),
-      m_wallClockWatch(clock.onWallClockSet([this] { wallClockWasSet(); })) {
+    : m_settings(settings), m_clock(clock), m_wallClockWatch(clock.onWallClockSet([this] { wallClockWasSet(); })) {
     if (!m_settings.flag(onKey))
         return;
     const auto stored = m_settings.read<QDateTime>(endsAtKey);

@@ -26,7 +26,7 @@ public:
 
     bool isOn() const { return m_isOn; }
     const std::optional<WallTime>& endsAt() const { return m_endsAt; } ///< nothing for an open-ended session
-    std::optional<Seconds> remaining() const;                         ///< nothing for an open-ended session
+    std::optional<Seconds> remaining() const;                          ///< nothing for an open-ended session
 
     /// Starts a session, open-ended without a duration; a running one gets the new end.
     void start(std::optional<Seconds> duration = {});

@@ -28,14 +28,14 @@ QString instructions(const QList<Mode>& modes, const std::function<QString(const
     for (const Mode& mode : modes) {
         QStringList names;
         for (const QString& bundleID : mode.apps) {
-            // A dot means that the application has no name here, only its identifier, which would tell the model nothing.
+            // A dot means that the application has no name here, only its identifier, which would tell the model
+            // nothing.
             if (const QString name = appName(bundleID); !name.contains(u'.'))
                 names.append(name);
         }
-        lines.append(u"- %1 (%2): Apps: %3. Sites: %4"_s.arg(mode.id, mode.name,
-                                                             names.first(qMin(namesPerMode, names.size())).join(u", "),
-                                                             mode.sites.first(qMin(namesPerMode, mode.sites.size()))
-                                                                 .join(u", ")));
+        lines.append(u"- %1 (%2): Apps: %3. Sites: %4"_s.arg(
+            mode.id, mode.name, names.first(qMin(namesPerMode, names.size())).join(u", "),
+            mode.sites.first(qMin(namesPerMode, mode.sites.size())).join(u", ")));
     }
     return u"You sort what's on a Mac screen into the user's modes. Judge the window title or page, not just the "
            "app.\nModes:\n"_s +

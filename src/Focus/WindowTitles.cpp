@@ -32,12 +32,12 @@ void WindowTitles::observe() {
         readTitle();
         return;
     }
-    m_observer = m_accessibility.observe(
-        m_app->pid, {.onWindowChanged = [this] { windowDidChange(); },
-                     .onTitleChanged = [this](WindowID window) {
-                         if (window == m_window)
-                             readTitle();
-                     }});
+    m_observer = m_accessibility.observe(m_app->pid, {.onWindowChanged = [this] { windowDidChange(); },
+                                                      .onTitleChanged =
+                                                          [this](WindowID window) {
+                                                              if (window == m_window)
+                                                                  readTitle();
+                                                          }});
     windowDidChange();
 }
 

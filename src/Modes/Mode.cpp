@@ -6,8 +6,7 @@ namespace fendrel {
 
 bool Mode::site(const QString& host, const QStringList& sites) {
     return std::ranges::any_of(sites, [&](const QString& listed) {
-        return host.endsWith(listed) &&
-               (host.size() == listed.size() || host[host.size() - listed.size() - 1] == u'.');
+        return host.endsWith(listed) && (host.size() == listed.size() || host[host.size() - listed.size() - 1] == u'.');
     });
 }
 

@@ -28,8 +28,12 @@ bool appendNew(QList<Item>& list, const Item& item) {
 
 ModeEngine::ModeEngine(ModeStore& store, SettingsStore& settings, Clock& clock, ModeCatalog catalog,
                        const std::function<bool(const QString&)>& isInstalled)
-    : m_store(store), m_settings(settings), m_clock(clock), m_catalog(std::move(catalog)),
-      m_isInstalled(isInstalled), m_modes(store.load()) {
+    : m_store(store),
+      m_settings(settings),
+      m_clock(clock),
+      m_catalog(std::move(catalog)),
+      m_isInstalled(isInstalled),
+      m_modes(store.load()) {
     if (m_modes.isEmpty()) {
         for (const Mode& starter : m_catalog.starterTemplates())
             m_modes.append(seeded(starter));

@@ -57,8 +57,8 @@ public:
     void update(const Mode& mode);
     /// Moves the modes at these positions, in their order, before the one at `target` (counted before the move).
     void moveModes(const QList<qsizetype>& positions, qsizetype target);
-    void addMode(const Mode& mode);        ///< ignored when the id is taken
-    void deleteMode(const QString& id);    ///< the last mode stays: there is always a current one
+    void addMode(const Mode& mode);              ///< ignored when the id is taken
+    void deleteMode(const QString& id);          ///< the last mode stays: there is always a current one
     void replaceModes(const QList<Mode>& modes); ///< an empty list is ignored
 
     /// A template with the applications that are installed, or that the user once added to some mode.

@@ -63,8 +63,7 @@ bool write(sqlite::Database& database, const QList<StoredMode>& modes) {
         statement.reset();
         ids.append(mode.id);
     }
-    auto removal =
-        database.prepare(u"DELETE FROM StoredMode WHERE id NOT IN (SELECT value FROM json_each(?))"_s);
+    auto removal = database.prepare(u"DELETE FROM StoredMode WHERE id NOT IN (SELECT value FROM json_each(?))"_s);
     if (!removal)
         return false;
     auto remove = *std::move(removal);

@@ -15,7 +15,7 @@ class Worker;
 namespace sqlite {
 class Database;
 struct Error;
-}
+} // namespace sqlite
 
 /// The user's modes on disk: the SQLite file "Modes.store". A damaged file is kept aside and a fresh one begun; a file
 /// that cannot be used for another reason is left as it is, and nothing is saved in this run.

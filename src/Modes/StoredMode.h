@@ -13,7 +13,7 @@ struct StoredMode {
     QStringList apps{};
     QStringList sites{};
     QStringList widgets{};
-    qint64 order{}; ///< position in the user's list
+    qint64 order{};       ///< position in the user's list
     double dailyBudget{}; ///< seconds
     double entryDelay{};  ///< seconds
 

@@ -30,7 +30,7 @@ struct WindowInfo {
 class Accessibility {
 public:
     struct Observer {
-        std::function<void()> onWindowChanged;           ///< the focused or main window is another one
+        std::function<void()> onWindowChanged; ///< the focused or main window is another one
         std::function<void(WindowID)> onTitleChanged;
     };
 
@@ -47,8 +47,8 @@ public:
     virtual std::optional<QRect> frame(WindowID window) const = 0; ///< device pixels, from the desktop's origin
     virtual Handle observe(qint64 pid, Observer observer) = 0;
 
-    virtual void raise(WindowID window) = 0;    ///< also restores it, and gives it the keyboard
-    virtual void restore(WindowID window) = 0;  ///< brings it back from being minimised, without the keyboard
+    virtual void raise(WindowID window) = 0;   ///< also restores it, and gives it the keyboard
+    virtual void restore(WindowID window) = 0; ///< brings it back from being minimised, without the keyboard
     virtual void minimize(WindowID window) = 0;
     virtual void close(WindowID window) = 0;
 };

@@ -19,10 +19,10 @@ struct InstalledApp {
 
 struct RunningApp {
     qint64 pid{};
-    QString bundleID{};     ///< empty when the system cannot name the application
-    QString name{};         ///< empty when the system knows none
-    bool isRegular{};       ///< shows in a dock, as opposed to panels, desktops and background helpers
-    qint64 launchOrder{};   ///< grows with the launch date; its unit is the adapter's own
+    QString bundleID{};   ///< empty when the system cannot name the application
+    QString name{};       ///< empty when the system knows none
+    bool isRegular{};     ///< shows in a dock, as opposed to panels, desktops and background helpers
+    qint64 launchOrder{}; ///< grows with the launch date; its unit is the adapter's own
     bool operator==(const RunningApp&) const = default;
 };
 
@@ -34,8 +34,8 @@ struct AppIcon {
 
 /// Applications of this system that the built-in modes should know besides the ones they name themselves.
 struct NativeApps {
-    QSet<QString> shared{};                        ///< belong to every mode
-    QHash<QString, QStringList> byTemplate{};      ///< template id -> bundle identifiers, in dock order
+    QSet<QString> shared{};                   ///< belong to every mode
+    QHash<QString, QStringList> byTemplate{}; ///< template id -> bundle identifiers, in dock order
 };
 
 /// The other applications of this machine. Main thread. No call fails: what cannot be done is left undone.
@@ -44,7 +44,7 @@ public:
     virtual ~Applications() = default;
 
     virtual QList<InstalledApp> installed() const = 0;
-    virtual QList<RunningApp> running() const = 0; ///< one entry per process, in no particular order
+    virtual QList<RunningApp> running() const = 0;           ///< one entry per process, in no particular order
     virtual std::optional<RunningApp> frontmost() const = 0; ///< this application itself included
 
     /// The bundle's or desktop entry's path; nothing when the system does not know the application.

@@ -15,7 +15,7 @@ namespace fendrel {
 /// One property that the model has to fill in. Properties are generated in the order of the schema.
 struct SchemaProperty {
     QString name{};
-    QString typeName{};    ///< name of the choice's type; empty for free text
+    QString typeName{}; ///< name of the choice's type; empty for free text
     QString description{};
     QStringList choices{}; ///< the only answers allowed; empty for free text
     bool operator==(const SchemaProperty&) const = default;

@@ -29,8 +29,14 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 Interface::Interface(AppController& controller)
-    : m_controller(controller), m_icons(controller.workspace()), m_focus(controller), m_verdict(controller),
-      m_gate(controller), m_dock(controller, m_icons), m_firstRun(controller, m_icons), m_settings(controller) {
+    : m_controller(controller),
+      m_icons(controller.workspace()),
+      m_focus(controller),
+      m_verdict(controller),
+      m_gate(controller),
+      m_dock(controller, m_icons),
+      m_firstRun(controller, m_icons),
+      m_settings(controller) {
     qml_register_types_Fendrel_Types();
     m_engine.addImportPath(u"qrc:/qml"_s);
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
@@ -90,10 +96,9 @@ void Interface::showFirstRun() {
         m_firstRunWindow->present();
         return;
     }
-    m_firstRunWindow = std::make_unique<Dialog>(m_engine, QCoreApplication::translate("Interface", "Welcome to Fendrel"),
-                                                u"Setup/FirstRunView.qml"_s,
-                                                QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}},
-                                                QSize(760, 690));
+    m_firstRunWindow = std::make_unique<Dialog>(
+        m_engine, QCoreApplication::translate("Interface", "Welcome to Fendrel"), u"Setup/FirstRunView.qml"_s,
+        QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}}, QSize(760, 690));
     QObject::connect(&m_controller, &AppController::onboardingChanged, m_firstRunWindow.get(), [this] {
         // The window is still in the middle of the press that ended it.
         m_firstRunWindow->hide();
@@ -105,10 +110,9 @@ void Interface::showFirstRun() {
 void Interface::showSettings(const QString& pane) {
     m_settings.setPane(pane);
     if (!m_settingsWindow) {
-        m_settingsWindow = std::make_unique<Dialog>(m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"),
-                                                    u"Setup/SettingsView.qml"_s,
-                                                    QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}},
-                                                    QSize(820, 600));
+        m_settingsWindow = std::make_unique<Dialog>(
+            m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Setup/SettingsView.qml"_s,
+            QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, QSize(820, 600));
         m_settingsWindow->onClosed = [this] { m_settingsWindow.release()->deleteLater(); };
     }
     m_settingsWindow->present();
@@ -116,9 +120,9 @@ void Interface::showSettings(const QString& pane) {
 
 void Interface::showAlert(const Alert& alert) {
     auto* answers = new AlertController(alert, m_controller.preferences().systemIsDark());
-    auto& window = m_alerts.emplace_back(std::make_unique<Dialog>(
-        m_engine, alert.message, u"Setup/AlertView.qml"_s, QVariantMap{{u"alert"_s, QVariant::fromValue(answers)}},
-        QSize()));
+    auto& window = m_alerts.emplace_back(
+        std::make_unique<Dialog>(m_engine, alert.message, u"Setup/AlertView.qml"_s,
+                                 QVariantMap{{u"alert"_s, QVariant::fromValue(answers)}}, QSize()));
     answers->setParent(window.get());
     window->onClosed = [answers] { answers->cancel(); };
     QObject::connect(answers, &AlertController::done, window.get(), [this, dialog = window.get()] {

@@ -17,7 +17,6 @@
 #include <map>
 #include <memory>
 
-
 namespace fendrel {
 
 class AppController;

@@ -14,8 +14,8 @@ class PopupWindow : public QQuickWindow {
 public:
     explicit PopupWindow(QWindow* parent = nullptr);
 
-    /// Opens beside a rectangle of the desktop that belongs to another window: towards the middle of the screen from the
-    /// edge that it is at, and always whole on that screen.
+    /// Opens beside a rectangle of the desktop that belongs to another window: towards the middle of the screen from
+    /// the edge that it is at, and always whole on that screen.
     void openBeside(QWindow* window, const QRectF& anchor, Qt::Edge edge, double gap);
     Q_INVOKABLE void dismiss();
 

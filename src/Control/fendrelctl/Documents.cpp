@@ -167,7 +167,7 @@ QString fishCompletion() {
         } else {
             text += u"complete -c fendrelctl -n __fish_use_subcommand -a %1\n"_s.arg(words[0]);
             text += u"complete -c fendrelctl -n '%1%2; and not %1%3' -a %3 -d \"%4\"\n"_s.arg(begun, words[0], words[1],
-                                                                                             command.help);
+                                                                                              command.help);
         }
         for (const Option& option : command.options)
             text += u"complete -c fendrelctl -n '%1%2' -l %3 -x -a \"%4\"\n"_s.arg(begun, words.last(), option.name,

@@ -31,8 +31,8 @@ void print(QString& text, const QJsonValue& value, int depth) {
     const QJsonObject object = value.toObject();
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QJsonValue part = member.value();
-        const bool isEmpty = (part.isObject() && part.toObject().isEmpty()) ||
-                             (part.isArray() && part.toArray().isEmpty());
+        const bool isEmpty =
+            (part.isObject() && part.toObject().isEmpty()) || (part.isArray() && part.toArray().isEmpty());
         if (!isEmpty && (part.isObject() || part.isArray())) {
             text += indent + member.key() + u":\n"_s;
             print(text, part, depth + 1);

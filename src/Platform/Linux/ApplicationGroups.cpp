@@ -1,9 +1,9 @@
 #include "Platform/Linux/ApplicationGroups.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fendrel {
 
@@ -12,17 +12,16 @@ ApplicationGroups::ApplicationGroups(std::shared_ptr<X11Windows> windows, std::s
     : m_windows(std::move(windows)), m_catalog(std::move(catalog)), m_clock(clock) {
     connect(m_windows.get(), &X11Windows::listChanged, this, &ApplicationGroups::regroup);
     connect(m_windows.get(), &X11Windows::activeChanged, this, &ApplicationGroups::readFront);
-    connect(m_windows.get(), &X11Windows::windowChanged, this,
-            [this](const X11Window& now, const X11Window& before) {
-                const auto identity = [](const X11Window& window) {
-                    return std::tie(window.className, window.instanceName, window.declaredEntry, window.pid);
-                };
-                const bool isRenamed = identity(now) != identity(before);
-                if (isRenamed)
-                    m_origins.remove(now.id);
-                if (isRenamed || now.isRegular() != before.isRegular() || now.transientFor != before.transientFor)
-                    regroup();
-            });
+    connect(m_windows.get(), &X11Windows::windowChanged, this, [this](const X11Window& now, const X11Window& before) {
+        const auto identity = [](const X11Window& window) {
+            return std::tie(window.className, window.instanceName, window.declaredEntry, window.pid);
+        };
+        const bool isRenamed = identity(now) != identity(before);
+        if (isRenamed)
+            m_origins.remove(now.id);
+        if (isRenamed || now.isRegular() != before.isRegular() || now.transientFor != before.transientFor)
+            regroup();
+    });
     regroup();
 }
 
@@ -72,9 +71,9 @@ const ApplicationGroups::Origin& ApplicationGroups::originOf(const X11Window& wi
                               .instanceName = window.instanceName,
                               .className = window.className,
                               .process = factsOf(process)};
-    return *m_origins.insert(window.id, {.process = process,
-                                         .name = m_catalog->identify(traits),
-                                         .isWebApplication = isWebApplication(traits)});
+    return *m_origins.insert(
+        window.id,
+        {.process = process, .name = m_catalog->identify(traits), .isWebApplication = isWebApplication(traits)});
 }
 
 const ProcessFacts& ApplicationGroups::factsOf(qint64 process) {

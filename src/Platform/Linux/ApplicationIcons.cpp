@@ -4,8 +4,7 @@
 
 namespace fendrel {
 
-ApplicationIcons::ApplicationIcons(std::shared_ptr<ApplicationGroups> groups,
-                                   std::shared_ptr<DesktopSettings> settings)
+ApplicationIcons::ApplicationIcons(std::shared_ptr<ApplicationGroups> groups, std::shared_ptr<DesktopSettings> settings)
     : m_groups(std::move(groups)), m_settings(std::move(settings)), m_themeName(m_settings->iconThemeName()) {
     connect(m_settings.get(), &DesktopSettings::changed, this, [this] {
         const QString name = m_settings->iconThemeName();

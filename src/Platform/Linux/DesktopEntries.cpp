@@ -93,8 +93,7 @@ EntryIndex DesktopEntries::read() {
     }
     entries.removeIf([](const auto& item) {
         const DesktopEntry& entry = *item;
-        return entry.isHidden ||
-               (!entry.tryExec.isEmpty() && QStandardPaths::findExecutable(entry.tryExec).isEmpty());
+        return entry.isHidden || (!entry.tryExec.isEmpty() && QStandardPaths::findExecutable(entry.tryExec).isEmpty());
     });
     watch(toWatch);
     return EntryIndex(entries.values());

@@ -21,11 +21,21 @@ QString unescaped(QStringView& value, QChar end = {}) {
         }
         const QChar escaped = value[++index];
         switch (escaped.unicode()) {
-        case u's': text += u' '; break;
-        case u'n': text += u'\n'; break;
-        case u't': text += u'\t'; break;
-        case u'r': text += u'\r'; break;
-        case u'\\': text += u'\\'; break;
+        case u's':
+            text += u' ';
+            break;
+        case u'n':
+            text += u'\n';
+            break;
+        case u't':
+            text += u'\t';
+            break;
+        case u'r':
+            text += u'\r';
+            break;
+        case u'\\':
+            text += u'\\';
+            break;
         default:
             // "\;" belongs to lists; in other values only what the standard names is an escape.
             if (escaped != end)
@@ -93,7 +103,8 @@ std::optional<DesktopEntry> parseDesktopEntry(QByteArrayView content, const Desk
         return text(key);
     };
     const auto namesThisDesktop = [&](const QStringList& desktops) {
-        return std::ranges::any_of(desktops, [&](const QString& desktop) { return context.desktops.contains(desktop); });
+        return std::ranges::any_of(desktops,
+                                   [&](const QString& desktop) { return context.desktops.contains(desktop); });
     };
 
     DesktopEntry entry;

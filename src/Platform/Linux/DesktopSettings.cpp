@@ -35,8 +35,8 @@ void DesktopSettings::read() {
     if (m_daemon.window() == XCB_WINDOW_NONE)
         return;
     m_connection->select(m_daemon.window(), XCB_EVENT_MASK_PROPERTY_CHANGE);
-    m_published = parseXSettings(
-        m_connection->property(m_daemon.window(), m_connection->atoms().xsettingsSettings).bytes());
+    m_published =
+        parseXSettings(m_connection->property(m_daemon.window(), m_connection->atoms().xsettingsSettings).bytes());
 }
 
 void DesktopSettings::readFiles() {

@@ -76,7 +76,7 @@ bool DesktopShell::hasMailProgramFor(const Mail& mail) const {
     if (entry == nullptr || QStandardPaths::findExecutable(u"xdg-email"_s).isEmpty())
         return false;
     // Others open the mail without the attachments, and nobody would notice.
-    const QStringList takeAttachments{u"thunderbird"_s, u"icedove"_s,     u"betterbird"_s, u"evolution"_s,
+    const QStringList takeAttachments{u"thunderbird"_s, u"icedove"_s,    u"betterbird"_s, u"evolution"_s,
                                       u"kmail"_s,       u"claws-mail"_s, u"sylpheed"_s,   u"geary"_s};
     return mail.attachments.isEmpty() || std::ranges::any_of(takeAttachments, [&](const QString& name) {
                return entry->id.contains(name, Qt::CaseInsensitive);

@@ -5,9 +5,9 @@
 
 #include <QSocketNotifier>
 
-#include <array>
-
 #include <fcntl.h>
+
+#include <array>
 
 namespace fendrel {
 

@@ -60,10 +60,17 @@ std::optional<QString> filledIn(const QString& word, const DesktopEntry& entry) 
             continue;
         }
         switch (word[++index].unicode()) {
-        case u'%': text += u'%'; break;
-        case u'c': text += entry.name; break;
-        case u'k': text += entry.path; break;
-        default: break; // files and addresses, of which there are none, and codes that are out of use
+        case u'%':
+            text += u'%';
+            break;
+        case u'c':
+            text += entry.name;
+            break;
+        case u'k':
+            text += entry.path;
+            break;
+        default:
+            break; // files and addresses, of which there are none, and codes that are out of use
         }
     }
     return text.isEmpty() && isOnlyCode ? std::nullopt : std::optional(text);

@@ -13,7 +13,8 @@ QProcessEnvironment foreignEnvironment() {
     QProcessEnvironment environment;
     for (const QByteArray& variable : file.readAll().split('\0')) {
         if (const auto equals = variable.indexOf('='); equals > 0)
-            environment.insert(QFile::decodeName(variable.first(equals)), QFile::decodeName(variable.sliced(equals + 1)));
+            environment.insert(QFile::decodeName(variable.first(equals)),
+                               QFile::decodeName(variable.sliced(equals + 1)));
     }
     return environment;
 }

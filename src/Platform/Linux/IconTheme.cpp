@@ -92,7 +92,8 @@ QList<IconTheme::Folder> IconTheme::foldersOf(const QString& theme, const QStrin
                 folders.append({.path = path, .size = size, .isScalable = isScalable});
         }
     }
-    std::ranges::stable_sort(folders, {}, [](const Folder& folder) { return preference(folder.size, folder.isScalable); });
+    std::ranges::stable_sort(folders, {},
+                             [](const Folder& folder) { return preference(folder.size, folder.isScalable); });
     return folders;
 }
 

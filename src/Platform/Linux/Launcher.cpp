@@ -23,12 +23,18 @@ std::optional<QStringList> inTerminal(const QStringList& arguments) {
         QString option{}; ///< comes before the command; empty when nothing does
     };
     const QList<Terminal> terminals{
-        {u"xdg-terminal-exec"_s, {}},        {qEnvironmentVariable("TERMINAL"), u"-e"_s},
-        {u"x-terminal-emulator"_s, u"-e"_s}, {u"gnome-terminal"_s, u"--"_s},
-        {u"kgx"_s, u"--"_s},                 {u"konsole"_s, u"-e"_s},
-        {u"xfce4-terminal"_s, u"-x"_s},      {u"mate-terminal"_s, u"-x"_s},
-        {u"qterminal"_s, u"-e"_s},           {u"kitty"_s, {}},
-        {u"alacritty"_s, u"-e"_s},           {u"foot"_s, {}},
+        {u"xdg-terminal-exec"_s, {}},
+        {qEnvironmentVariable("TERMINAL"), u"-e"_s},
+        {u"x-terminal-emulator"_s, u"-e"_s},
+        {u"gnome-terminal"_s, u"--"_s},
+        {u"kgx"_s, u"--"_s},
+        {u"konsole"_s, u"-e"_s},
+        {u"xfce4-terminal"_s, u"-x"_s},
+        {u"mate-terminal"_s, u"-x"_s},
+        {u"qterminal"_s, u"-e"_s},
+        {u"kitty"_s, {}},
+        {u"alacritty"_s, u"-e"_s},
+        {u"foot"_s, {}},
         {u"xterm"_s, u"-e"_s},
     };
     for (const auto& [program, option] : terminals) {
@@ -71,9 +77,8 @@ void Launcher::start(const DesktopEntry& entry, const QStringList& arguments, st
         environment.insert(u"DESKTOP_STARTUP_ID"_s, startupID(*time));
 
     process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(QDir(entry.workingFolder).exists() && !entry.workingFolder.isEmpty()
-                                    ? entry.workingFolder
-                                    : QDir::homePath());
+    process.setWorkingDirectory(
+        QDir(entry.workingFolder).exists() && !entry.workingFolder.isEmpty() ? entry.workingFolder : QDir::homePath());
     if (!process.startDetached())
         qCWarning(logDesktop).noquote() << "Couldn't start" << entry.id + u':' << process.errorString();
 }

@@ -52,9 +52,8 @@ Platform makePlatform() {
         qFatal("The X server does not answer any more");
     const auto windows = std::make_shared<X11Windows>(connection, clock);
     const auto monitors = std::make_shared<X11Monitors>(connection);
-    const auto catalog =
-        std::make_shared<ApplicationCatalog>(DesktopEntries::standardFolders(), DesktopEntryContext::ofThisSession(),
-                                             ApplicationIdentity::builtIn(), clock);
+    const auto catalog = std::make_shared<ApplicationCatalog>(
+        DesktopEntries::standardFolders(), DesktopEntryContext::ofThisSession(), ApplicationIdentity::builtIn(), clock);
     const auto groups = std::make_shared<ApplicationGroups>(windows, catalog, clock);
     const auto settings = std::make_shared<DesktopSettings>(connection);
 

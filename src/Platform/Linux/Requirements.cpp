@@ -1,12 +1,11 @@
-#include "Platform/MakePlatform.h"
-
 #include "Platform/Linux/X11Connection.h"
+#include "Platform/MakePlatform.h"
 
 #include <QString>
 
-#include <memory>
-
 #include <xcb/randr.h>
+
+#include <memory>
 
 namespace fendrel {
 
@@ -56,8 +55,8 @@ std::optional<QString> missingRequirement() {
         return u"Fendrel needs a graphical session with an X server, but DISPLAY is not set."_s;
     const Connection connection(xcb_connect(nullptr, nullptr));
     if (xcb_connection_has_error(connection.get()) != 0)
-        return u"Fendrel cannot open the display “%1”: no X server answers there, or it refuses the connection."_s
-            .arg(display);
+        return u"Fendrel cannot open the display “%1”: no X server answers there, or it refuses the connection."_s.arg(
+            display);
     if (hasExtension(connection.get(), "XWAYLAND") || hasWaylandOutputs(connection.get()))
         return inWayland;
     return {};

@@ -5,7 +5,8 @@
 namespace fendrel {
 
 SelectionOwner::SelectionOwner(std::shared_ptr<X11Connection> connection, const QByteArray& selection)
-    : m_connection(std::move(connection)), m_selection(m_connection->atom(selection)),
+    : m_connection(std::move(connection)),
+      m_selection(m_connection->atom(selection)),
       m_firstEvent(m_connection->firstEvent(xcb_xfixes_id)) {
     auto* xcb = m_connection->xcb();
     if (m_firstEvent) {
@@ -18,8 +19,7 @@ SelectionOwner::SelectionOwner(std::shared_ptr<X11Connection> connection, const 
                                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
         connect(m_connection.get(), &X11Connection::eventReceived, this, &SelectionOwner::handle);
     }
-    const auto owner =
-        m_connection->reply<xcb_get_selection_owner_reply>(xcb_get_selection_owner(xcb, m_selection));
+    const auto owner = m_connection->reply<xcb_get_selection_owner_reply>(xcb_get_selection_owner(xcb, m_selection));
     m_window = owner ? owner->owner : xcb_window_t{XCB_WINDOW_NONE};
 }
 

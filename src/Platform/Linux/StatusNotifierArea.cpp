@@ -28,8 +28,7 @@ StatusNotifierArea::StatusNotifierArea()
 }
 
 void StatusNotifierArea::ask() {
-    auto question =
-        QDBusMessage::createMethodCall(service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    auto question = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question << service << u"IsStatusNotifierHostRegistered"_s;
     question.setAutoStartService(false);
     auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);

@@ -17,8 +17,7 @@ Strut::Side side(quint32 depth, quint32 first, quint32 last) {
 
 } // namespace
 
-std::optional<Strut> Strut::fromProperties(const QList<quint32>& partial, const QList<quint32>& whole,
-                                           QSize desktop) {
+std::optional<Strut> Strut::fromProperties(const QList<quint32>& partial, const QList<quint32>& whole, QSize desktop) {
     Strut strut;
     if (partial.size() >= 12) {
         strut = {.left = side(partial[0], partial[4], partial[5]),
@@ -40,9 +39,9 @@ std::optional<Strut> Strut::fromProperties(const QList<quint32>& partial, const 
 
 std::array<quint32, 12> Strut::toProperty() const {
     const auto number = [](int value) { return static_cast<quint32>(value); };
-    return {number(left.depth),  number(right.depth),  number(top.depth),  number(bottom.depth),
-            number(left.first),  number(left.last),    number(right.first), number(right.last),
-            number(top.first),   number(top.last),     number(bottom.first), number(bottom.last)};
+    return {number(left.depth), number(right.depth), number(top.depth),    number(bottom.depth),
+            number(left.first), number(left.last),   number(right.first),  number(right.last),
+            number(top.first),  number(top.last),    number(bottom.first), number(bottom.last)};
 }
 
 QRect workArea(const QRect& display, const QList<Strut>& struts, QSize desktop) {
@@ -96,8 +95,8 @@ std::optional<Strut> strutFor(Qt::Edge edge, const QRect& display, const QRect& 
         beyond.setBottom(desktop.height() - 1);
         break;
     }
-    const bool isInner = std::ranges::any_of(
-        displays, [&](const QRect& other) { return other != display && other.intersects(beyond); });
+    const bool isInner =
+        std::ranges::any_of(displays, [&](const QRect& other) { return other != display && other.intersects(beyond); });
     return isInner ? std::nullopt : std::optional(strut);
 }
 

@@ -14,8 +14,8 @@ QImage windowIcon(const QList<quint32>& property) {
         const qint64 height = property[at + 1];
         if (width < 1 || height < 1 || width > sane || height > sane || width * height > property.size() - at - 2)
             break; // nothing behind a broken picture can be found
-        const bool isBetter = bestWidth == 0 || (bestWidth > largest ? width < bestWidth
-                                                                     : width > bestWidth && width <= largest);
+        const bool isBetter =
+            bestWidth == 0 || (bestWidth > largest ? width < bestWidth : width > bestWidth && width <= largest);
         if (isBetter) {
             best = at;
             bestWidth = width;

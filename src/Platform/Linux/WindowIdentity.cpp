@@ -31,8 +31,8 @@ const DesktopEntry* inSandbox(const EntryIndex::Entries& entries, const WindowTr
 
 /// Of several entries that fit, the one whose program this is: a stable and a beta version share their window class.
 const DesktopEntry* best(const EntryIndex::Entries& entries, const QStringList& programs) {
-    const auto own = std::ranges::find_if(
-        entries, [&](const auto* entry) { return programs.contains(programName(entry->exec)); });
+    const auto own =
+        std::ranges::find_if(entries, [&](const auto* entry) { return programs.contains(programName(entry->exec)); });
     if (own != entries.end())
         return *own;
     return entries.isEmpty() ? nullptr : entries.first();

@@ -18,8 +18,7 @@ bool isShown(const X11Window& window) {
 } // namespace
 
 X11Accessibility::X11Accessibility(std::shared_ptr<ApplicationGroups> groups, Clock& clock)
-    : m_groups(std::move(groups)), m_requests(m_groups->windows().connection()),
-      m_restore(m_groups->windows(), clock) {
+    : m_groups(std::move(groups)), m_requests(m_groups->windows().connection()), m_restore(m_groups->windows(), clock) {
     auto* windows = &m_groups->windows();
     connect(windows, &X11Windows::windowChanged, this, [this](const X11Window& now, const X11Window& before) {
         if (now.title == before.title)

@@ -15,8 +15,10 @@ using namespace Qt::StringLiterals;
 
 X11Applications::X11Applications(std::shared_ptr<ApplicationGroups> groups, std::shared_ptr<DesktopSettings> settings,
                                  Clock& clock)
-    : m_groups(std::move(groups)), m_requests(m_groups->windows().connection()),
-      m_restore(m_groups->windows(), clock), m_icons(m_groups, std::move(settings)) {
+    : m_groups(std::move(groups)),
+      m_requests(m_groups->windows().connection()),
+      m_restore(m_groups->windows(), clock),
+      m_icons(m_groups, std::move(settings)) {
     connect(m_groups.get(), &ApplicationGroups::groupsChanged, this, [this] { onRunningChanged(); });
     connect(m_groups.get(), &ApplicationGroups::frontChanged, this, [this] { onActivated(m_groups->front()); });
     m_icons.onThemeChanged = [this] { onInstalledChanged(); };

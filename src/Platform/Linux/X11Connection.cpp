@@ -33,11 +33,14 @@ std::shared_ptr<X11Connection> X11Connection::open(Clock& clock) {
 }
 
 X11Connection::X11Connection(Connected connection, int screenNumber, Clock& clock)
-    : m_clock(clock), m_xcb(std::move(connection)), m_screenNumber(screenNumber),
-      m_screen(screenAt(m_xcb.get(), screenNumber)), m_ownWindow(xcb_generate_id(m_xcb.get())) {
+    : m_clock(clock),
+      m_xcb(std::move(connection)),
+      m_screenNumber(screenNumber),
+      m_screen(screenAt(m_xcb.get(), screenNumber)),
+      m_ownWindow(xcb_generate_id(m_xcb.get())) {
     internAtoms();
-    xcb_create_window(xcb(), 0, m_ownWindow, root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_create_window(xcb(), 0, m_ownWindow, root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
+                      0, nullptr);
     select(m_ownWindow, XCB_EVENT_MASK_PROPERTY_CHANGE);
     select(root(), XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     m_notifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(xcb()), QSocketNotifier::Read);
@@ -111,8 +114,7 @@ void X11Connection::select(xcb_window_t window, std::uint32_t mask) {
 
 void X11Connection::withServerTime(std::function<void(xcb_timestamp_t)> run) {
     m_awaitingTime.append(std::move(run));
-    xcb_change_property(xcb(), XCB_PROP_MODE_APPEND, m_ownWindow, m_atoms.netWmName, m_atoms.utf8String, 8, 0,
-                        nullptr);
+    xcb_change_property(xcb(), XCB_PROP_MODE_APPEND, m_ownWindow, m_atoms.netWmName, m_atoms.utf8String, 8, 0, nullptr);
     flush();
 }
 

@@ -10,14 +10,14 @@
 #include <QObject>
 #include <QSocketNotifier>
 
+#include <xcb/xcb.h>
+
 #include <array>
 #include <cstdlib>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
-
-#include <xcb/xcb.h>
 
 namespace fendrel {
 

@@ -2,9 +2,9 @@
 
 #include <QCryptographicHash>
 
-#include <algorithm>
-
 #include <xcb/randr.h>
+
+#include <algorithm>
 
 namespace fendrel {
 
@@ -29,8 +29,9 @@ X11Monitors::X11Monitors(std::shared_ptr<X11Connection> connection)
 
 void X11Monitors::handle(const xcb_generic_event_t& event) {
     const int type = event.response_type & 0x7f;
-    const bool isAboutRoot = type == XCB_CONFIGURE_NOTIFY &&
-                             reinterpret_cast<const xcb_configure_notify_event_t&>(event).window == m_connection->root();
+    const bool isAboutRoot =
+        type == XCB_CONFIGURE_NOTIFY &&
+        reinterpret_cast<const xcb_configure_notify_event_t&>(event).window == m_connection->root();
     const bool isAboutOutputs = m_firstEvent && (type == *m_firstEvent + XCB_RANDR_SCREEN_CHANGE_NOTIFY ||
                                                  type == *m_firstEvent + XCB_RANDR_NOTIFY);
     if (!isAboutRoot && !isAboutOutputs)
@@ -53,14 +54,13 @@ QList<X11Monitor> X11Monitors::read() const {
             const QList<quint32> ids(outputs, outputs + xcb_randr_monitor_info_outputs_length(each.data));
             const QRect frame(each.data->x, each.data->y, each.data->width, each.data->height);
             if (!frame.isEmpty())
-                monitors.append({.id = idOf(ids, each.data->name),
-                                 .frame = frame,
-                                 .isPrimary = each.data->primary != 0});
+                monitors.append(
+                    {.id = idOf(ids, each.data->name), .frame = frame, .isPrimary = each.data->primary != 0});
         }
     }
     if (monitors.isEmpty()) {
-        const auto size = m_connection->reply<xcb_get_geometry_reply>(
-            xcb_get_geometry(m_connection->xcb(), m_connection->root()));
+        const auto size =
+            m_connection->reply<xcb_get_geometry_reply>(xcb_get_geometry(m_connection->xcb(), m_connection->root()));
         if (size)
             monitors.append({.id = u"screen"_s, .frame = {0, 0, size->width, size->height}, .isPrimary = true});
     }

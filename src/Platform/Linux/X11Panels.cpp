@@ -4,10 +4,10 @@
 #include <QPointer>
 #include <QtGui/qguiapplication_platform.h>
 
+#include <xcb/shape.h>
+
 #include <algorithm>
 #include <array>
-
-#include <xcb/shape.h>
 
 namespace fendrel {
 
@@ -19,7 +19,8 @@ xcb_window_t native(quintptr window) {
     return static_cast<xcb_window_t>(window);
 }
 
-/// The toolkit makes its windows on a connection of its own. Until the server has heard of one, it does not exist for us.
+/// The toolkit makes its windows on a connection of its own. Until the server has heard of one, it does not exist for
+/// us.
 void awaitToolkit() {
     auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (native == nullptr)
@@ -33,7 +34,9 @@ void awaitToolkit() {
 
 X11Panels::X11Panels(std::shared_ptr<X11Windows> windows, std::shared_ptr<X11Monitors> monitors,
                      std::shared_ptr<X11Connection> connection)
-    : m_windows(std::move(windows)), m_monitors(std::move(monitors)), m_connection(std::move(connection)),
+    : m_windows(std::move(windows)),
+      m_monitors(std::move(monitors)),
+      m_connection(std::move(connection)),
       m_requests(*m_connection),
       m_compositor(m_connection, "_NET_WM_CM_S" + QByteArray::number(m_connection->screenNumber())),
       m_knowsShapes(m_connection->firstEvent(xcb_shape_id).has_value()) {
@@ -45,8 +48,8 @@ void X11Panels::prepare(quintptr window, Kind kind) {
     const xcb_window_t id = native(window);
     awaitToolkit();
     m_connection->select(id, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
-    const auto attributes = m_connection->reply<xcb_get_window_attributes_reply>(
-        xcb_get_window_attributes(m_connection->xcb(), id));
+    const auto attributes =
+        m_connection->reply<xcb_get_window_attributes_reply>(xcb_get_window_attributes(m_connection->xcb(), id));
     const bool isMapped = attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED;
     setUp(id, *m_panels.insert(id, {.kind = kind, .isMapped = isMapped}));
 }
@@ -181,8 +184,8 @@ void X11Panels::setUpStates(xcb_window_t window) {
         m_connection->setNumbers(window, atoms.netWmDesktop, XCB_ATOM_CARDINAL, {everyDesktop});
     const auto before = m_connection->property(window, atoms.netWmState).numbers();
     auto states = before;
-    for (const xcb_atom_t state : {atoms.netWmStateAbove, atoms.netWmStateSticky, atoms.netWmStateSkipTaskbar,
-                                   atoms.netWmStateSkipPager}) {
+    for (const xcb_atom_t state :
+         {atoms.netWmStateAbove, atoms.netWmStateSticky, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager}) {
         if (!states.contains(state))
             states.append(state);
     }

@@ -52,7 +52,7 @@ void X11Requests::stackAbove(xcb_window_t window) const {
     const std::uint32_t mode = XCB_STACK_MODE_ABOVE;
     xcb_configure_window(m_connection.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
     m_connection.sendToWindowManager(window, m_connection.atoms().netRestackWindow,
-                                      {fromUser, XCB_WINDOW_NONE, XCB_STACK_MODE_ABOVE});
+                                     {fromUser, XCB_WINDOW_NONE, XCB_STACK_MODE_ABOVE});
 }
 
 } // namespace fendrel

@@ -5,9 +5,9 @@
 #include <QRect>
 #include <QString>
 
-#include <optional>
-
 #include <xcb/xcb.h>
+
+#include <optional>
 
 namespace fendrel {
 
@@ -17,16 +17,16 @@ struct X11Window {
         ordinary, ///< main windows, dialogs, palettes
         desktop,
         dock,
-        passing,  ///< splash screens and notifications
+        passing, ///< splash screens and notifications
     };
 
     xcb_window_t id{};
     QString title{};
     QString instanceName{}; ///< the two halves of WM_CLASS
     QString className{};
-    QString declaredEntry{};       ///< id of the desktop entry that the application itself names; may be empty
-    std::optional<qint64> pid{};   ///< nothing for a window of another machine
-    qint64 client{};               ///< the same for all windows of one X connection
+    QString declaredEntry{};     ///< id of the desktop entry that the application itself names; may be empty
+    std::optional<qint64> pid{}; ///< nothing for a window of another machine
+    qint64 client{};             ///< the same for all windows of one X connection
     xcb_window_t transientFor{};
     Role role{};
     bool isSkippingTaskbar{};

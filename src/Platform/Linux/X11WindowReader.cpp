@@ -87,8 +87,8 @@ void X11WindowReader::readProcess(X11Window& window, const Properties& read) con
 
 std::optional<qint64> X11WindowReader::connectedProcess(xcb_window_t window) const {
     const xcb_res_client_id_spec_t wanted{.client = window, .mask = XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    const auto answer = m_connection.reply<xcb_res_query_client_ids_reply>(
-        xcb_res_query_client_ids(m_connection.xcb(), 1, &wanted));
+    const auto answer =
+        m_connection.reply<xcb_res_query_client_ids_reply>(xcb_res_query_client_ids(m_connection.xcb(), 1, &wanted));
     if (!answer)
         return {};
     auto ids = xcb_res_query_client_ids_ids_iterator(answer.get());
@@ -122,8 +122,9 @@ void X11WindowReader::readState(X11Window& window, const Properties& read) const
     window.isSkippingTaskbar = states.contains(atoms.netWmStateSkipTaskbar);
     window.isFullScreen = states.contains(atoms.netWmStateFullscreen);
     // A window rolled up to its title bar is hidden to some window managers, but it is not minimised.
-    window.isMinimized = m_tellsHidden ? states.contains(atoms.netWmStateHidden) && !states.contains(atoms.netWmStateShaded)
-                                       : read[1].number() == iconic;
+    window.isMinimized = m_tellsHidden
+                             ? states.contains(atoms.netWmStateHidden) && !states.contains(atoms.netWmStateShaded)
+                             : read[1].number() == iconic;
 }
 
 void X11WindowReader::readDesktop(X11Window& window, const Properties& read) const {
@@ -137,8 +138,8 @@ void X11WindowReader::readStrut(X11Window& window, const Properties& read) const
     const auto partial = read[0].numbers();
     const auto whole = read[1].numbers();
     // Most windows have neither, and the size of the desktop is a question to the server.
-    window.strut = partial.isEmpty() && whole.isEmpty() ? std::nullopt
-                                                        : Strut::fromProperties(partial, whole, desktopSize());
+    window.strut =
+        partial.isEmpty() && whole.isEmpty() ? std::nullopt : Strut::fromProperties(partial, whole, desktopSize());
 }
 
 void X11WindowReader::readDeclaredEntry(X11Window& window, const Properties& read) const {
@@ -172,8 +173,8 @@ std::optional<QRect> X11WindowReader::frame(xcb_window_t window) const {
 }
 
 QSize X11WindowReader::desktopSize() const {
-    const auto size = m_connection.reply<xcb_get_geometry_reply>(
-        xcb_get_geometry(m_connection.xcb(), m_connection.root()));
+    const auto size =
+        m_connection.reply<xcb_get_geometry_reply>(xcb_get_geometry(m_connection.xcb(), m_connection.root()));
     return size ? QSize(size->width, size->height) : QSize();
 }
 

@@ -133,8 +133,7 @@ void X11Windows::readManager() {
     m_connection->select(named, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     if (m_connection->property(named, check).number() != named)
         return;
-    m_reader.setSupported(
-        m_connection->property(m_connection->root(), m_connection->atoms().netSupported).numbers());
+    m_reader.setSupported(m_connection->property(m_connection->root(), m_connection->atoms().netSupported).numbers());
     if (std::exchange(m_manager, named) != named && m_isSettling) {
         // It shows the windows that it finds one by one. They were there all the time.
         m_managerSettles = m_clock.after(managerSettles, [this] {
@@ -224,9 +223,8 @@ void X11Windows::setActive(xcb_window_t id) {
 }
 
 void X11Windows::readCurrentDesktop() {
-    const auto desktop = m_connection->property(m_connection->root(), m_connection->atoms().netCurrentDesktop)
-                             .number()
-                             .value_or(0);
+    const auto desktop =
+        m_connection->property(m_connection->root(), m_connection->atoms().netCurrentDesktop).number().value_or(0);
     if (std::exchange(m_currentDesktop, desktop) != desktop)
         Q_EMIT currentDesktopChanged();
 }

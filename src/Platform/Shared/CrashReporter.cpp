@@ -145,9 +145,8 @@ void prune(const QDir& folder) {
 void prepareTexts(const QString& folder) {
     reportFolder = {};
     reportFolder << QFile::encodeName(QDir(folder).absolutePath()).toStdString();
-    const QString system =
-        u"%1 (%2 %3, %4)"_s.arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(),
-                                QSysInfo::kernelVersion(), QSysInfo::currentCpuArchitecture());
+    const QString system = u"%1 (%2 %3, %4)"_s.arg(QSysInfo::prettyProductName(), QSysInfo::kernelType(),
+                                                   QSysInfo::kernelVersion(), QSysInfo::currentCpuArchitecture());
     reportHead = {};
     reportHead << "Fendrel " FENDREL_VERSION "\nSystem: " << system.toStdString() << "\n";
 }

@@ -56,8 +56,7 @@ HttpExchange::HttpExchange(QNetworkAccessManager& manager, Clock& clock, const H
       m_host(request.url.host()),
       m_sizeLimit(request.sizeLimit),
       m_reply(manager.sendCustomRequest(networkRequest(request), request.method, request.body)),
-      m_deadline(
-          clock.after(request.timeout, [this] { fail(HttpError::Kind::timedOut, u"no answer in time"_s); })) {
+      m_deadline(clock.after(request.timeout, [this] { fail(HttpError::Kind::timedOut, u"no answer in time"_s); })) {
     auto* const reply = m_reply.get();
     // Without this a fast server could fill the memory between two reads.
     reply->setReadBufferSize(256 * 1024);

@@ -29,8 +29,7 @@ public:
 } // namespace
 
 struct NetworkClient::State {
-    std::unique_ptr<QNetworkAccessManager>
-        manager; // costs milliseconds, so that it waits for the first request
+    std::unique_ptr<QNetworkAccessManager> manager; // costs milliseconds, so that it waits for the first request
     std::map<std::uint64_t, std::unique_ptr<HttpExchange>> exchanges;
     std::uint64_t nextId = 0;
 
@@ -60,8 +59,7 @@ Handle NetworkClient::send(const HttpRequest& request, Done done) {
     m_state->exchanges[id] = std::make_unique<HttpExchange>(
         m_state->network(), m_clock, request, [state, id, done = std::move(done)](const auto& outcome) {
             if (const auto alive = state.lock()) {
-                const auto ended =
-                    alive->exchanges.extract(id); // until `done` returns, which may drop the client
+                const auto ended = alive->exchanges.extract(id); // until `done` returns, which may drop the client
                 done(outcome);
             }
         });

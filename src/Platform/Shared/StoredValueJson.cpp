@@ -130,19 +130,18 @@ std::optional<StoredValue> decodeList(const QJsonArray& array) {
 } // namespace
 
 QJsonValue encode(const StoredValue& value) {
-    return std::visit(Overloaded{
-                          [](bool flag) { return QJsonValue(flag); },
-                          [](qint64 number) { return QJsonValue(number); },
-                          [](double number) { return encodeDouble(number); },
-                          [](const QString& text) { return QJsonValue(text); },
-                          [](const QByteArray& bytes) { return encodeBytes(bytes); },
-                          [](const QDateTime& date) {
-                              return QJsonValue(tagged(dateTag, date.toUTC().toString(Qt::ISODateWithMs)));
-                          },
-                          [](const QStringList& list) { return QJsonValue(QJsonArray::fromStringList(list)); },
-                          [](const QHash<QString, double>& dictionary) { return encodeDictionary(dictionary); },
-                      },
-                      value);
+    return std::visit(
+        Overloaded{
+            [](bool flag) { return QJsonValue(flag); },
+            [](qint64 number) { return QJsonValue(number); },
+            [](double number) { return encodeDouble(number); },
+            [](const QString& text) { return QJsonValue(text); },
+            [](const QByteArray& bytes) { return encodeBytes(bytes); },
+            [](const QDateTime& date) { return QJsonValue(tagged(dateTag, date.toUTC().toString(Qt::ISODateWithMs))); },
+            [](const QStringList& list) { return QJsonValue(QJsonArray::fromStringList(list)); },
+            [](const QHash<QString, double>& dictionary) { return encodeDictionary(dictionary); },
+        },
+        value);
 }
 
 std::optional<StoredValue> decode(const QJsonValue& value) {

@@ -92,8 +92,7 @@ void SystemClock::watchWallClock() {
     // Never due: it ends only by being cancelled, which is how the kernel tells that the clock was set.
     itimerspec never{};
     never.it_value.tv_sec = std::numeric_limits<time_t>::max();
-    if (timerfd_settime(m_wallClockWatch.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr) !=
-        0)
+    if (timerfd_settime(m_wallClockWatch.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr) != 0)
         qCCritical(logApp, "Changes of the wall clock will not be noticed: %s", std::strerror(errno));
 }
 

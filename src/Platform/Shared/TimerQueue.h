@@ -35,8 +35,7 @@ public:
         const auto step = std::max(interval, Clock::Duration(std::chrono::milliseconds(1)));
         const auto slack = std::max(tolerance, Clock::Duration::zero());
         const auto due = later(start, step);
-        return add(
-            {due, later(due, slack), step, slack, std::make_shared<std::function<void()>>(std::move(run))});
+        return add({due, later(due, slack), step, slack, std::make_shared<std::function<void()>>(std::move(run))});
     }
 
     /// The latest moment that serves every timer in time.

@@ -18,8 +18,7 @@ enum Role {
 };
 }
 
-DockAppsModel::DockAppsModel(AppController& controller, AppIcons& icons)
-    : m_controller(controller), m_icons(icons) {
+DockAppsModel::DockAppsModel(AppController& controller, AppIcons& icons) : m_controller(controller), m_icons(icons) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockAppsModel::refresh);
     connect(&controller.workspace(), &Workspace::runningChanged, this, &DockAppsModel::refresh);
     connect(&controller.titles(), &WindowTitles::changed, this, &DockAppsModel::refresh);
@@ -57,8 +56,8 @@ QVariant DockAppsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> DockAppsModel::roleNames() const {
-    return {{bundleIDRole, "bundleID"},       {nameRole, "name"},         {isRunningRole, "isRunning"},
-            {isFrontRole, "isFront"},         {isInModeRole, "isInMode"}, {startsOthersRole, "startsOthers"},
+    return {{bundleIDRole, "bundleID"}, {nameRole, "name"},         {isRunningRole, "isRunning"},
+            {isFrontRole, "isFront"},   {isInModeRole, "isInMode"}, {startsOthersRole, "startsOthers"},
             {iconRole, "icon"}};
 }
 
@@ -68,14 +67,15 @@ void DockAppsModel::refresh() {
     const auto& front = m_controller.titles().front();
     QList<Row> wanted;
     const auto append = [&](const QString& bundleID, bool isInMode, bool startsOthers) {
-        wanted.append(Row{.id = bundleID,
-                          .name = workspace.displayName(bundleID),
-                          .icon = m_icons.source(bundleID),
-                          .isRunning = workspace.running().contains(bundleID),
-                          .isFront = front && front->bundleID == bundleID,
-                          .isInMode = isInMode,
-                          .startsOthers = startsOthers,
-                          });
+        wanted.append(Row{
+            .id = bundleID,
+            .name = workspace.displayName(bundleID),
+            .icon = m_icons.source(bundleID),
+            .isRunning = workspace.running().contains(bundleID),
+            .isFront = front && front->bundleID == bundleID,
+            .isInMode = isInMode,
+            .startsOthers = startsOthers,
+        });
     };
     for (const QString& bundleID : modeApps) {
         if (workspace.running().contains(bundleID) || workspace.url(bundleID))

@@ -145,8 +145,8 @@ void DockPanel::updateRegions() {
     // A dock that hides by itself stays while the pointer is at the very edge that brought it.
     const QRect input = !isShown() ? hiddenStrip() : autoHides ? toEdge(bar) : bar;
     const double ratio = devicePixelRatio();
-    panels.setInputRegion(
-        winId(), QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect());
+    panels.setInputRegion(winId(),
+                          QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect());
 
     QRect reserved;
     if (!autoHides) {

@@ -31,7 +31,7 @@ public:
     DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
               VerdictController& verdict);
 
-    void place(const Display& display); ///< also takes over a changed edge
+    void place(const Display& display);                    ///< also takes over a changed edge
     const QRect& touchable() const { return m_touchable; } ///< where it takes input, in device pixels
 
     QRectF bar() const { return m_bar; } ///< where the bar rests, in the window

@@ -7,10 +7,11 @@ namespace fendrel {
 FocusController::FocusController(AppController& controller)
     : m_controller(controller),
       m_session(
-          *controller.platform().clock, [this] { return m_controller.focus().remaining(); }, [this] { Q_EMIT changed(); }),
+          *controller.platform().clock, [this] { return m_controller.focus().remaining(); },
+          [this] { Q_EMIT changed(); }),
       m_pending(
-          *controller.platform().clock,
-          [this] { return std::optional(m_controller.engine().pendingRemaining()); }, [this] { Q_EMIT pendingChanged(); }) {
+          *controller.platform().clock, [this] { return std::optional(m_controller.engine().pendingRemaining()); },
+          [this] { Q_EMIT pendingChanged(); }) {
     connect(&controller.focus(), &FocusSession::changed, this, [this] {
         m_session.restart();
         Q_EMIT changed();

@@ -16,7 +16,8 @@ class FocusController;
 class GateController;
 
 /// The window that covers what the gate stops: the whole display that it is on. The dock there can still be used: there
-/// the user can say that the judgement is wrong. Its content is GateView.qml. Made once and kept, so that it shows at once.
+/// the user can say that the judgement is wrong. Its content is GateView.qml. Made once and kept, so that it shows at
+/// once.
 class GatePanel : public QQuickView {
     Q_OBJECT
     QML_ELEMENT

@@ -4,9 +4,9 @@
 
 namespace fendrel {
 
-/// The soft shadow around a rounded rectangle, hollow inside, as a picture to be stretched by its middle: "RADIUS/BLUR/DROP",
-/// to be installed as "shadow". Its corners are RADIUS + BLUR + DROP pixels wide. A live blur would cost far more, and the
-/// software renderer has none.
+/// The soft shadow around a rounded rectangle, hollow inside, as a picture to be stretched by its middle:
+/// "RADIUS/BLUR/DROP", to be installed as "shadow". Its corners are RADIUS + BLUR + DROP pixels wide. A live blur would
+/// cost far more, and the software renderer has none.
 class ShadowImages : public QQuickImageProvider {
 public:
     ShadowImages() : QQuickImageProvider(Image) {}

@@ -8,8 +8,7 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, const QVariantMap& properties,
-               QSize size)
+Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, const QVariantMap& properties, QSize size)
     : QQuickView(&engine, nullptr) {
     setFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setTitle(title);
