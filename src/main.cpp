@@ -9,9 +9,11 @@
 #include "UI/Interface.h"
 
 #include <QCommandLineParser>
+#include <QDeadlineTimer>
 #include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
@@ -47,10 +49,16 @@ Options readOptions(const QStringList& arguments) {
 
 /// Brings the application that runs already to the user's attention.
 int activateRunning(const QString& dataFolder, const Options& options) {
-    control::ControlClient client;
     const control::Request request{.command = u"activate"_s, .arguments = {options.settingsPane}};
-    const bool isDone = client.connectTo(control::socketPath(dataFolder)) &&
-                        client.send(request, [](const QJsonObject&) { return false; });
+    control::ControlClient client;
+    // It may be starting itself, and not listen yet.
+    const QDeadlineTimer deadline(control::ControlClient::patience);
+    bool isConnected = client.connectTo(control::socketPath(dataFolder));
+    while (!isConnected && !deadline.hasExpired()) {
+        QThread::msleep(20);
+        isConnected = client.connectTo(control::socketPath(dataFolder));
+    }
+    const bool isDone = isConnected && client.send(request, [](const QJsonObject&) { return false; });
     return isDone ? 0 : fail(u"Fendrel is running, but does not answer"_s);
 }
 

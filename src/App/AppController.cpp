@@ -76,14 +76,21 @@ bool AppController::isOnboardingDone() const {
 }
 
 void AppController::finishOnboarding(const QStringList& templateIDs) {
+    if (isOnboardingDone())
+        return;
     QList<Mode> chosen;
+    const auto choose = [&](const Mode& modeTemplate) {
+        // The starters are there already, and the user may have edited them.
+        const Mode* existing = m_engine.mode(modeTemplate.id);
+        chosen.append(existing ? *existing : m_engine.seeded(modeTemplate));
+    };
     for (const Mode& mode : m_engine.catalog().templates) {
         if (templateIDs.contains(mode.id))
-            chosen.append(m_engine.seeded(mode));
+            choose(mode);
     }
     if (chosen.isEmpty()) {
         for (const Mode& mode : m_engine.catalog().starterTemplates())
-            chosen.append(m_engine.seeded(mode));
+            choose(mode);
     }
     m_platform.settings->set(onboardingDoneKey, true);
     m_engine.replaceModes(chosen);

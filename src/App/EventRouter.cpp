@@ -25,6 +25,8 @@ void EventRouter::appDidActivate(const std::optional<RunningApp>& app) {
 void EventRouter::windowDidChange(const std::optional<WindowTitles::Front>& front) {
     if (!isOnboardingDone())
         return;
+    if (front && !front->title && m_titles.isTrusted())
+        m_drift.windowsGone(front->bundleID);
     if (front)
         m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
     else

@@ -30,6 +30,10 @@ void AppController::wire() {
         return entryDelay(target, m_budget.isUsedUp(target), m_focus.isOn(), m_preferences.strictness());
     };
     m_engine.onCommit = [this](const Mode& mode) { modeDidChange(mode); };
+    m_engine.onEdit = [this] {
+        m_drift.modesChanged();
+        m_router.judgeFrontAgain();
+    };
     m_focus.onChange = [this](bool isOn) { focusDidChange(isOn); };
     m_budget.current = [this] { return std::optional(m_engine.current()); };
     m_budget.spending = [this] { return spendingMode(); };
@@ -53,7 +57,7 @@ AppController::~AppController() {
 void AppController::modeDidChange(const Mode& mode) {
     if (m_preferences.tidyOnSwitch())
         m_tidyUp.tidy(mode);
-    m_drift.modeChanged();
+    m_drift.modesChanged();
     m_router.judgeFrontAgain();
 }
 

@@ -214,6 +214,8 @@ Answer CommandHandlers::openSettings(const QString& pane) {
 }
 
 Answer CommandHandlers::finishOnboarding(const QStringList& templates) {
+    if (m_controller.isOnboardingDone())
+        return Answer::failure(u"the first run is over"_s);
     for (const QString& id : templates) {
         const auto& known = m_controller.engine().catalog().templates;
         if (std::ranges::find(known, id, &Mode::id) == known.end())

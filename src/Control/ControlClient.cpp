@@ -24,11 +24,20 @@ bool ControlClient::connectTo(const QString& path) {
     if (bytes.size() >= static_cast<qsizetype>(sizeof(address.sun_path)))
         return false;
     std::memcpy(address.sun_path, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (m_socket >= 0)
+        ::close(m_socket);
     m_socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     return m_socket >= 0 && ::connect(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
 }
 
+void ControlClient::setPatience(std::chrono::seconds time) const {
+    const timeval limit{.tv_sec = time.count(), .tv_usec = 0};
+    ::setsockopt(m_socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit));
+    ::setsockopt(m_socket, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof(limit));
+}
+
 bool ControlClient::send(const Request& request, const std::function<bool(const QJsonObject&)>& take) {
+    setPatience(patience);
     const QByteArray line = encode(request);
     for (qsizetype sent = 0; sent < line.size();) {
         const auto count =
@@ -49,6 +58,7 @@ bool ControlClient::send(const Request& request, const std::function<bool(const 
             return false;
         const bool isSound = m_framer.feed({buffer, static_cast<std::size_t>(count)}, [&](std::string_view answer) {
             const auto bytes = QByteArray::fromRawData(answer.data(), static_cast<qsizetype>(answer.size()));
+            setPatience({}); // what follows the first answer comes when something happens
             if (wantsMore)
                 wantsMore = take(QJsonDocument::fromJson(bytes).object());
         });

@@ -106,11 +106,15 @@ void Classifier::ask(const Subject& subject) {
     m_inFlight[key(subject)].question =
         m_model.ask(question, [this, subject, modeIDs, start = m_clock.continuousNow()](const auto& answer) {
             if (!answer) {
-                qCWarning(logFocus) << "Model couldn't judge" << Private{plainName(subject)} << answer.error();
+                qCWarning(logFocus).noquote().nospace()
+                    << "Model couldn't judge " << Private{plainName(subject)} << ": " << answer.error();
                 answered(subject, {});
                 return;
             }
-            m_modelTimes.record(m_clock.continuousNow() - start);
+            const auto elapsed = m_clock.continuousNow() - start;
+            m_modelTimes.record(elapsed);
+            qCDebug(logFocus).noquote() << "model" << std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()
+                                        << "ms for" << Private{plainName(subject)};
             answered(subject, ModelQuestion::verdict(*answer, modeIDs));
         });
 }

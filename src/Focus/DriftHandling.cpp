@@ -66,6 +66,8 @@ void DriftHandling::frontChanged(const std::optional<RunningApp>& app) {
         m_leaving.reset();
         m_stayEnd.reset();
     }
+    if (m_delayedOpen && fits(app->bundleID))
+        m_delayedOpen.reset();
     if (m_gate.blocked() && m_gate.blocked()->bundleID != app->bundleID)
         m_gate.close();
 }
@@ -75,17 +77,24 @@ void DriftHandling::runningChanged() {
         m_gate.close();
 }
 
-void DriftHandling::modeChanged() {
+void DriftHandling::windowsGone(const QString& bundleID) {
+    if (m_gate.blocked() && m_gate.blocked()->bundleID == bundleID && !m_workspace.hasVisibleWindow(bundleID))
+        m_gate.close();
+}
+
+void DriftHandling::modesChanged() {
     const auto blocked = m_gate.blocked();
     if (!blocked)
         return;
-    const bool isOwner = blocked->owner && blocked->owner->id == m_engine.current().id;
-    if (isOwner || fits(blocked->bundleID))
+    const bool isStopped = blocked->owner && blocked->owner->id != m_engine.current().id &&
+                           m_engine.mode(blocked->owner->id);
+    if (!isStopped || fits(blocked->bundleID))
         letThrough(*blocked);
 }
 
 void DriftHandling::focusStopped() {
     m_judgement.reset();
+    m_delayedOpen.reset();
     m_allowedOnce.clear();
     m_engine.cancelPending();
     if (const auto blocked = m_gate.blocked())
@@ -136,11 +145,22 @@ void DriftHandling::stayEnded() {
         classify(Subject(*m_lastSubject));
 }
 
+/// What was let through in another mode, or once in a session that is over, is no place to go back to.
+bool DriftHandling::belongsHere(const AppSubject& app) {
+    if (fits(app.bundleID) || m_allowedOnce.contains(app.bundleID))
+        return true;
+    auto verdict = m_classifier.ruleVerdict(app);
+    if (!verdict)
+        verdict = m_classifier.cachedVerdict(app);
+    return verdict && verdict->modeID == m_engine.current().id;
+}
+
 void DriftHandling::goBackFrom(const Gate::Blocked& blocked) {
     const auto isRunning = [&](const RunningApp& app) {
         return m_workspace.instances(app.bundleID).contains(app) && app.bundleID != blocked.bundleID;
     };
-    if (m_lastAllowedApp && isRunning(*m_lastAllowedApp)) {
+    if (m_lastAllowedApp && isRunning(*m_lastAllowedApp) &&
+        belongsHere({.bundleID = m_lastAllowedApp->bundleID, .name = m_lastAllowedApp->name})) {
         m_applications.activate(m_lastAllowedApp->pid);
         return;
     }
@@ -181,19 +201,31 @@ void DriftHandling::addToMode() {
     if (!blocked)
         return;
     m_engine.addApp(blocked->bundleID, m_engine.current().id);
-    letThrough(*blocked);
+    // The edit of the mode has let it through, unless the mode listed it already.
+    if (m_gate.blocked())
+        letThrough(*blocked);
 }
 
 void DriftHandling::correctFront(const std::optional<QString>& modeID) {
-    const auto front = m_classifier.front();
-    if (!front)
-        return;
-    m_classifier.correct(front->subject, modeID);
+    if (const auto front = m_classifier.front())
+        correct(front->subject, modeID);
+}
+
+void DriftHandling::correct(const Subject& subject, const std::optional<QString>& modeID) {
+    m_classifier.correct(subject, modeID);
     const auto blocked = m_gate.blocked();
-    if (!blocked || blocked->bundleID != key(front->subject) || modeID != m_engine.current().id)
+    if (!blocked || blocked->bundleID != key(subject))
         return;
+    const Mode* owner = modeID ? m_engine.mode(*modeID) : nullptr;
+    if (owner && owner->id != m_engine.current().id) {
+        cancelSwitchTo(blocked->owner);
+        Gate::Blocked corrected = *blocked;
+        corrected.owner = *owner;
+        m_gate.open(corrected);
+        return;
+    }
     // A list goes before the user's word, and would close the gate on it again the moment it has the keyboard.
-    if (const Mode* mode = m_engine.listing(blocked->bundleID); mode && mode->id != modeID)
+    if (const Mode* listing = m_engine.listing(blocked->bundleID); listing && listing->id != modeID)
         m_allowedOnce.insert(blocked->bundleID);
     letThrough(*blocked);
 }

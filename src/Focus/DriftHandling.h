@@ -34,9 +34,10 @@ public:
     drift::Decision decide(const Verdict& verdict, const AppSubject& app) const;
     /// Another application came to the front: the gate of a different one has nothing to cover any more.
     void frontChanged(const std::optional<RunningApp>& app);
-    void runningChanged(); ///< the gate of an application that ended has nothing to cover either
-    void modeChanged();    ///< lets through what belongs to the new mode
-    void focusStopped();   ///< outside a session nothing is gated, and what was allowed once no longer is
+    void runningChanged();                     ///< nor has the gate of an application that ended
+    void windowsGone(const QString& bundleID); ///< nor of one that shows no window any more
+    void modesChanged(); ///< another mode is the current one, or modes were edited: lets through what fits now
+    void focusStopped(); ///< outside a session nothing is gated, and what was allowed once no longer is
 
     // The gate
     void present(const Gate::Blocked& blocked);
@@ -49,10 +50,12 @@ public:
     void allowOnce();
     void addToMode();
 
-    /// The user's correction of what is in front. Nothing: it belongs to no mode.
+    /// The user's correction. Nothing: it belongs to no mode.
+    void correct(const Subject& subject, const std::optional<QString>& modeID);
     void correctFront(const std::optional<QString>& modeID);
 
 private:
+    bool belongsHere(const AppSubject& app);
     void cancelSwitchTo(const std::optional<Mode>& owner);
     void goBackFrom(const Gate::Blocked& blocked);
     void stayEnded();
@@ -73,7 +76,7 @@ private:
     /// which is not the user coming back to it.
     std::optional<QString> m_leaving;
     Handle m_stayEnd;
-    Handle m_delayedOpen;
+    std::optional<Handle> m_delayedOpen; ///< of the file manager
 };
 
 } // namespace fendrel

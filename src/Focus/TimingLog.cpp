@@ -7,8 +7,11 @@
 namespace fendrel {
 
 void TimingLog::record(std::chrono::nanoseconds duration) {
-    m_durations.push_back(duration);
-    if (m_durations.size() % 20 != 0)
+    if (m_durations.size() < kept)
+        m_durations.push_back(duration);
+    else
+        m_durations[m_count % kept] = duration;
+    if (++m_count % 20 != 0)
         return;
     auto sorted = m_durations;
     const auto index = static_cast<std::ptrdiff_t>(0.95 * static_cast<double>(sorted.size() - 1));

@@ -246,6 +246,7 @@ void ModeEngine::didEdit() {
     m_current = *current;
     m_currentPosition = current - m_modes.constData();
     Q_EMIT changed();
+    onEdit();
 }
 
 } // namespace fendrel

@@ -31,6 +31,7 @@ public:
 
     std::function<Seconds(const Mode& target)> entryDelay = [](const Mode&) { return Seconds{}; };
     std::function<void(const Mode& mode)> onCommit = [](const Mode&) {};
+    std::function<void()> onEdit = [] {}; ///< modes came, went or changed; the current one is still the same
 
     const ModeCatalog& catalog() const { return m_catalog; }
     const QList<Mode>& modes() const { return m_modes; }

@@ -42,7 +42,7 @@ public:
 
     virtual QList<WindowInfo> windows(qint64 pid) const = 0;
     virtual std::optional<WindowID> focusedWindow(qint64 pid) const = 0;
-    virtual std::optional<WindowID> mainWindow(qint64 pid) const = 0;
+    virtual std::optional<WindowID> mainWindow(qint64 pid) const = 0; ///< a visible one; nothing when all are minimised
     virtual std::optional<QString> title(WindowID window) const = 0;
     virtual std::optional<QRect> frame(WindowID window) const = 0; ///< device pixels, from the desktop's origin
     virtual Handle observe(qint64 pid, Observer observer) = 0;

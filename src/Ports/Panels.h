@@ -14,7 +14,7 @@ class Panels {
 public:
     enum class Kind {
         dock, ///< on every virtual desktop, never takes the keyboard
-        gate, ///< on every virtual desktop, above full-screen windows; docks stay above it where that is possible
+        gate, ///< on the virtual desktop where it opens, above full-screen windows; docks stay above it where they can
         menu, ///< open for a moment, over everything; draws its own shadow
     };
 

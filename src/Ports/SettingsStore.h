@@ -20,7 +20,7 @@ class SettingsStore {
 public:
     enum class Urgency {
         atOnce,  ///< on its way to the disk before the call returns
-        relaxed, ///< a counter: may be up to a minute late on the disk, but is there after a normal quit
+        relaxed, ///< a counter: may be some seconds late on the disk, but is there after a normal quit
     };
 
     virtual ~SettingsStore() = default;

@@ -22,16 +22,17 @@ QString remainingText(Seconds remaining) {
     return QCoreApplication::translate("Countdown", "%1 h %2 min").arg(minutes / 60).arg(minutes % 60);
 }
 
-Countdown::Countdown(Clock& clock, std::function<std::optional<Seconds>()> remaining, std::function<void()> changed)
-    : m_clock(clock), m_remaining(std::move(remaining)), m_changed(std::move(changed)) {}
+Countdown::Countdown(Clock& clock, Unit unit, std::function<std::optional<Seconds>()> remaining,
+                     std::function<void()> changed)
+    : m_clock(clock), m_unit(unit), m_remaining(std::move(remaining)), m_changed(std::move(changed)) {}
 
 void Countdown::restart() {
     m_next.reset();
     const auto remaining = m_remaining();
     if (!remaining || *remaining <= Seconds{})
         return;
-    // Minutes are shown while more than one is left, then seconds.
-    const Seconds unit = *remaining > 60s ? Seconds(60s) : Seconds(1s);
+    const bool isInMinutes = m_unit == Unit::minuteThenSecond && *remaining > 60s;
+    const Seconds unit = isInMinutes ? Seconds(60s) : Seconds(1s);
     Seconds next{std::fmod(remaining->count(), unit.count())};
     if (next < 1ms)
         next += unit;

@@ -18,12 +18,19 @@ QString remainingText(Seconds remaining);
 /// Calls back each time the text of a remaining time changes, and not in between.
 class Countdown {
 public:
-    Countdown(Clock& clock, std::function<std::optional<Seconds>()> remaining, std::function<void()> changed);
+    enum class Unit {
+        second,
+        minuteThenSecond, ///< minutes as long as more than one is left
+    };
+
+    Countdown(Clock& clock, Unit unit, std::function<std::optional<Seconds>()> remaining,
+              std::function<void()> changed);
 
     void restart(); ///< to be called when what counts down starts, ends or gets another end
 
 private:
     Clock& m_clock;
+    Unit m_unit;
     std::function<std::optional<Seconds>()> m_remaining;
     std::function<void()> m_changed;
     Handle m_next;

@@ -46,9 +46,15 @@ Interface::Interface(AppController& controller)
 
     controller.onLayoutDocks = [this] { layoutDocks(); };
     controller.onShowOnboarding = [this] { showFirstRun(); };
-    controller.onShowSettings = [this](const QString& pane) { showSettings(pane); };
-    controller.onAlert = [this](const Alert& alert) { showAlert(alert); };
-    controller.onAttention = [this] { showSettings(m_settings.pane()); };
+    controller.onShowSettings = [this](const QString& pane) { whenFree([this, pane] { showSettings(pane); }); };
+    controller.onAlert = [this](const Alert& alert) { whenFree([this, alert] { showAlert(alert); }); };
+    controller.onAttention = [this] { whenFree([this] { showSettings(m_settings.pane()); }); };
+    QObject::connect(&controller.gate(), &Gate::changed, &m_settings, [this] {
+        if (!m_controller.gate().blocked()) {
+            for (const auto& show : std::exchange(m_waiting, {}))
+                show();
+        }
+    });
     controller.onFocusDock = [this] { focusDock(); };
     controller.platform().panels->onTransparencyChanged = [this] {
         for (const auto& [display, dock] : m_docks)
@@ -69,6 +75,14 @@ Interface::Interface(AppController& controller)
 Interface::~Interface() {
     m_controller.platform().panels->onTransparencyChanged = [] {};
     m_controller.platform().statusArea->onChanged = [] {};
+}
+
+/// A window that opens under the gate would take its keyboard without being seen.
+void Interface::whenFree(std::function<void()> show) {
+    if (m_controller.gate().blocked())
+        m_waiting.append(std::move(show));
+    else
+        show();
 }
 
 void Interface::layoutDocks() {

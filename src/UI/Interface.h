@@ -13,6 +13,7 @@
 #include <QQmlEngine>
 #include <QString>
 
+#include <functional>
 #include <list>
 #include <map>
 #include <memory>
@@ -30,6 +31,7 @@ public:
     ~Interface();
 
 private:
+    void whenFree(std::function<void()> show);
     void layoutDocks();
     void focusDock();
     void showFirstRun();
@@ -53,6 +55,7 @@ private:
     std::unique_ptr<Dialog> m_settingsWindow;
     std::list<std::unique_ptr<Dialog>> m_alerts;
     std::unique_ptr<QObject> m_tray;
+    QList<std::function<void()>> m_waiting; ///< windows that show when the gate closes
 };
 
 } // namespace fendrel

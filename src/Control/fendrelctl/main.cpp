@@ -57,7 +57,7 @@ int run(const Request& request, bool asJson) {
         return false;
     });
     if (!isAnswered && !isStream)
-        return fail(u"Fendrel ended before it answered"_s, exitNotRunning);
+        return fail(u"Fendrel does not answer"_s, exitNotRunning);
     return status;
 }
 

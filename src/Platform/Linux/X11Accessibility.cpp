@@ -21,6 +21,8 @@ X11Accessibility::X11Accessibility(std::shared_ptr<ApplicationGroups> groups, Cl
     : m_groups(std::move(groups)), m_requests(m_groups->windows().connection()), m_restore(m_groups->windows(), clock) {
     auto* windows = &m_groups->windows();
     connect(windows, &X11Windows::windowChanged, this, [this](const X11Window& now, const X11Window& before) {
+        if (now.isMinimized != before.isMinimized)
+            tellWindows();
         if (now.title == before.title)
             return;
         const auto owner = m_groups->ownerOf(now.id);
@@ -66,9 +68,7 @@ std::optional<WindowID> X11Accessibility::focusedWindow(qint64 pid) const {
 std::optional<WindowID> X11Accessibility::mainWindow(qint64 pid) const {
     const auto all = windows(pid);
     const auto visible = std::ranges::find(all, false, &WindowInfo::isMinimized);
-    if (visible != all.end())
-        return visible->id;
-    return all.isEmpty() ? std::nullopt : std::optional(all.first().id);
+    return visible == all.end() ? std::nullopt : std::optional(visible->id);
 }
 
 std::optional<QString> X11Accessibility::title(WindowID window) const {

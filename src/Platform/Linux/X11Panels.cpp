@@ -92,6 +92,8 @@ void X11Panels::bringToFront(xcb_window_t window) {
     m_connection->withServerTime([self = QPointer(this), window](xcb_timestamp_t time) {
         if (!self)
             return;
+        if (self->m_panels.value(window).kind == Kind::gate)
+            self->m_requests.moveToDesktop(window, self->m_windows->currentDesktop());
         // The active full-screen window stays on top of everything until another window is active.
         self->m_requests.activate(window, time);
         self->m_requests.stackAbove(window);
@@ -145,9 +147,12 @@ void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
     panel.isMapped = true;
     if (panel.kind == Kind::menu)
         return; // the window manager has nothing to do with it
-    m_requests.addStates(window, atoms.netWmStateAbove, atoms.netWmStateSticky);
+    m_requests.addStates(window, atoms.netWmStateAbove, XCB_ATOM_NONE);
     m_requests.addStates(window, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager);
-    m_requests.moveToEveryDesktop(window);
+    if (panel.kind == Kind::dock) {
+        m_requests.addStates(window, atoms.netWmStateSticky, XCB_ATOM_NONE);
+        m_requests.moveToDesktop(window, everyDesktop);
+    }
     if (std::exchange(panel.isToBeActivated, false))
         bringToFront(window);
 }
@@ -174,18 +179,21 @@ void X11Panels::setUp(xcb_window_t window, const Panel& panel) {
         refuseFocus(window);
     // Once a window is mapped, its state is the window manager's to write.
     if (panel.kind != Kind::menu && !panel.isMapped)
-        setUpStates(window);
+        setUpStates(window, panel.kind);
     m_connection->flush();
 }
 
-void X11Panels::setUpStates(xcb_window_t window) {
+void X11Panels::setUpStates(xcb_window_t window, Kind kind) {
     const auto& atoms = m_connection->atoms();
-    if (m_connection->property(window, atoms.netWmDesktop).number() != everyDesktop)
-        m_connection->setNumbers(window, atoms.netWmDesktop, XCB_ATOM_CARDINAL, {everyDesktop});
     const auto before = m_connection->property(window, atoms.netWmState).numbers();
     auto states = before;
-    for (const xcb_atom_t state :
-         {atoms.netWmStateAbove, atoms.netWmStateSticky, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager}) {
+    QList<xcb_atom_t> wanted{atoms.netWmStateAbove, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager};
+    if (kind == Kind::dock) {
+        wanted.append(atoms.netWmStateSticky);
+        if (m_connection->property(window, atoms.netWmDesktop).number() != everyDesktop)
+            m_connection->setNumbers(window, atoms.netWmDesktop, XCB_ATOM_CARDINAL, {everyDesktop});
+    }
+    for (const xcb_atom_t state : std::as_const(wanted)) {
         if (!states.contains(state))
             states.append(state);
     }

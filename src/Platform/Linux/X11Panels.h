@@ -37,7 +37,7 @@ private:
     void handle(const xcb_generic_event_t& event);
     xcb_atom_t typeOf(Kind kind) const;
     void setUp(xcb_window_t window, const Panel& panel);
-    void setUpStates(xcb_window_t window);
+    void setUpStates(xcb_window_t window, Kind kind);
     void refuseFocus(xcb_window_t window);
     void handleMapped(xcb_window_t window, Panel& panel);
     void bringToFront(xcb_window_t window);

@@ -44,8 +44,8 @@ void X11Requests::addStates(xcb_window_t window, xcb_atom_t first, xcb_atom_t se
     m_connection.sendToWindowManager(window, m_connection.atoms().netWmState, {add, first, second, fromUser});
 }
 
-void X11Requests::moveToEveryDesktop(xcb_window_t window) const {
-    m_connection.sendToWindowManager(window, m_connection.atoms().netWmDesktop, {0xFFFF'FFFF, fromUser});
+void X11Requests::moveToDesktop(xcb_window_t window, quint32 desktop) const {
+    m_connection.sendToWindowManager(window, m_connection.atoms().netWmDesktop, {desktop, fromUser});
 }
 
 void X11Requests::stackAbove(xcb_window_t window) const {

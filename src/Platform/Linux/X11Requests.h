@@ -18,7 +18,7 @@ public:
     void close(xcb_window_t window) const;
     void killClient(xcb_window_t window) const; ///< cuts the application's connection to the server
     void addStates(xcb_window_t window, xcb_atom_t first, xcb_atom_t second) const;
-    void moveToEveryDesktop(xcb_window_t window) const;
+    void moveToDesktop(xcb_window_t window, quint32 desktop) const; ///< 0xFFFFFFFF: every one
     void stackAbove(xcb_window_t window) const;
 
 private:

@@ -7,10 +7,12 @@ namespace fendrel {
 FocusController::FocusController(AppController& controller)
     : m_controller(controller),
       m_session(
-          *controller.platform().clock, [this] { return m_controller.focus().remaining(); },
+          *controller.platform().clock, Countdown::Unit::minuteThenSecond,
+          [this] { return m_controller.focus().remaining(); },
           [this] { Q_EMIT changed(); }),
       m_pending(
-          *controller.platform().clock, [this] { return std::optional(m_controller.engine().pendingRemaining()); },
+          *controller.platform().clock, Countdown::Unit::second,
+          [this] { return std::optional(m_controller.engine().pendingRemaining()); },
           [this] { Q_EMIT pendingChanged(); }) {
     connect(&controller.focus(), &FocusSession::changed, this, [this] {
         m_session.restart();

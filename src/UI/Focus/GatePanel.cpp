@@ -80,7 +80,18 @@ void GatePanel::leaveOutDock() {
     const QRegion rest = (QRegion(m_display.frame) - dock).translated(-m_display.frame.topLeft());
     m_controller.platform().panels->setInputRegion(winId(), rest);
     const QRect cover = ScreenSpace::toLogical(m_display.frame);
-    setMask(isTransparent() ? QRegion() : (QRegion(cover) - ScreenSpace::toLogical(dock)).translated(-cover.topLeft()));
+    const QRect bar = ScreenSpace::toLogical(dock);
+    setMask(isTransparent() ? QRegion() : (QRegion(cover) - bar).translated(-cover.topLeft()));
+
+    QRect room = cover;
+    if (bar.width() > bar.height())
+        room.setBottom(bar.top() - 1);
+    else if (!bar.isEmpty() && bar.center().x() < cover.center().x())
+        room.setLeft(bar.right() + 1);
+    else if (!bar.isEmpty())
+        room.setRight(bar.left() - 1);
+    m_cardArea = room.translated(-cover.topLeft());
+    Q_EMIT cardAreaChanged();
 }
 
 void GatePanel::closed() {

@@ -26,6 +26,7 @@ class GatePanel : public QQuickView {
     Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
     Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
     Q_PROPERTY(QString icon READ icon NOTIFY openChanged)
+    Q_PROPERTY(QRectF cardArea READ cardArea NOTIFY cardAreaChanged)
 
 public:
     GatePanel(QQmlEngine& engine, AppController& controller, AppIcons& icons, DockController& dock,
@@ -38,6 +39,7 @@ public:
     bool isTransparent() const;
     bool isDark() const;
     QString icon() const;
+    const QRectF& cardArea() const { return m_cardArea; } ///< what the dock leaves, in the window
 
     /// To be called when the panel's way out is drawn: the window goes.
     Q_INVOKABLE void closed();
@@ -49,6 +51,7 @@ Q_SIGNALS:
     void transparencyChanged();
     void lookChanged();
     void attentionAsked();
+    void cardAreaChanged();
 
 private:
     void gateChanged();
@@ -58,6 +61,7 @@ private:
     AppController& m_controller;
     AppIcons& m_icons;
     Display m_display; ///< the one that is covered
+    QRectF m_cardArea;
 };
 
 } // namespace fendrel

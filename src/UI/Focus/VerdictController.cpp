@@ -2,6 +2,8 @@
 
 #include "App/AppController.h"
 
+#include <utility>
+
 namespace fendrel {
 
 namespace {
@@ -62,8 +64,14 @@ bool VerdictController::isCertain() const {
     return verdict && verdict->certainty == Certainty::certain;
 }
 
+void VerdictController::holdSubject() {
+    const auto& front = m_controller.classifier().front();
+    m_held = front ? std::optional(front->subject) : std::nullopt;
+}
+
 void VerdictController::correct(const QString& modeID) {
-    m_controller.drift().correctFront(modeID.isEmpty() ? std::nullopt : std::optional(modeID));
+    if (const auto subject = std::exchange(m_held, {}))
+        m_controller.drift().correct(*subject, modeID.isEmpty() ? std::nullopt : std::optional(modeID));
 }
 
 } // namespace fendrel

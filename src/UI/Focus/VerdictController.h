@@ -1,9 +1,13 @@
 #pragma once
 
+#include "Focus/Judgement.h"
+
 #include <QColor>
 #include <QObject>
 #include <QString>
 #include <QtQmlIntegration>
+
+#include <optional>
 
 namespace fendrel {
 
@@ -35,6 +39,7 @@ public:
     bool isElsewhere() const; ///< it belongs to a mode other than the current one
     bool isCertain() const;
 
+    Q_INVOKABLE void holdSubject();                  ///< what `correct` is going to be about
     Q_INVOKABLE void correct(const QString& modeID); ///< empty: it belongs to no mode
 
 Q_SIGNALS:
@@ -42,6 +47,7 @@ Q_SIGNALS:
 
 private:
     AppController& m_controller;
+    std::optional<Subject> m_held; ///< something else may come to the front while the menu is open
 };
 
 } // namespace fendrel
