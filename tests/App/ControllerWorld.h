@@ -19,9 +19,7 @@ struct ControllerWorld {
     AppController& launch(const QString& settingsPane = {}) {
         controller.emplace(fake.platform);
         controller->onShowOnboarding = [this] { shown.append(QStringLiteral("onboarding")); };
-        controller->onShowSettings = [this](const QString& pane) {
-            shown.append(QStringLiteral("settings ") + pane);
-        };
+        controller->onShowSettings = [this](const QString& pane) { shown.append(QStringLiteral("settings ") + pane); };
         controller->onLayoutDocks = [this] { shown.append(QStringLiteral("docks")); };
         controller->onAttention = [this] { shown.append(QStringLiteral("attention")); };
         controller->onQuit = [this] { shown.append(QStringLiteral("quit")); };
@@ -29,19 +27,19 @@ struct ControllerWorld {
         controller->launch(settingsPane);
         return *controller;
     }
+    /// Starts the application, with one window.
     qint64 run(const QString& bundleID) {
-        return fake.applications->launch(bundleID, bundleID.section(u'.', -1));
+        const qint64 pid = fake.applications->launch(bundleID, bundleID.section(u'.', -1));
+        fake.accessibility->addWindow(pid, QStringLiteral("A window"));
+        return pid;
     }
     void front(std::optional<qint64> pid) { fake.applications->bringToFront(pid); }
     bool answer(const char* mode, const char* certainty) {
-        fake.languageModel->prepare({{QStringLiteral("mode"), QString::fromLatin1(mode)},
-                                     {QStringLiteral("certainty"), QString::fromLatin1(certainty)},
-                                     {QStringLiteral("what"), QStringLiteral("Chatter")}});
-        return fake.languageModel->answerNext();
+        return fake.languageModel->answerNext({{{QStringLiteral("mode"), QString::fromLatin1(mode)},
+                                                {QStringLiteral("certainty"), QString::fromLatin1(certainty)},
+                                                {QStringLiteral("what"), QStringLiteral("Chatter")}}});
     }
-    void commit(const QString& modeID) {
-        controller->engine().commit(Mode(*controller->engine().mode(modeID)));
-    }
+    void commit(const QString& modeID) { controller->engine().commit(Mode(*controller->engine().mode(modeID))); }
     QString gated() {
         const auto& blocked = controller->gate().blocked();
         return blocked ? blocked->bundleID : QString();

@@ -1,7 +1,6 @@
 #include "App/ControllerWorld.h"
+#include "Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QtTest>
 
 using namespace fendrel;
@@ -12,247 +11,226 @@ class AppControllerTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void launchesInOrder();
-    void judgesNothingBeforeOnboardingIsDone();
-    void onboardingStartsWithTheChosenModes();
-    void judgesWindowsOfOthersAtOnce();
-    void theWaitFollowsSettingsAndAllowance();
-    void countsWhatIsSpentElsewhere();
-    void aSwitchTidiesUpAndJudgesAgain();
-    void placesTheDocks();
-    void theDockTimerRunsOnlyWhileNeeded();
-    void leavesThePortsAloneAfterItsEnd();
-};
+    void launchesInOrder() {
+        ControllerWorld world;
+        const Folders& folders = world.fake.platform.folders;
+        putFile(folders.data + u"/Modes.store"_s, "no database");
+        putFile(folders.crashes + u"/Fendrel-1.ips"_s, "a report");
+        world.fake.settings->values = {{u"crashReports"_s, true}};
+        world.launch(u"dock"_s);
+        QCOMPARE(world.shown,
+                 (QStringList{u"Fendrel couldn't read your modes"_s, u"Fendrel quit unexpectedly last time"_s,
+                              u"onboarding"_s, u"docks"_s, u"settings dock"_s}));
 
-void AppControllerTest::launchesInOrder() {
-    ControllerWorld world;
-    const Folders& folders = world.fake.platform.folders;
-    for (const QString& path : {folders.data + u"/Modes.store"_s, folders.crashes + u"/Fendrel-1.ips"_s}) {
-        QDir().mkpath(path.section(u'/', 0, -2));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no database") > 0);
+        ControllerWorld plain;
+        plain.front(plain.run(plain.code));
+        plain.launch();
+        QCOMPARE(plain.shown, QStringList{u"docks"_s});
+        QCOMPARE(plain.controller->classifier().front()->verdict->modeID,
+                 u"building"_s); // what is in front is judged
     }
-    world.fake.settings->values = {{u"crashReports"_s, true}};
-    world.launch(u"dock"_s);
-    QCOMPARE(world.shown,
-             (QStringList{u"Fendrel couldn't read your modes"_s, u"Fendrel quit unexpectedly last time"_s,
-                          u"onboarding"_s, u"docks"_s, u"settings dock"_s}));
 
-    ControllerWorld plain;
-    plain.front(plain.run(plain.code));
-    plain.launch();
-    QCOMPARE(plain.shown, QStringList{u"docks"_s});
-    QCOMPARE(plain.controller->classifier().front()->verdict->modeID,
-             u"building"_s); // what is in front is judged
-}
-
-void AppControllerTest::judgesNothingBeforeOnboardingIsDone() {
-    ControllerWorld world;
-    world.fake.settings->values.clear();
-    AppController& controller = world.launch();
-    controller.focus().start();
-    const qint64 chat = world.run(world.chat);
-    world.front(world.run(u"org.other"_s));
-    world.front(chat);
-    world.fake.accessibility->addWindow(chat, u"News"_s);
-    QVERIFY(!controller.classifier().front());
-    QVERIFY(world.fake.languageModel->questions.isEmpty());
-    QCOMPARE(world.gated(), QString());
-
-    controller.startedAgain({}); // still asks for it
-    controller.finishOnboarding({});
-    QCOMPARE(world.gated(), world.chat);
-    QCOMPARE(controller.titles().front()->title, u"News"_s);
-    QCOMPARE(world.shown.count(u"onboarding"_s), 2);
-}
-
-void AppControllerTest::onboardingStartsWithTheChosenModes() {
-    const auto modesAfter = [](const QStringList& chosen) {
+    void judgesNothingBeforeOnboardingIsDone() {
         ControllerWorld world;
         world.fake.settings->values.clear();
-        world.launch().finishOnboarding(chosen);
-        world.launch(); // the next start knows them too
-        QStringList ids{world.controller->engine().current().id + u':'};
-        for (const Mode& mode : world.controller->engine().modes())
-            ids.append(mode.id);
-        return ids.join(u' ');
-    };
-    QCOMPARE(modesAfter({}), u"writing: writing building social"_s);
-    QCOMPARE(modesAfter({u"nonsense"_s}), u"writing: writing building social"_s);
-    QCOMPARE(modesAfter({u"study"_s, u"nonsense"_s, u"building"_s, u"study"_s}), u"building: building study"_s);
-}
+        AppController& controller = world.launch();
+        controller.focus().start();
+        const qint64 chat = world.run(world.chat);
+        world.front(world.run(u"org.other"_s));
+        world.front(chat);
+        world.fake.accessibility->addWindow(chat, u"News"_s);
+        QVERIFY(!controller.classifier().front());
+        QVERIFY(world.fake.languageModel->questions.isEmpty());
+        QCOMPARE(world.gated(), QString());
 
-void AppControllerTest::judgesWindowsOfOthersAtOnce() {
-    ControllerWorld world;
-    AppController& controller = world.launch();
-    const qint64 other = world.run(u"org.other"_s), chat = world.run(world.chat);
-    const auto window = world.fake.accessibility->addWindow(other, u"Untitled"_s);
-    world.front(other);
-    world.fake.accessibility->setTitle(window, u"Cat videos"_s);
-    QCOMPARE(world.fake.languageModel->questions.first().prompt, u"App: other\nWindow: Untitled"_s);
-    world.front(chat);
-    QCOMPARE(world.gated(), QString());
-    controller.focus().start(Seconds(60)); // judges what is in front already
-    QCOMPARE(world.gated(), world.chat);
-    const qint64 self = QCoreApplication::applicationPid();
-    world.fake.applications->launch({.pid = self, .bundleID = u"self"_s, .isRegular = true});
-    world.front(self); // the gate's panel takes the keyboard
-    QCOMPARE(world.gated(), world.chat);
-    QCOMPARE(controller.titles().front()->bundleID, world.chat);
-    world.front(chat);
-    world.fake.clock->advance(60s);
-    QCOMPARE(world.gated(), QString());
-}
+        controller.startedAgain({}); // still asks for it
+        controller.finishOnboarding({});
+        QCOMPARE(world.gated(), world.chat);
+        QCOMPARE(controller.titles().front()->title, u"News"_s);
+        QCOMPARE(world.shown.count(u"onboarding"_s), 2);
+    }
 
-void AppControllerTest::theWaitFollowsSettingsAndAllowance() {
-    ControllerWorld world;
-    AppController& controller = world.launch();
-    const Mode social = *controller.engine().mode(u"social"_s);
-    const auto wait = [&] {
-        controller.engine().requestSwitch(social);
-        const Seconds remaining = controller.engine().pendingRemaining();
+    void onboardingStartsWithTheChosenModes() {
+        const auto modesAfter = [](const QStringList& chosen) {
+            ControllerWorld world;
+            world.fake.settings->values.clear();
+            world.launch().finishOnboarding(chosen);
+            world.launch(); // the next start knows them too
+            QStringList ids{world.controller->engine().current().id + u':'};
+            for (const Mode& mode : world.controller->engine().modes())
+                ids.append(mode.id);
+            return ids.join(u' ');
+        };
+        QCOMPARE(modesAfter({}), u"writing: writing building social"_s);
+        QCOMPARE(modesAfter({u"nonsense"_s}), u"writing: writing building social"_s);
+        QCOMPARE(modesAfter({u"study"_s, u"nonsense"_s, u"building"_s, u"study"_s}), u"building: building study"_s);
+    }
+
+    void judgesWindowsOfOthersAtOnce() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        const qint64 other = world.run(u"org.other"_s), chat = world.run(world.chat);
+        const auto window = world.fake.accessibility->addWindow(other, u"Untitled"_s);
+        world.front(other);
+        world.fake.accessibility->setTitle(window, u"Cat videos"_s);
+        QCOMPARE(world.fake.languageModel->questions.first().prompt, u"App: other\nWindow: Untitled"_s);
+        world.front(chat);
+        QCOMPARE(world.gated(), QString());
+        controller.focus().start(Seconds(60)); // judges what is in front already
+        QCOMPARE(world.gated(), world.chat);
+        const qint64 self = QCoreApplication::applicationPid();
+        world.fake.applications->launch({.pid = self, .bundleID = u"self"_s, .isRegular = true});
+        world.front(self); // the gate's panel takes the keyboard
+        QCOMPARE(world.gated(), world.chat);
+        QCOMPARE(controller.titles().front()->bundleID, world.chat);
+        world.front(chat);
+        world.fake.clock->advance(60s);
+        QCOMPARE(world.gated(), QString());
+    }
+
+    void theWaitFollowsSettingsAndAllowance() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        const Mode social = *controller.engine().mode(u"social"_s);
+        const auto wait = [&] {
+            controller.engine().requestSwitch(social);
+            const Seconds remaining = controller.engine().pendingRemaining();
+            world.commit(u"writing"_s);
+            return remaining;
+        };
+        QCOMPARE(wait(), Seconds(0));
+        controller.focus().start();
+        QCOMPARE(wait(), Seconds(15));
+        controller.preferences().setStrictness(Strictness::strict);
+        QCOMPARE(wait(), Seconds(30));
+        controller.focus().stop();
+        world.commit(u"social"_s);
+        world.front(world.run(world.code)); // spends the allowance of 15 minutes
+        world.fake.clock->advance(15min);
         world.commit(u"writing"_s);
-        return remaining;
-    };
-    QCOMPARE(wait(), Seconds(0));
-    controller.focus().start();
-    QCOMPARE(wait(), Seconds(15));
-    controller.preferences().setStrictness(Strictness::strict);
-    QCOMPARE(wait(), Seconds(30));
-    controller.focus().stop();
-    world.commit(u"social"_s);
-    world.front(world.run(world.code)); // spends the allowance of 15 minutes
-    world.fake.clock->advance(15min);
-    world.commit(u"writing"_s);
-    QCOMPARE(wait(), Seconds(30));
-    controller.engine().requestSwitch(social);
-    controller.focus().start();
-    controller.focus().stop();
-    QVERIFY(!controller.engine().pending());
-}
+        QCOMPARE(wait(), Seconds(30));
+        controller.engine().requestSwitch(social);
+        controller.focus().start();
+        controller.focus().stop();
+        QVERIFY(!controller.engine().pending());
+    }
 
-void AppControllerTest::countsWhatIsSpentElsewhere() {
-    ControllerWorld world;
-    AppController& controller = world.launch();
-    world.commit(u"social"_s);
-    const qint64 chat = world.run(world.chat), code = world.run(world.code), other = world.run(u"org.other"_s);
-    const auto spent = [&](std::optional<qint64> pid) {
-        const Seconds before = controller.budget().used(u"social"_s);
+    void countsWhatIsSpentElsewhere() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        world.commit(u"social"_s);
+        const qint64 chat = world.run(world.chat), code = world.run(world.code), other = world.run(u"org.other"_s);
+        const auto spent = [&](std::optional<qint64> pid) {
+            const Seconds before = controller.budget().used(u"social"_s);
+            world.front(pid);
+            world.answer("writing", "likely");
+            world.fake.clock->advance(10s);
+            return controller.budget().used(u"social"_s) - before;
+        };
+        QCOMPARE(spent(chat), Seconds(0));
+        QCOMPARE(spent(code), Seconds(10));
+        QCOMPARE(spent(other), Seconds(0)); // only likely
+        controller.drift().correctFront(u"building"_s);
+        QCOMPARE(spent(other), Seconds(10));
+        controller.engine().deleteMode(u"building"_s);
+        QCOMPARE(spent(other), Seconds(0));
+        QCOMPARE(spent({}), Seconds(0));
+        QCOMPARE(controller.budget().inMode(u"social"_s), Seconds(60));
+    }
+
+    void aSwitchTidiesUpAndJudgesAgain() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        world.run(world.notes);
+        const qint64 chat = world.run(world.chat);
+        world.run(u"com.apple.finder"_s); // belongs to every mode
+        world.run(world.chat);
+        world.commit(u"social"_s);
+        QCOMPARE(world.takeRequests(), QStringList()); // off unless the user wants it
+        controller.preferences().setTidyOnSwitch(true);
+        world.commit(u"writing"_s);
+        QCOMPARE(world.takeRequests(), (QStringList{u"hide 1001"_s, u"hide 1003"_s}));
+        world.commit(u"social"_s);
+        QCOMPARE(world.takeRequests(), (QStringList{u"hide 1000"_s, u"unhide 1001"_s, u"unhide 1003"_s}));
+        world.commit(u"social"_s);
+        QVERIFY(!world.takeRequests().contains(u"unhide 1001"_s)); // what the user hides meanwhile stays hidden
+        controller.focus().start();
+        world.front(chat);
+        world.commit(u"writing"_s); // what is in front does not belong here any more
+        QCOMPARE(world.gated(), world.chat);
+    }
+
+    void placesTheDocks() {
+        ControllerWorld world;
+        auto& displays = *world.fake.displays;
+        displays.displays.append({.id = u"second"_s, .frame = {1920, 0, 1000, 1000}});
+        AppController& controller = world.launch();
+        const auto screens = [&] {
+            QStringList ids;
+            for (const auto& display : controller.dockScreens())
+                ids.append(display.id);
+            return ids.join(u' ');
+        };
+        QCOMPARE(screens(), u"first"_s);
+        controller.preferences().setDockDisplay(DockDisplay::all);
+        QCOMPARE(screens(), u"first second"_s);
+        controller.preferences().setDockDisplay(DockDisplay::active);
+        QCOMPARE(screens(), u"first"_s);
+
+        const qint64 pid = world.run(world.notes);
+        world.fake.accessibility->addWindow(pid, u"Draft"_s);
+        world.fake.accessibility->windowList.last().frame = {2000, 10, 500, 500};
+        world.shown.clear();
         world.front(pid);
-        world.answer("writing", "likely");
-        world.fake.clock->advance(10s);
-        return controller.budget().used(u"social"_s) - before;
-    };
-    QCOMPARE(spent(chat), Seconds(0));
-    QCOMPARE(spent(code), Seconds(10));
-    QCOMPARE(spent(other), Seconds(0)); // only likely
-    controller.drift().correctFront(u"building"_s);
-    QCOMPARE(spent(other), Seconds(10));
-    controller.engine().deleteMode(u"building"_s);
-    QCOMPARE(spent(other), Seconds(0));
-    QCOMPARE(spent({}), Seconds(0));
-    QCOMPARE(controller.budget().inMode(u"social"_s), Seconds(60));
-}
+        world.front(pid);
+        QCOMPARE(screens(), u"second"_s);
+        QCOMPARE(world.shown, QStringList{u"docks"_s}); // laid out once, not for every event
+        displays.setDisplays(displays.displays.first(1));
+        QCOMPARE(screens(), u"first"_s);
+    }
 
-void AppControllerTest::aSwitchTidiesUpAndJudgesAgain() {
-    ControllerWorld world;
-    AppController& controller = world.launch();
-    const qint64 notes = world.run(world.notes), chat = world.run(world.chat);
-    world.run(u"com.apple.finder"_s); // belongs to every mode
-    world.run(world.chat);
-    world.commit(u"social"_s);
-    QCOMPARE(world.takeRequests(), QStringList()); // off unless the user wants it
-    controller.preferences().setTidyOnSwitch(true);
-    world.commit(u"writing"_s);
-    QCOMPARE(world.takeRequests(), (QStringList{u"hide 1001"_s, u"hide 1003"_s}));
-    world.commit(u"social"_s);
-    QCOMPARE(world.takeRequests(), (QStringList{u"hide 1000"_s, u"unhide 1001"_s, u"unhide 1003"_s}));
-    world.commit(u"social"_s);
-    QVERIFY(!world.takeRequests().contains(u"unhide 1001"_s)); // what the user hides meanwhile stays hidden
+    void theDockTimerRunsOnlyWhileNeeded() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        const QString dock = u"first"_s;
+        const auto state = [&] { return std::pair(controller.isDockShown(dock), controller.isDockTimerRunning()); };
+        constexpr std::pair shown(true, false), waiting(true, true), hidden(false, false);
+        QVERIFY(state() == shown);
+        controller.preferences().setAutoHide(true);
+        QVERIFY(state() == waiting);
+        world.fake.clock->advance(500ms);
+        QVERIFY(state() == hidden);
+        controller.dockHoldChanged(dock, true);
+        controller.dockPointerChanged(dock, true);
+        controller.dockPointerChanged(dock, false);
+        QVERIFY(state() == shown);
+        controller.dockHoldChanged(dock, false);
+        QVERIFY(state() == waiting);
+        controller.preferences().setAutoHide(false);
+        QVERIFY(state() == shown);
+    }
 
-    controller.focus().start();
-    world.front(notes);
-    QCOMPARE(world.gated(), world.notes);
-    world.commit(u"writing"_s);
-    QCOMPARE(world.gated(), QString());
-    world.front(chat);
-    world.commit(u"social"_s);
-    world.commit(u"writing"_s); // what is in front does not belong here any more
-    QCOMPARE(world.gated(), world.chat);
-}
-
-void AppControllerTest::placesTheDocks() {
-    ControllerWorld world;
-    auto& displays = *world.fake.displays;
-    displays.displays.append({.id = u"second"_s, .frame = {1920, 0, 1000, 1000}});
-    AppController& controller = world.launch();
-    const auto screens = [&] {
-        QStringList ids;
-        for (const auto& display : controller.dockScreens())
-            ids.append(display.id);
-        return ids.join(u' ');
-    };
-    QCOMPARE(screens(), u"first"_s);
-    controller.preferences().setDockDisplay(DockDisplay::all);
-    QCOMPARE(screens(), u"first second"_s);
-    controller.preferences().setDockDisplay(DockDisplay::active);
-    QCOMPARE(screens(), u"first"_s);
-
-    const qint64 pid = world.run(world.notes);
-    world.fake.accessibility->addWindow(pid, u"Draft"_s);
-    world.fake.accessibility->windowList.last().frame = {2000, 10, 500, 500};
-    world.shown.clear();
-    world.front(pid);
-    world.front(pid);
-    QCOMPARE(screens(), u"second"_s);
-    QCOMPARE(world.shown, QStringList{u"docks"_s}); // laid out once, not for every event
-    displays.setDisplays(displays.displays.first(1));
-    QCOMPARE(screens(), u"first"_s);
-}
-
-void AppControllerTest::theDockTimerRunsOnlyWhileNeeded() {
-    ControllerWorld world;
-    AppController& controller = world.launch();
-    const QString dock = u"first"_s;
-    const auto state = [&] { return std::pair(controller.isDockShown(dock), controller.isDockTimerRunning()); };
-    constexpr std::pair shown(true, false), waiting(true, true), hidden(false, false);
-    QVERIFY(state() == shown);
-    controller.preferences().setAutoHide(true);
-    QVERIFY(state() == waiting);
-    world.fake.clock->advance(500ms);
-    QVERIFY(state() == hidden);
-    controller.dockPointerChanged(dock, true);
-    QVERIFY(state() == shown);
-    controller.dockHoldChanged(dock, true);
-    controller.dockPointerChanged(dock, false);
-    world.fake.clock->advance(1h);
-    QVERIFY(state() == shown);
-    controller.dockHoldChanged(dock, false);
-    QVERIFY(state() == waiting);
-    controller.preferences().setAutoHide(false);
-    QVERIFY(state() == shown);
-}
-
-void AppControllerTest::leavesThePortsAloneAfterItsEnd() {
-    ControllerWorld world;
-    world.launch().focus().start(Seconds(60));
-    world.controller->engine().requestSwitch(Mode(*world.controller->engine().mode(u"social"_s)));
-    const qint64 chat = world.run(world.chat);
-    const auto window = world.fake.accessibility->addWindow(chat, u"News"_s);
-    world.front(world.run(u"org.other"_s)); // a question is under way
-    world.controller.reset();
-    world.front(chat);
-    world.fake.accessibility->setTitle(window, u"More news"_s);
-    world.fake.accessibility->setTrusted(false);
-    world.fake.applications->onInstalledChanged();
-    world.fake.displays->setDisplays({});
-    world.fake.displays->onSpaceChanged();
-    world.fake.look->setDark(true);
-    world.fake.languageModel->setUnavailable(u"gone"_s);
-    world.fake.clock->setNow({});
-    QCOMPARE(world.fake.clock->pending(), std::size_t(0));
-    QCOMPARE(world.fake.languageModel->waiting(), 0);
-}
+    void leavesThePortsAloneAfterItsEnd() {
+        ControllerWorld world;
+        world.launch().focus().start(Seconds(60));
+        world.controller->engine().requestSwitch(Mode(*world.controller->engine().mode(u"social"_s)));
+        const qint64 chat = world.run(world.chat);
+        const auto window = world.fake.accessibility->addWindow(chat, u"News"_s);
+        world.front(world.run(u"org.other"_s)); // a question is under way
+        world.controller.reset();
+        world.front(chat);
+        world.fake.accessibility->setTitle(window, u"More news"_s);
+        world.fake.accessibility->setTrusted(false);
+        world.fake.applications->onInstalledChanged();
+        world.fake.displays->setDisplays({});
+        world.fake.displays->onSpaceChanged();
+        world.fake.look->setDark(true);
+        world.fake.languageModel->setUnavailable(u"gone"_s);
+        world.fake.clock->setNow({});
+        QCOMPARE(world.fake.clock->pending(), std::size_t(0));
+        QCOMPARE(world.fake.languageModel->waiting(), std::size_t(0));
+    }
+};
 
 QTEST_GUILESS_MAIN(AppControllerTest)
 #include "tst_AppController.moc"

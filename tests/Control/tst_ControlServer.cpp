@@ -1,8 +1,8 @@
 #include "App/ControllerWorld.h"
 #include "Control/ControlServer.h"
 #include "Control/Protocol.h"
+#include "Files.h"
 
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QLocalSocket>
 #include <QProcess>
@@ -10,21 +10,6 @@
 
 using namespace fendrel;
 using namespace Qt::StringLiterals;
-
-class ControlServerTest : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void fendrelctlAnswers_data();
-    void fendrelctlAnswers();
-    void fendrelctlSaysWhenNothingRuns();
-    void fendrelctlWatches();
-    void streamsOneLineForEachChange();
-    void bearsNoise();
-    void cutsOffAWatcherThatNeverReads();
-    void forgetsAClientThatIsGone();
-    void isForTheOwnerOnly();
-};
 
 namespace {
 
@@ -92,164 +77,138 @@ const QByteArray done = "{\"result\":null}\n";
 
 } // namespace
 
-void ControlServerTest::fendrelctlAnswers_data() {
-    QTest::addColumn<QByteArray>("said");
-    const auto row = [](const char* words, const char* said) { QTest::newRow(words) << QByteArray(said); };
-    row("modes", "0 writing\tWriting\t*\nbuilding\tBuilding\nsocial\tSocial\n");
-    row("settings get dockSize", "0 medium\n");
-    row("settings get dockSize --json", "0 \"medium\"\n");
-    row("settings get magnify", "0 yes\n");
-    row("--json settings get magnify", "0 true\n");
-    row("settings get focusShortcut", "0 key: F\nkeyCode: 3\nmodifiers: 2048\n");
-    row("--json settings get focusShortcut", "0 {\"key\":\"F\",\"keyCode\":3,\"modifiers\":2048}\n");
-    row("explain", "0 because:\n  Nothing is in front.\nsubject: -\nverdict: -\n");
-    row("focus start --for 25m", "0 ");
-    row("--json focus stop", "0 null\n");
-    row("quit", "0 ");
-    row("--version", "0 fendrelctl " FENDREL_VERSION "\n");
-    row("switch nowhere", "2 fendrelctl: unknown mode 'nowhere'\n");
-    row("gate stay", "2 fendrelctl: the gate is closed\n");
-    row("dance", "2 fendrelctl: unknown command 'dance'; see fendrelctl --help\n");
-    row("focus start --for", "2 fendrelctl: --for needs a value\n");
-}
+class ControlServerTest : public QObject {
+    Q_OBJECT
 
-void ControlServerTest::fendrelctlAnswers() {
-    World world;
-    QTEST(fendrelctl(QString::fromLatin1(QTest::currentDataTag()), world.fake.home.path()), "said");
-}
+private Q_SLOTS:
+    void fendrelctlAnswers() {
+        World world;
+        const auto answer = [&](const char* words) {
+            return fendrelctl(QString::fromLatin1(words), world.fake.home.path());
+        };
+        QCOMPARE(answer("modes"), "0 writing\tWriting\t*\nbuilding\tBuilding\nsocial\tSocial\n");
+        QCOMPARE(answer("settings get dockSize --json"), "0 \"medium\"\n");
+        QCOMPARE(answer("settings get magnify"), "0 yes\n");
+        QCOMPARE(answer("--json settings get magnify"), "0 true\n");
+        QCOMPARE(answer("settings get focusShortcut"), "0 key: F\nkeyCode: 3\nmodifiers: 2048\n");
+        QCOMPARE(answer("explain"), "0 because:\n  Nothing is in front.\nsubject: -\nverdict: -\n");
+        QCOMPARE(answer("focus start --for 25m"), "0 ");
+        QCOMPARE(answer("--version"), "0 fendrelctl " FENDREL_VERSION "\n");
+        QCOMPARE(answer("switch nowhere"), "2 fendrelctl: unknown mode 'nowhere'\n");
+        QCOMPARE(answer("gate stay"), "2 fendrelctl: the gate is closed\n");
+    }
 
-void ControlServerTest::fendrelctlSaysWhenNothingRuns() {
-    const QTemporaryDir home;
-    const QByteArray nothing = "3 fendrelctl: Fendrel is not running\n";
-    QCOMPARE(fendrelctl(u"status"_s, home.path()), nothing);
-    QDir(home.path()).mkdir(u"Fendrel"_s);
-    QFile left(control::socketPath(home.filePath(u"Fendrel"_s)));
-    QVERIFY(left.open(QIODevice::WriteOnly)); // what a crash may leave
-    QCOMPARE(fendrelctl(u"status"_s, home.path()), nothing);
-    ControllerWorld world;
-    control::ControlServer server(world.launch(), home.filePath(u"Fendrel"_s));
-    QVERIFY(server.listen()); // in its place
-    QVERIFY(fendrelctl(u"status"_s, home.path()).startsWith("0 "));
-}
+    void fendrelctlSaysWhenNothingRuns() {
+        const QTemporaryDir home;
+        const QByteArray nothing = "3 fendrelctl: Fendrel is not running\n";
+        QCOMPARE(fendrelctl(u"status"_s, home.path()), nothing);
+        putFile(control::socketPath(home.filePath(u"Fendrel"_s)), {}); // what a crash may leave
+        QCOMPARE(fendrelctl(u"status"_s, home.path()), nothing);
+        ControllerWorld world;
+        control::ControlServer server(world.launch(), home.filePath(u"Fendrel"_s));
+        QVERIFY(server.listen()); // in its place
+        QVERIFY(fendrelctl(u"status"_s, home.path()).startsWith("0 "));
+    }
 
-void ControlServerTest::fendrelctlWatches() {
-    World world;
-    QProcess process;
-    QSignalSpy ended(&process, &QProcess::finished);
-    QSignalSpy said(&process, &QProcess::readyReadStandardOutput);
-    start(process, u"watch"_s, world.fake.home.path());
-    const auto line = [&] {
-        while (!process.canReadLine() && said.wait(deadline)) {
+    void streamsOneLineForEachChange() {
+        World world;
+        AppController& controller = *world.controller;
+        Peer peer(world), other(world);
+        const auto change = [&] { return peer.nextObject().keys().join(u' '); };
+        peer.say(watch);
+        QCOMPARE(change(), u"budgets dock focus front gate judgement mode onboarding pending time"_s);
+        controller.focus().start();
+        QCOMPARE(change(), u"focus time"_s);
+        other.say(watch);
+        QCOMPARE(other.nextObject()[u"focus"][u"on"], QJsonValue(true));
+        world.front(world.run(world.chat)); // an activation with all that follows from it
+        QCOMPARE(change(), u"front gate judgement time"_s);
+        QCOMPARE(other.nextObject()[u"gate"][u"owner"], QJsonValue(u"social"_s));
+        controller.drift().switchToOwner();
+        QCOMPARE(change(), u"pending time"_s);
+        controller.engine().cancelPending();
+        controller.drift().switchToOwner(); // back and forth: the same wait again
+        controller.drift().stay();
+        QCOMPARE(change(), u"gate pending time"_s);
+        world.fake.clock->advance(std::chrono::seconds(5));
+        QCOMPARE(change(), u"budgets gate time"_s); // what was stopped is still in front after two seconds
+        // What a command changes is told before it is answered.
+        peer.say(stop);
+        QCOMPARE(change(), u"focus gate time"_s);
+        QCOMPARE(peer.next(), done);
+    }
+
+    void bearsNoise() {
+        World world;
+        Peer peer(world), other(world);
+        QByteArray binary(100'000, '\0');
+        for (qsizetype index = 0; index < binary.size(); ++index)
+            binary[index] = static_cast<char>(index % 251 == '\n' ? 0 : index % 251);
+        const QByteArray lines[] = {"",
+                                    "GET / HTTP/1.1\r",
+                                    binary,
+                                    "{\"command\":\"status\"",
+                                    "{\"command\":\"dance\"}",
+                                    "{\"command\":{\"status\":1}}",
+                                    QByteArray(500'000, '[')};
+        for (const QByteArray& line : lines) {
+            peer.say(line + '\n' + stop);
+            QCOMPARE(peer.next(), QByteArray("{\"error\":\"that is no request\"}\n"));
+            QCOMPARE(peer.next(), done); // the connection is still good
         }
-        return QJsonDocument::fromJson(process.readLine()).object();
-    };
-    QCOMPARE(line()[u"mode"][u"id"], QJsonValue(u"writing"_s));
-    world.controller->focus().start();
-    QCOMPARE(line().keys(), (QStringList{u"focus"_s, u"time"_s}));
-    world.server.reset();
-    QVERIFY(ended.wait(deadline));
-    QCOMPARE(process.exitCode(), 0);
-}
-
-void ControlServerTest::streamsOneLineForEachChange() {
-    World world;
-    AppController& controller = *world.controller;
-    Peer peer(world), other(world);
-    const auto change = [&] { return peer.nextObject().keys().join(u' '); };
-    peer.say(watch);
-    QCOMPARE(change(), u"budgets dock focus front gate judgement mode onboarding pending time"_s);
-    controller.focus().start();
-    QCOMPARE(change(), u"focus time"_s);
-    other.say(watch);
-    QCOMPARE(other.nextObject()[u"focus"][u"on"], QJsonValue(true));
-    world.front(world.run(world.chat)); // an activation with all that follows from it
-    QCOMPARE(change(), u"front gate judgement time"_s);
-    QCOMPARE(other.nextObject()[u"gate"][u"owner"], QJsonValue(u"social"_s));
-    controller.drift().switchToOwner();
-    QCOMPARE(change(), u"pending time"_s);
-    controller.engine().cancelPending();
-    controller.drift().switchToOwner(); // back and forth: the same wait again
-    controller.drift().stay();
-    QCOMPARE(change(), u"gate pending time"_s);
-    world.fake.clock->advance(std::chrono::seconds(5));
-    QCOMPARE(change(), u"budgets gate time"_s); // what was stopped is still in front after two seconds
-    // What a command changes is told before it is answered.
-    peer.say(stop);
-    QCOMPARE(change(), u"focus gate time"_s);
-    QCOMPARE(peer.next(), done);
-}
-
-void ControlServerTest::bearsNoise() {
-    World world;
-    Peer peer(world), other(world);
-    QByteArray binary(100'000, '\0');
-    for (qsizetype index = 0; index < binary.size(); ++index)
-        binary[index] = static_cast<char>(index % 251 == '\n' ? 0 : index % 251);
-    const QByteArray lines[] = {"",
-                                "GET / HTTP/1.1\r",
-                                binary,
-                                "{\"command\":\"status\"",
-                                "{\"command\":\"dance\"}",
-                                "{\"command\":{\"status\":1}}",
-                                QByteArray(500'000, '[')};
-    for (const QByteArray& line : lines) {
-        peer.say(line + '\n' + stop);
-        QCOMPARE(peer.next(), QByteArray("{\"error\":\"that is no request\"}\n"));
-        QCOMPARE(peer.next(), done); // the connection is still good
-    }
-    peer.say(stop + QByteArray(2'000'000, 'x'));
-    QCOMPARE(peer.next(), done);
-    QVERIFY(peer.isCutOff()); // a line without end
-    other.say(stop);
-    QCOMPARE(other.next(), done);
-}
-
-void ControlServerTest::cutsOffAWatcherThatNeverReads() {
-    World world;
-    const qint64 pid = world.run(u"org.other"_s);
-    const auto window = world.fake.accessibility->addWindow(pid, {});
-    world.front(pid);
-    Peer stuck(world), reader(world), flood(world);
-    for (Peer* peer : {&stuck, &reader}) {
-        peer->say(watch);
-        QVERIFY(!peer->next().isEmpty());
-    }
-    for (Peer* peer : {&stuck, &flood})
-        peer->socket.setReadBufferSize(1);
-    flood.say(QByteArray("{\"command\":\"settings list\"}\n").repeated(20'000));
-    for (int change = 0; change < 60; ++change) {
-        world.fake.accessibility->setTitle(window, QString::number(change).repeated(50'000));
-        QVERIFY(reader.nextObject().contains(u"front"_s));
-    }
-    for (Peer* peer : {&stuck, &flood}) {
-        peer->socket.setReadBufferSize(0);
-        peer->socket.readAll();
-        QVERIFY(peer->isCutOff());
-    }
-}
-
-void ControlServerTest::forgetsAClientThatIsGone() {
-    World world;
-    for (int round = 0; round < 20; ++round) {
-        auto peer = std::make_unique<Peer>(world);
-        peer->say(stop.repeated(round) + watch + stop);
-        QVERIFY(peer->socket.waitForBytesWritten(deadline));
-        peer.reset();
-        Peer other(world);
+        peer.say(stop + QByteArray(2'000'000, 'x'));
+        QCOMPARE(peer.next(), done);
+        QVERIFY(peer.isCutOff()); // a line without end
         other.say(stop);
         QCOMPARE(other.next(), done);
-        world.controller->focus().start();
-        QCoreApplication::sendPostedEvents();
     }
-}
 
-void ControlServerTest::isForTheOwnerOnly() {
-    World world;
-    constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-    QCOMPARE(QFileInfo(world.path).permissions() & others, QFile::Permissions());
-    control::ControlServer tooDeep(*world.controller, world.fake.home.filePath(QString(120, u'x')));
-    QVERIFY(!tooDeep.listen());
-}
+    void cutsOffAWatcherThatNeverReads() {
+        World world;
+        const qint64 pid = world.run(u"org.other"_s);
+        const auto window = world.fake.accessibility->addWindow(pid, {});
+        world.front(pid);
+        Peer stuck(world), reader(world), flood(world);
+        for (Peer* peer : {&stuck, &reader}) {
+            peer->say(watch);
+            QVERIFY(!peer->next().isEmpty());
+        }
+        for (Peer* peer : {&stuck, &flood})
+            peer->socket.setReadBufferSize(1);
+        flood.say(QByteArray("{\"command\":\"settings list\"}\n").repeated(20'000));
+        for (int change = 0; change < 60; ++change) {
+            world.fake.accessibility->setTitle(window, QString::number(change).repeated(50'000));
+            QVERIFY(reader.nextObject().contains(u"front"_s));
+        }
+        for (Peer* peer : {&stuck, &flood}) {
+            peer->socket.setReadBufferSize(0);
+            peer->socket.readAll();
+            QVERIFY(peer->isCutOff());
+        }
+    }
+
+    void forgetsAClientThatIsGone() {
+        World world;
+        for (int round = 0; round < 20; ++round) {
+            auto peer = std::make_unique<Peer>(world);
+            peer->say(stop.repeated(round) + watch + stop);
+            QVERIFY(peer->socket.waitForBytesWritten(deadline));
+            peer.reset();
+            Peer other(world);
+            other.say(stop);
+            QCOMPARE(other.next(), done);
+            world.controller->focus().start();
+            QCoreApplication::sendPostedEvents();
+        }
+    }
+
+    void isForTheOwnerOnly() {
+        World world;
+        QCOMPARE(permissionsOf(world.path) & 0077U, 0U);
+        control::ControlServer tooDeep(*world.controller, world.fake.home.filePath(QString(120, u'x')));
+        QVERIFY(!tooDeep.listen());
+    }
+};
 
 QTEST_GUILESS_MAIN(ControlServerTest)
 #include "tst_ControlServer.moc"

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 namespace fendrel {
@@ -29,34 +30,22 @@ public:
         return id;
     }
     void focus(WindowID id) {
-        if (const auto* window = find(id)) {
-            m_focused.insert(window->pid, id);
-            notifyWindowChanged(window->pid);
-        }
+        const qint64 pid = find(id)->pid;
+        m_focused.insert(pid, id);
+        notify(pid, [](const Observer& observer) { observer.onWindowChanged(); });
     }
     void setTitle(WindowID id, const QString& title) {
-        auto* window = find(id);
-        if (!window)
-            return;
-        window->info.title = title;
-        m_observers.forEach([pid = window->pid, id](const auto& entry) {
-            if (entry.first == pid && entry.second.onTitleChanged)
-                entry.second.onTitleChanged(id);
-        });
+        find(id)->info.title = title;
+        notify(find(id)->pid, [id](const Observer& observer) { observer.onTitleChanged(id); });
     }
-    /// The application's first other window takes the focus if this one had it.
+    /// The application's first other window takes the focus.
     void removeWindow(WindowID id) {
-        const auto* window = find(id);
-        if (!window)
-            return;
-        const qint64 pid = window->pid;
+        const qint64 pid = find(id)->pid;
         windowList.removeIf([id](const Window& each) { return each.info.id == id; });
-        if (m_focused.value(pid) != id)
-            return;
         m_focused.remove(pid);
         if (const auto left = windows(pid); !left.isEmpty())
             m_focused.insert(pid, left.first().id);
-        notifyWindowChanged(pid);
+        notify(pid, [](const Observer& observer) { observer.onWindowChanged(); });
     }
     void setTrusted(bool isTrustedNow) {
         m_isTrusted = isTrustedNow;
@@ -71,7 +60,7 @@ public:
     QStringList requests; ///< in order: "permission", "raise ID", "restore ID", "minimize ID", "close ID"
     int observerCount(qint64 pid) const {
         int count = 0;
-        m_observers.forEach([&](const auto& entry) { count += entry.first == pid ? 1 : 0; });
+        notify(pid, [&](const Observer&) { ++count; });
         return count;
     }
 
@@ -88,13 +77,9 @@ public:
         }
         return found;
     }
-    std::optional<WindowID> focusedWindow(qint64 pid) const override {
-        const auto found = m_focused.constFind(pid);
-        return m_isTrusted && found != m_focused.constEnd() ? std::optional(*found) : std::nullopt;
-    }
+    std::optional<WindowID> focusedWindow(qint64 pid) const override { return at(m_focused, pid); }
     std::optional<WindowID> mainWindow(qint64 pid) const override {
-        const auto found = mainWindows.constFind(pid);
-        return m_isTrusted && found != mainWindows.constEnd() ? std::optional(*found) : focusedWindow(pid);
+        return mainWindows.contains(pid) ? at(mainWindows, pid) : focusedWindow(pid);
     }
     std::optional<QString> title(WindowID id) const override {
         const auto* window = m_isTrusted ? find(id) : nullptr;
@@ -104,9 +89,7 @@ public:
         const auto* window = m_isTrusted ? find(id) : nullptr;
         return window ? std::optional(window->frame) : std::nullopt;
     }
-    Handle observe(qint64 pid, Observer observer) override {
-        return m_observers.add({pid, std::move(observer)});
-    }
+    Handle observe(qint64 pid, Observer observer) override { return m_observers.add({pid, std::move(observer)}); }
 
     void raise(WindowID window) override { request("raise", window); }
     void restore(WindowID window) override { request("restore", window); }
@@ -115,17 +98,18 @@ public:
 
 private:
     const Window* find(WindowID id) const {
-        for (const auto& window : windowList) {
-            if (window.info.id == id)
-                return &window;
-        }
-        return nullptr;
+        const auto found = std::ranges::find(windowList, id, [](const Window& window) { return window.info.id; });
+        return found == windowList.end() ? nullptr : &*found;
     }
     Window* find(WindowID id) { return const_cast<Window*>(std::as_const(*this).find(id)); }
-    void notifyWindowChanged(qint64 pid) {
-        m_observers.forEach([pid](const auto& entry) {
-            if (entry.first == pid && entry.second.onWindowChanged)
-                entry.second.onWindowChanged();
+    std::optional<WindowID> at(const QHash<qint64, WindowID>& windows, qint64 pid) const {
+        return m_isTrusted && windows.contains(pid) ? std::optional(windows.value(pid)) : std::nullopt;
+    }
+    template<class Tell>
+    void notify(qint64 pid, const Tell& tell) const {
+        m_observers.forEach([&](const auto& entry) {
+            if (entry.first == pid)
+                tell(entry.second);
         });
     }
     void request(const char* what, WindowID window) {

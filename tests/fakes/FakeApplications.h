@@ -37,12 +37,10 @@ public:
     QHash<QString, QString> locations;
     QHash<QString, AppIcon> icons;
     QString fileManagerID;
-    NativeApps native;
 
     // What the services asked for
 
-    /// In order: "open ID", "open ID behind", "activate PID", "hide PID", "unhide PID", "quit PID", "forceQuit
-    /// PID".
+    /// In order: "open ID", "open ID behind", "activate PID", and so on.
     QStringList requests;
 
     // The port
@@ -57,16 +55,14 @@ public:
         return {};
     }
     std::optional<QString> location(const QString& bundleID) const override {
-        const auto found = locations.constFind(bundleID);
-        return found == locations.constEnd() ? std::nullopt : std::optional(*found);
+        return locations.contains(bundleID) ? std::optional(locations.value(bundleID)) : std::nullopt;
     }
     AppIcon icon(const QString& bundleID) const override { return icons.value(bundleID); }
     QString fileManager() const override { return fileManagerID; }
-    NativeApps nativeApps() const override { return native; }
+    NativeApps nativeApps() const override { return {}; }
 
     void open(const QString& bundleID, bool activates) override {
-        requests.append(QStringLiteral("open ") + bundleID +
-                        (activates ? QString() : QStringLiteral(" behind")));
+        requests.append(QStringLiteral("open ") + bundleID + (activates ? QString() : QStringLiteral(" behind")));
     }
     void activate(qint64 pid) override { request("activate", pid); }
     void hide(qint64 pid) override { request("hide", pid); }

@@ -4,8 +4,6 @@
 #include "Platform/Shared/TimerQueue.h"
 #include "Ports/Clock.h"
 
-#include <optional>
-
 namespace fendrel {
 
 /// Time moves only when the test says so. Starts on Monday 2026-01-05 at 09:00 UTC.
@@ -47,11 +45,6 @@ public:
     }
 
     std::size_t pending() const { return m_queue.size(); } ///< timers that are under way
-    /// Time until the next timer is due; nothing while none is under way.
-    std::optional<Duration> untilNext() const {
-        const auto due = m_queue.earliestDue();
-        return due ? std::optional(*due - m_now) : std::nullopt;
-    }
 
 private:
     void moveOn(Duration duration) {

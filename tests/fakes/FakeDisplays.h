@@ -15,13 +15,6 @@ public:
         displays = std::move(now);
         onChanged();
     }
-    void setSpace(const QString& displayID, const QString& space) {
-        for (auto& display : displays) {
-            if (display.id == displayID)
-                display.space = space;
-        }
-        onSpaceChanged();
-    }
 
     QList<Display> displays{{.id = QStringLiteral("first"),
                              .frame = {0, 0, 1920, 1080},

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "Ports/LanguageModel.h"
-#include "fakes/OpenRequests.h"
 
-#include <deque>
+#include <map>
+#include <memory>
 #include <utility>
 
 namespace fendrel {
 
-/// Answers only when told to, with what was prepared, oldest question first.
+/// Answers only when told to, oldest question first.
 class FakeLanguageModel final : public LanguageModel {
 public:
     using Outcome = Result<Answer, QString>;
@@ -18,7 +18,11 @@ public:
     void prewarm(const QString& instructions) override { prewarmed.append(instructions); }
     Handle ask(const Question& question, Answered answered) override {
         questions.append(question);
-        return m_open.add(std::move(answered));
+        m_waiting->emplace(questions.size(), std::move(answered));
+        return Handle([waiting = std::weak_ptr(m_waiting), id = questions.size()] {
+            if (const auto alive = waiting.lock())
+                alive->erase(id);
+        });
     }
 
     /// An empty reason makes the model available.
@@ -26,27 +30,21 @@ public:
         m_reason = reason;
         onAvailabilityChanged();
     }
-    void prepare(Answer answer) { m_prepared.emplace_back(std::move(answer)); }
-    void prepareFailure(const QString& reason) { m_prepared.push_back(Outcome::failure(reason)); }
-
-    /// Returns false when no question waits or nothing is prepared.
-    bool answerNext() {
-        if (m_prepared.empty() || m_open.waiting() == 0)
+    /// Returns false when no question waits.
+    bool answerNext(const Outcome& outcome) {
+        if (m_waiting->empty())
             return false;
-        const auto outcome = std::move(m_prepared.front());
-        m_prepared.pop_front();
-        return m_open.answerOldest(outcome);
+        m_waiting->extract(m_waiting->begin()).mapped()(outcome);
+        return true;
     }
-    int waiting() const { return m_open.waiting(); }
-    int cancelled() const { return m_open.cancelled(); }
+    std::size_t waiting() const { return m_waiting->size(); }
 
     QList<Question> questions;
     QStringList prewarmed;
 
 private:
     QString m_reason;
-    std::deque<Outcome> m_prepared;
-    OpenRequests<Outcome> m_open;
+    std::shared_ptr<std::map<qsizetype, Answered>> m_waiting = std::make_shared<std::map<qsizetype, Answered>>();
 };
 
 } // namespace fendrel

@@ -7,8 +7,7 @@ namespace fendrel {
 class FakeSettings final : public SettingsStore {
 public:
     std::optional<StoredValue> value(const QString& key) const override {
-        const auto found = values.constFind(key);
-        return found == values.constEnd() ? std::nullopt : std::optional(*found);
+        return values.contains(key) ? std::optional(values.value(key)) : std::nullopt;
     }
     void set(const QString& key, StoredValue value, Urgency) override {
         ++writes;

@@ -4,7 +4,6 @@
 
 #include <QList>
 
-#include <deque>
 #include <utility>
 
 namespace fendrel {
@@ -15,25 +14,13 @@ public:
     void reveal(const QStringList& paths) override { revealed.append(paths); }
     void composeMail(const Mail& mail, std::function<void(bool isTaken)> done) override {
         mails.append(mail);
-        m_waiting.push_back(std::move(done));
-    }
-
-    /// The mail program takes the oldest mail that waits, or refuses it. Returns false when none waits.
-    bool answerMail(bool isTaken) {
-        if (m_waiting.empty())
-            return false;
-        const auto done = std::move(m_waiting.front());
-        m_waiting.pop_front();
-        done(isTaken);
-        return true;
+        answerMail = std::move(done);
     }
 
     QList<QUrl> addresses;
     QList<QStringList> revealed;
     QList<Mail> mails;
-
-private:
-    std::deque<std::function<void(bool)>> m_waiting;
+    std::function<void(bool isTaken)> answerMail; ///< as the mail program does for the last mail
 };
 
 } // namespace fendrel

@@ -21,7 +21,7 @@ struct X11Property {
 
     QList<quint32> numbers() const {
         QList<quint32> numbers;
-        if (format == 32) {
+        if (format == 32 && !data.isEmpty()) {
             numbers.resize(data.size() / qsizetype{sizeof(quint32)});
             std::memcpy(numbers.data(), data.constData(), static_cast<std::size_t>(numbers.size()) * sizeof(quint32));
         }

@@ -3,8 +3,6 @@
 #include "Platform/Linux/X11Accessibility.h"
 #include "Platform/Linux/X11Applications.h"
 #include "Platform/Linux/X11Displays.h"
-#include "Platform/Linux/X11IdleTime.h"
-#include "Platform/Linux/X11Panels.h"
 #include "Platform/Shared/SystemClock.h"
 
 #include <QProcess>
@@ -57,8 +55,6 @@ struct DesktopWorld {
     X11Applications applications{groups, settings, clock};
     X11Accessibility accessibility{groups, clock};
     X11Displays displays{monitors, windows};
-    X11Panels panels{windows, monitors, connection};
-    X11IdleTime idleTime{connection};
 
     QList<qint64> fronts; ///< what came to the front, one after the other; 0 for nothing
     int runningChanges = 0;

@@ -1,5 +1,5 @@
 #include "DesktopWorld.h"
-
+#include "Files.h"
 #include "Platform/MakePlatform.h"
 
 #include <QGuiApplication>
@@ -14,427 +14,297 @@ using namespace Qt::StringLiterals;
 class tst_X11Desktop : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() {
+        QVERIFY2(!missingRequirement(), "this test wants an X server with a window manager");
+        putFile(m_entries.filePath(u"org.example.Program.desktop"_s),
+                "[Desktop Entry]\nType=Application\nName=Example\nStartupWMClass=example\nExec=" WINDOW_PROGRAM
+                " launched waits\n");
+        QCOMPARE(qunsetenv("DESKTOP_STARTUP_ID"), true);
+    }
 
-    void applicationsComeNamedAndGo();
-    void frontFollowsActivation();
-    void theMomentBetweenTwoWindowsIsNotReported();
-    void titlesAreToldToObservers();
-    void hiddenApplicationsComeBackWithoutTheKeyboard();
-    void quitClosesAndForceQuitKills();
-    void hungApplicationHoldsNothingUp();
-    void windowManagerMayRestart_data();
-    void windowManagerMayRestart();
-    void windowsMayVanishAtAnyMoment();
-    void oneProcessMayShowSeveralApplications();
-    void dialogsOfHelpersBelongToTheirApplication();
-    void panelsOfOthersShrinkTheWorkArea();
-    void displaysComeAndGo();
-    void dockKeepsItsPlaceAndNeverTakesTheKeyboard();
-    void gateCoversFullScreenWindows();
-    void launchedApplicationsOutliveUs();
-    void iconsOfWindowsAreTheLastResort();
+    void init() {
+        m_world = std::make_unique<DesktopWorld>(QStringList{m_entries.path()});
+        QTRY_COMPARE(m_world->applications.running().size(), 0); // of the test before
+    }
+
+    void cleanup() { m_world.reset(); }
+
+    void applicationsComeNamedAndGo() {
+        qint64 pid = 0;
+        {
+            WindowProgram program(u"hello"_s);
+            pid = program.pid();
+            QTRY_VERIFY(m_world->running(pid));
+            QCOMPARE(m_world->running(pid)->bundleID, u"org.example.Program"_s); // by its program
+            QCOMPARE(m_world->running(pid)->name, u"Example"_s);
+            QVERIFY(m_world->running(pid)->isRegular);
+            QCOMPARE(m_world->titles(pid), QStringList{u"hello"_s});
+
+            QVERIFY(program.tell(u"class slack Slack"_s));
+            QTRY_COMPARE(m_world->running(pid)->bundleID, u"com.tinyspeck.slackmacgap"_s);
+
+            WindowProgram later(u"later"_s);
+            QTRY_VERIFY(m_world->running(later.pid()));
+            QVERIFY(m_world->running(pid)->launchOrder <= m_world->running(later.pid())->launchOrder);
+
+            QVERIFY(program.tell(u"type DOCK"_s));
+            QTRY_VERIFY(m_world->running(pid) && !m_world->running(pid)->isRegular);
+        }
+        QTRY_VERIFY(!m_world->running(pid));
+    }
+
+    void theMomentBetweenTwoWindowsIsNotReported() {
+        WindowProgram other(u"other"_s);
+        {
+            WindowProgram front(u"front"_s);
+            QTRY_COMPARE(m_world->front(), front.pid());
+        }
+        QTRY_COMPARE(m_world->front(), other.pid());
+        QVERIFY(!m_world->fronts.contains(0));
+        QVERIFY(other.tell(u"close"_s));
+        QTRY_COMPARE(m_world->fronts.last(), 0); // now there is nothing
+    }
+
+    void titlesAreToldToObservers() {
+        WindowProgram program(u"one"_s);
+        QTRY_COMPARE(m_world->front(), program.pid());
+        QStringList heard;
+        int windowChanges = 0;
+        const auto& accessibility = m_world->accessibility;
+        const auto handle = m_world->accessibility.observe(
+            program.pid(), {.onWindowChanged = [&] { ++windowChanges; },
+                            .onTitleChanged = [&](WindowID window) { heard += accessibility.title(window).value(); }});
+        QVERIFY(program.tell(u"title Grüße – 世界"_s));
+        QTRY_COMPARE(heard, QStringList{u"Grüße – 世界"_s});
+        QVERIFY(program.tell(u"title Grüße – 世界"_s)); // the same again is no news
+        QVERIFY(program.tell(u"icon 8 0"_s));           // nor is anything but the title
+        QVERIFY(program.tell(u"title last"_s));
+        QTRY_COMPARE(heard, (QStringList{u"Grüße – 世界"_s, u"last"_s}));
+
+        QCOMPARE(windowChanges, 0);
+        const auto before = accessibility.focusedWindow(program.pid());
+        QVERIFY(program.tell(u"window"_s));
+        QTRY_VERIFY(accessibility.focusedWindow(program.pid()) != before);
+        QVERIFY(windowChanges > 0);
+        m_world->accessibility.raise(*before);
+        QTRY_COMPARE(accessibility.focusedWindow(program.pid()), before);
+        QCOMPARE(accessibility.windows(program.pid()).first().id, *before);
+    }
+
+    void hiddenApplicationsComeBackWithoutTheKeyboard() {
+        WindowProgram hidden(u"hidden"_s);
+        QTRY_COMPARE(m_world->front(), hidden.pid());
+        WindowProgram front(u"front"_s);
+        QTRY_COMPARE(m_world->front(), front.pid());
+        m_world->applications.hide(hidden.pid());
+        QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
+        QVERIFY(m_world->running(hidden.pid())); // it still runs
+
+        m_world->applications.unhide(hidden.pid());
+        QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
+        QTRY_COMPARE(m_world->front(), front.pid());
+
+        const auto window = m_world->accessibility.windows(hidden.pid()).first().id;
+        m_world->accessibility.minimize(window);
+        QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
+        m_world->applications.unhide(hidden.pid()); // the user minimised it, so it is not ours to bring back
+        m_world->accessibility.restore(window);
+        QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
+        QTRY_COMPARE(m_world->front(), front.pid());
+    }
+
+    void hungApplicationHoldsNothingUp() {
+        WindowProgram hung(u"hung"_s);
+        WindowProgram other(u"other"_s);
+        QTRY_COMPARE(m_world->front(), other.pid());
+        hung.signal(SIGSTOP);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        const auto windows = m_world->accessibility.windows(hung.pid());
+        QCOMPARE(windows.size(), 1);
+        QVERIFY(m_world->accessibility.frame(windows.first().id));
+        m_world->applications.activate(hung.pid());
+        m_world->accessibility.close(windows.first().id);
+        m_world->applications.hide(hung.pid());
+        QVERIFY2(elapsed.elapsed() < 250, "a hung application held us up");
+        m_world->applications.activate(other.pid());
+        QTRY_COMPARE(m_world->front(), other.pid());
+        m_world->applications.quit(other.pid());
+        m_world->applications.forceQuit(hung.pid());
+        QTRY_COMPARE(m_world->applications.running().size(), 0);
+    }
+
+    void windowManagerMayRestart() {
+        WindowProgram first(u"first"_s);
+        QTRY_COMPARE(m_world->front(), first.pid());
+        WindowProgram second(u"second"_s);
+        QTRY_COMPARE(m_world->front(), second.pid());
+        const qint64 manager = managerProcess();
+        QVERIFY(manager > 0);
+        const QStringList command = ProcessFacts::read(manager).arguments;
+        m_world->runningChanges = 0;
+
+        QVERIFY(::kill(static_cast<pid_t>(manager), SIGKILL) == 0);
+        QTRY_VERIFY(!m_world->windows->hasManager());
+        QVERIFY(second.tell(u"title alone"_s)); // properties need no window manager
+        QTRY_COMPARE(m_world->titles(second.pid()), QStringList{u"alone"_s});
+        QVERIFY(QProcess::startDetached(command.first(), {command.begin() + 1, command.end() - 1}));
+        QTRY_VERIFY(m_world->windows->hasManager());
+
+        m_world->applications.activate(first.pid());
+        QTRY_COMPARE(m_world->front(), first.pid());
+        m_world->applications.activate(second.pid());
+        QTRY_COMPARE(m_world->front(), second.pid());
+        QCOMPARE(m_world->runningChanges, 0);
+        QVERIFY(!m_world->fronts.contains(0));
+        WindowProgram third(u"third"_s);
+        QTRY_COMPARE(m_world->front(), third.pid());
+    }
+
+    void windowsMayVanishAtAnyMoment() {
+        WindowProgram steady(u"steady"_s);
+        WindowProgram restless(u"restless"_s);
+        QTRY_VERIFY(m_world->running(steady.pid()) && m_world->running(restless.pid()));
+        int seen = 0;
+        connect(m_world->windows.get(), &X11Windows::listChanged, m_world->windows.get(), [&] {
+            for (const X11Window& window : m_world->windows->all()) {
+                const WindowID id{window.id};
+                m_world->accessibility.frame(id);
+                if (window.title != "flicker"_L1)
+                    continue;
+                ++seen;
+                m_world->accessibility.raise(id);
+                m_world->accessibility.minimize(id);
+                m_world->accessibility.close(id);
+                m_world->accessibility.restore(id);
+            }
+        });
+        restless.send(u"flicker 100"_s);
+        QTRY_VERIFY(seen > 0);
+        m_world->applications.activate(steady.pid());
+        QTRY_COMPARE(m_world->front(), steady.pid());
+        QTRY_COMPARE(m_world->windows->all().size(), 2);
+    }
+
+    void oneProcessMayShowSeveralApplications() {
+        WindowProgram office(u"text"_s);
+        QTRY_VERIFY(m_world->running(office.pid()));
+        QVERIFY(office.tell(u"window"_s));
+        QVERIFY(office.tell(u"class calc Calc"_s));
+        QTRY_COMPARE(m_world->applications.running().size(),
+                     1); // without an entry of its own it is the same program
+
+        const QString entry = m_entries.filePath(u"calc.desktop"_s);
+        putFile(entry, "[Desktop Entry]\nType=Application\nName=Calc\nStartupWMClass=calc\nExec=calc\n");
+        QTRY_COMPARE(m_world->applications.running().size(), 2);
+        QTRY_COMPARE(m_world->applications.frontmost()->bundleID, u"calc"_s);
+        const qint64 calc = m_world->front();
+        QVERIFY(calc < 0);
+        m_world->applications.activate(office.pid());
+        QTRY_COMPARE(m_world->front(), office.pid());
+        m_world->applications.hide(calc);
+        QTRY_VERIFY(m_world->isMinimized(calc));
+        QVERIFY(!m_world->isMinimized(office.pid()));
+        QVERIFY(QFile::remove(entry));
+        QTRY_COMPARE(m_world->applications.running().size(), 1);
+    }
+
+    void dialogsOfHelpersBelongToTheirApplication() {
+        WindowProgram application(u"application"_s);
+        QTRY_COMPARE(m_world->front(), application.pid());
+        const auto leader = m_world->accessibility.mainWindow(application.pid());
+        WindowProgram helper(u"helper"_s);
+        QTRY_COMPARE(m_world->front(), helper.pid());
+        QVERIFY(helper.tell(u"dialogof %1"_s.arg(leader->value)));
+        QTRY_COMPARE(m_world->accessibility.windows(application.pid()).size(), 2);
+        QTRY_COMPARE(m_world->front(), application.pid());
+        QVERIFY(!m_world->running(helper.pid()));
+    }
+
+    void panelsOfOthersShrinkTheWorkArea() {
+        const auto area = [&] { return m_world->displays.all().first().workArea; };
+        const QRect whole = m_world->displays.all().first().frame;
+        QCOMPARE(area(), whole);
+        int changes = 0;
+        m_world->displays.onChanged = [&] { ++changes; };
+        {
+            WindowProgram panel(u"panel"_s);
+            QVERIFY(panel.tell(u"type DOCK"_s));
+            QVERIFY(panel.tell(u"strut 0 0 40 0"_s));
+            QTRY_COMPARE(area(), whole.adjusted(0, 40, 0, 0));
+            QVERIFY(panel.tell(u"strut 60 0 0 0"_s));
+            QTRY_COMPARE(area(), whole.adjusted(60, 0, 0, 0));
+        }
+        QTRY_COMPARE(area(), whole);
+        QCOMPARE(changes, 3);
+    }
+
+    void displaysComeAndGo() {
+        const auto xrandr = [](const QStringList& arguments) { return QProcess::execute(u"xrandr"_s, arguments) == 0; };
+        const auto frames = [&] {
+            QList<QRect> all;
+            for (const auto& display : m_world->displays.all())
+                all.append(display.frame);
+            return all;
+        };
+        const auto before = frames();
+        QVERIFY(xrandr({u"--setmonitor"_s, u"Left"_s, u"640/254x720/286+0+0"_s, u"screen"_s}));
+        QTRY_COMPARE(frames(), QList<QRect>{QRect(0, 0, 640, 720)});
+        QVERIFY(xrandr({u"--setmonitor"_s, u"Right"_s, u"320/127x720/286+640+0"_s, u"none"_s}));
+        QTRY_COMPARE(frames(), (QList<QRect>{{0, 0, 640, 720}, {640, 0, 320, 720}}));
+        QCOMPARE(m_world->displays.all().last().id, u"Right"_s);
+        QVERIFY(m_world->displays.all().first().isMain && !m_world->displays.all().last().isMain);
+        QVERIFY(xrandr({u"--delmonitor"_s, u"Right"_s}) && xrandr({u"--delmonitor"_s, u"Left"_s}));
+        QTRY_COMPARE(frames(), before);
+    }
+
+    void launchedApplicationsOutliveUs() {
+        m_world->applications.open(u"org.example.Program"_s, true);
+        QTRY_COMPARE(m_world->applications.running().size(), 1);
+        const RunningApp launched = m_world->applications.running().first();
+        QCOMPARE(launched.bundleID, u"org.example.Program"_s);
+        QTRY_COMPARE(m_world->front(), launched.pid);
+        const auto pid = static_cast<pid_t>(launched.pid);
+        QVERIFY(::getsid(pid) != ::getsid(0)); // what ends our session passes it by
+        const QByteArray status = contentOf(u"/proc/%1/status"_s.arg(pid));
+        QVERIFY(status.contains("PPid:") &&
+                !status.contains("PPid:\t" + QByteArray::number(QCoreApplication::applicationPid())));
+        QCOMPARE(ProcessFacts::read(pid).launchedEntry, m_entries.filePath(u"org.example.Program.desktop"_s));
+
+        WindowProgram other(u"other"_s);
+        QVERIFY(other.tell(u"class slack Slack"_s));
+        QTRY_COMPARE(m_world->front(), other.pid());
+        m_world->applications.open(u"org.example.Program"_s, false); // it runs: nothing to do
+        m_world->applications.open(u"org.example.Program"_s, true);
+        QTRY_COMPARE(m_world->front(), launched.pid);
+        QCOMPARE(m_world->running(launched.pid)->pid, launched.pid);
+        QCOMPARE(m_world->applications.running().size(), 2); // and no third one
+        m_world->applications.quit(launched.pid);
+        QTRY_VERIFY(!m_world->running(launched.pid));
+    }
+
+    void iconsOfWindowsAreTheLastResort() {
+        WindowProgram program(u"program"_s);
+        QVERIFY(program.tell(u"icon 32 4278255360"_s)); // opaque green
+        QTRY_VERIFY(m_world->running(program.pid()));
+        const auto icon = [&] { return m_world->applications.icon(m_world->running(program.pid())->bundleID); };
+        QTRY_COMPARE(icon().image.size(), QSize(32, 32));
+        QCOMPARE(icon().image.pixelColor(3, 3), QColor(Qt::green));
+        QVERIFY(program.tell(u"icon 64 4278190335"_s)); // blue
+        QTRY_COMPARE(icon().image.pixelColor(3, 3), QColor(Qt::blue));
+    }
 
 private:
-    qint64 managerProcess() const;
+    qint64 managerProcess() const {
+        const auto& atoms = m_world->connection->atoms();
+        const auto root = m_world->connection->root();
+        const auto check = m_world->connection->property(root, atoms.netSupportingWmCheck).number();
+        return check ? X11WindowReader(*m_world->connection).read(*check).pid.value_or(0) : 0;
+    }
 
     QTemporaryDir m_entries;
     std::unique_ptr<DesktopWorld> m_world;
 };
-
-void tst_X11Desktop::initTestCase() {
-    QVERIFY2(!missingRequirement(), "this test wants an X server with a window manager");
-    QFile entry(m_entries.filePath(u"org.example.Program.desktop"_s));
-    QVERIFY(entry.open(QIODevice::WriteOnly));
-    entry.write("[Desktop Entry]\nType=Application\nName=Example\nStartupWMClass=example\nExec=" WINDOW_PROGRAM
-                " launched waits\n");
-    QCOMPARE(qunsetenv("DESKTOP_STARTUP_ID"), true);
-}
-
-void tst_X11Desktop::init() {
-    m_world = std::make_unique<DesktopWorld>(QStringList{m_entries.path()});
-    QTRY_COMPARE(m_world->applications.running().size(), 0); // of the test before
-}
-
-void tst_X11Desktop::cleanup() {
-    m_world.reset();
-}
-
-void tst_X11Desktop::applicationsComeNamedAndGo() {
-    qint64 pid = 0;
-    {
-        WindowProgram program(u"hello"_s);
-        pid = program.pid();
-        QTRY_VERIFY(m_world->running(pid));
-        QCOMPARE(m_world->running(pid)->bundleID, u"org.example.Program"_s); // by its program
-        QCOMPARE(m_world->running(pid)->name, u"Example"_s);
-        QVERIFY(m_world->running(pid)->isRegular);
-        QCOMPARE(m_world->titles(pid), QStringList{u"hello"_s});
-
-        QVERIFY(program.tell(u"class slack Slack"_s));
-        QTRY_COMPARE(m_world->running(pid)->bundleID, u"com.tinyspeck.slackmacgap"_s);
-
-        WindowProgram later(u"later"_s);
-        QTRY_VERIFY(m_world->running(later.pid()));
-        QVERIFY(m_world->running(pid)->launchOrder <= m_world->running(later.pid())->launchOrder);
-
-        QVERIFY(program.tell(u"type DOCK"_s));
-        QTRY_VERIFY(m_world->running(pid) && !m_world->running(pid)->isRegular);
-    }
-    QTRY_VERIFY(!m_world->running(pid));
-}
-
-void tst_X11Desktop::frontFollowsActivation() {
-    WindowProgram first(u"first"_s);
-    QTRY_COMPARE(m_world->front(), first.pid());
-    WindowProgram second(u"second"_s);
-    QTRY_COMPARE(m_world->front(), second.pid());
-    m_world->applications.activate(first.pid());
-    QTRY_COMPARE(m_world->front(), first.pid());
-    QCOMPARE(m_world->fronts, (QList<qint64>{first.pid(), second.pid(), first.pid()}));
-
-    m_world->applications.hide(first.pid());
-    QTRY_VERIFY(m_world->isMinimized(first.pid()));
-    m_world->applications.activate(first.pid());
-    QTRY_COMPARE(m_world->front(), first.pid());
-    QTRY_VERIFY(!m_world->isMinimized(first.pid()));
-
-    QWindow own;
-    own.resize(200, 100);
-    own.show();
-    QTRY_COMPARE(m_world->front(), QCoreApplication::applicationPid());
-}
-
-void tst_X11Desktop::theMomentBetweenTwoWindowsIsNotReported() {
-    WindowProgram other(u"other"_s);
-    {
-        WindowProgram front(u"front"_s);
-        QTRY_COMPARE(m_world->front(), front.pid());
-    }
-    QTRY_COMPARE(m_world->front(), other.pid());
-    QVERIFY(!m_world->fronts.contains(0));
-    QVERIFY(other.tell(u"close"_s));
-    QTRY_COMPARE(m_world->fronts.last(), 0); // now there is nothing
-}
-
-void tst_X11Desktop::titlesAreToldToObservers() {
-    WindowProgram program(u"one"_s);
-    QTRY_COMPARE(m_world->front(), program.pid());
-    QStringList heard;
-    int windowChanges = 0;
-    const auto& accessibility = m_world->accessibility;
-    const auto handle = m_world->accessibility.observe(
-        program.pid(), {.onWindowChanged = [&] { ++windowChanges; },
-                        .onTitleChanged = [&](WindowID window) { heard += accessibility.title(window).value(); }});
-    QVERIFY(program.tell(u"title Grüße – 世界"_s));
-    QTRY_COMPARE(heard, QStringList{u"Grüße – 世界"_s});
-    QVERIFY(program.tell(u"title Grüße – 世界"_s)); // the same again is no news
-    QVERIFY(program.tell(u"icon 8 0"_s));           // nor is anything but the title
-    QVERIFY(program.tell(u"title last"_s));
-    QTRY_COMPARE(heard, (QStringList{u"Grüße – 世界"_s, u"last"_s}));
-
-    QCOMPARE(windowChanges, 0);
-    const auto before = accessibility.focusedWindow(program.pid());
-    QVERIFY(program.tell(u"window"_s));
-    QTRY_VERIFY(accessibility.focusedWindow(program.pid()) != before);
-    QVERIFY(windowChanges > 0);
-    m_world->accessibility.raise(*before);
-    QTRY_COMPARE(accessibility.focusedWindow(program.pid()), before);
-    QCOMPARE(accessibility.windows(program.pid()).first().id, *before);
-}
-
-void tst_X11Desktop::hiddenApplicationsComeBackWithoutTheKeyboard() {
-    WindowProgram hidden(u"hidden"_s);
-    QTRY_COMPARE(m_world->front(), hidden.pid());
-    WindowProgram front(u"front"_s);
-    QTRY_COMPARE(m_world->front(), front.pid());
-    m_world->applications.hide(hidden.pid());
-    QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
-    QVERIFY(m_world->running(hidden.pid())); // it still runs
-
-    m_world->applications.unhide(hidden.pid());
-    QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
-    QTRY_COMPARE(m_world->front(), front.pid());
-
-    const auto window = m_world->accessibility.windows(hidden.pid()).first().id;
-    m_world->accessibility.minimize(window);
-    QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
-    m_world->applications.unhide(hidden.pid()); // the user minimised it, so it is not ours to bring back
-    m_world->accessibility.restore(window);
-    QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
-    QTRY_COMPARE(m_world->front(), front.pid());
-}
-
-void tst_X11Desktop::quitClosesAndForceQuitKills() {
-    WindowProgram polite(u"polite"_s);
-    WindowProgram hung(u"hung"_s);
-    QTRY_VERIFY(m_world->running(polite.pid()) && m_world->running(hung.pid()));
-    hung.signal(SIGSTOP);
-    m_world->applications.quit(polite.pid());
-    m_world->applications.forceQuit(hung.pid());
-    QTRY_COMPARE(m_world->applications.running().size(), 0);
-}
-
-void tst_X11Desktop::hungApplicationHoldsNothingUp() {
-    WindowProgram hung(u"hung"_s);
-    WindowProgram other(u"other"_s);
-    QTRY_COMPARE(m_world->front(), other.pid());
-    hung.signal(SIGSTOP);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    const auto windows = m_world->accessibility.windows(hung.pid());
-    QCOMPARE(windows.size(), 1);
-    QVERIFY(m_world->accessibility.frame(windows.first().id));
-    m_world->applications.activate(hung.pid());
-    m_world->accessibility.close(windows.first().id);
-    m_world->applications.hide(hung.pid());
-    QVERIFY2(elapsed.elapsed() < 250, "a hung application held us up");
-    m_world->applications.activate(other.pid());
-    QTRY_COMPARE(m_world->front(), other.pid());
-    QVERIFY(m_world->running(hung.pid()));
-}
-
-qint64 tst_X11Desktop::managerProcess() const {
-    const auto& atoms = m_world->connection->atoms();
-    const auto root = m_world->connection->root();
-    const auto check = m_world->connection->property(root, atoms.netSupportingWmCheck).number();
-    return check ? X11WindowReader(*m_world->connection).read(*check).pid.value_or(0) : 0;
-}
-
-void tst_X11Desktop::windowManagerMayRestart_data() {
-    QTest::addColumn<int>("signal");
-    QTest::newRow("it ends in good order") << SIGTERM;
-    QTest::newRow("it crashes") << SIGKILL;
-}
-
-void tst_X11Desktop::windowManagerMayRestart() {
-    QFETCH(int, signal);
-    WindowProgram first(u"first"_s);
-    QTRY_COMPARE(m_world->front(), first.pid());
-    WindowProgram second(u"second"_s);
-    QTRY_COMPARE(m_world->front(), second.pid());
-    const qint64 manager = managerProcess();
-    QVERIFY(manager > 0);
-    const QStringList command = ProcessFacts::read(manager).arguments;
-    m_world->runningChanges = 0;
-
-    QVERIFY(::kill(static_cast<pid_t>(manager), signal) == 0);
-    QTRY_VERIFY(!m_world->windows->hasManager());
-    QVERIFY(second.tell(u"title alone"_s)); // properties need no window manager
-    QTRY_COMPARE(m_world->titles(second.pid()), QStringList{u"alone"_s});
-    QVERIFY(QProcess::startDetached(command.first(), {command.begin() + 1, command.end() - 1}));
-    QTRY_VERIFY(m_world->windows->hasManager());
-
-    m_world->applications.activate(first.pid());
-    QTRY_COMPARE(m_world->front(), first.pid());
-    m_world->applications.activate(second.pid());
-    QTRY_COMPARE(m_world->front(), second.pid());
-    QCOMPARE(m_world->runningChanges, 0);
-    QVERIFY(!m_world->fronts.contains(0));
-    WindowProgram third(u"third"_s);
-    QTRY_COMPARE(m_world->front(), third.pid());
-}
-
-void tst_X11Desktop::windowsMayVanishAtAnyMoment() {
-    WindowProgram steady(u"steady"_s);
-    WindowProgram restless(u"restless"_s);
-    QTRY_VERIFY(m_world->running(steady.pid()) && m_world->running(restless.pid()));
-    int seen = 0;
-    connect(m_world->windows.get(), &X11Windows::listChanged, m_world->windows.get(), [&] {
-        for (const X11Window& window : m_world->windows->all()) {
-            const WindowID id{window.id};
-            m_world->accessibility.frame(id);
-            if (window.title != "flicker"_L1)
-                continue;
-            ++seen;
-            m_world->accessibility.raise(id);
-            m_world->accessibility.minimize(id);
-            m_world->accessibility.close(id);
-            m_world->accessibility.restore(id);
-        }
-    });
-    restless.send(u"flicker 100"_s);
-    QTRY_VERIFY(seen > 0);
-    m_world->applications.activate(steady.pid());
-    QTRY_COMPARE(m_world->front(), steady.pid());
-    QTRY_COMPARE(m_world->windows->all().size(), 2);
-}
-
-void tst_X11Desktop::oneProcessMayShowSeveralApplications() {
-    WindowProgram office(u"text"_s);
-    QTRY_VERIFY(m_world->running(office.pid()));
-    QVERIFY(office.tell(u"window"_s));
-    QVERIFY(office.tell(u"class calc Calc"_s));
-    QTRY_COMPARE(m_world->applications.running().size(), 1); // without an entry of its own it is the same program
-
-    QFile entry(m_entries.filePath(u"calc.desktop"_s));
-    QVERIFY(entry.open(QIODevice::WriteOnly));
-    entry.write("[Desktop Entry]\nType=Application\nName=Calc\nStartupWMClass=calc\nExec=calc\n");
-    entry.close();
-    QTRY_COMPARE(m_world->applications.running().size(), 2);
-    QTRY_COMPARE(m_world->applications.frontmost()->bundleID, u"calc"_s);
-    const qint64 calc = m_world->front();
-    QVERIFY(calc < 0);
-    m_world->applications.activate(office.pid());
-    QTRY_COMPARE(m_world->front(), office.pid());
-    m_world->applications.hide(calc);
-    QTRY_VERIFY(m_world->isMinimized(calc));
-    QVERIFY(!m_world->isMinimized(office.pid()));
-    QVERIFY(QFile::remove(entry.fileName()));
-    QTRY_COMPARE(m_world->applications.running().size(), 1);
-}
-
-void tst_X11Desktop::dialogsOfHelpersBelongToTheirApplication() {
-    WindowProgram application(u"application"_s);
-    QTRY_COMPARE(m_world->front(), application.pid());
-    const auto leader = m_world->accessibility.mainWindow(application.pid());
-    WindowProgram helper(u"helper"_s);
-    QTRY_COMPARE(m_world->front(), helper.pid());
-    QVERIFY(helper.tell(u"dialogof %1"_s.arg(leader->value)));
-    QTRY_COMPARE(m_world->accessibility.windows(application.pid()).size(), 2);
-    QTRY_COMPARE(m_world->front(), application.pid());
-    QVERIFY(!m_world->running(helper.pid()));
-}
-
-void tst_X11Desktop::panelsOfOthersShrinkTheWorkArea() {
-    const auto area = [&] { return m_world->displays.all().first().workArea; };
-    const QRect whole = m_world->displays.all().first().frame;
-    QCOMPARE(area(), whole);
-    int changes = 0;
-    m_world->displays.onChanged = [&] { ++changes; };
-    {
-        WindowProgram panel(u"panel"_s);
-        QVERIFY(panel.tell(u"type DOCK"_s));
-        QVERIFY(panel.tell(u"strut 0 0 40 0"_s));
-        QTRY_COMPARE(area(), whole.adjusted(0, 40, 0, 0));
-        QVERIFY(panel.tell(u"strut 60 0 0 0"_s));
-        QTRY_COMPARE(area(), whole.adjusted(60, 0, 0, 0));
-    }
-    QTRY_COMPARE(area(), whole);
-    QCOMPARE(changes, 3);
-}
-
-void tst_X11Desktop::displaysComeAndGo() {
-    const auto xrandr = [](const QStringList& arguments) { return QProcess::execute(u"xrandr"_s, arguments) == 0; };
-    const auto frames = [&] {
-        QList<QRect> all;
-        for (const auto& display : m_world->displays.all())
-            all.append(display.frame);
-        return all;
-    };
-    const auto before = frames();
-    QVERIFY(xrandr({u"--setmonitor"_s, u"Left"_s, u"640/254x720/286+0+0"_s, u"screen"_s}));
-    QTRY_COMPARE(frames(), QList<QRect>{QRect(0, 0, 640, 720)});
-    QVERIFY(xrandr({u"--setmonitor"_s, u"Right"_s, u"320/127x720/286+640+0"_s, u"none"_s}));
-    QTRY_COMPARE(frames(), (QList<QRect>{{0, 0, 640, 720}, {640, 0, 320, 720}}));
-    QCOMPARE(m_world->displays.all().last().id, u"Right"_s);
-    QVERIFY(m_world->displays.all().first().isMain && !m_world->displays.all().last().isMain);
-    QVERIFY(xrandr({u"--delmonitor"_s, u"Right"_s}) && xrandr({u"--delmonitor"_s, u"Left"_s}));
-    QTRY_COMPARE(frames(), before);
-}
-
-void tst_X11Desktop::dockKeepsItsPlaceAndNeverTakesTheKeyboard() {
-    WindowProgram program(u"program"_s);
-    QTRY_COMPARE(m_world->front(), program.pid());
-    const QRect display = m_world->displays.all().first().frame;
-    const QRect strip(display.left(), display.bottom() - 59, display.width(), 60);
-    QWindow dock;
-    dock.setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
-    dock.setGeometry(strip);
-    dock.create();
-    const auto id = static_cast<xcb_window_t>(dock.winId());
-    m_world->panels.prepare(dock.winId(), Panels::Kind::dock);
-    m_world->panels.reserve(dock.winId(), Qt::BottomEdge, display, strip);
-    const auto known = [&] { return m_world->windows->find(id); };
-
-    for (int showing = 0; showing < 2; ++showing) { // window managers forget what they know of a window that hides
-        dock.show();
-        QTRY_VERIFY(known() != nullptr && known()->role == X11Window::Role::dock);
-        QTRY_VERIFY(known()->isSkippingTaskbar);
-        QTRY_VERIFY(!known()->desktop); // on all of them
-        QTRY_COMPARE(m_world->windows->frame(id), strip);
-        QVERIFY(known()->strut && known()->strut->bottom.depth == 60);
-        QCOMPARE(m_world->displays.all().first().workArea, display); // our own dock is not in its own way
-        m_world->accessibility.raise({id});
-        WindowProgram next(u"next"_s);
-        QTRY_COMPARE(m_world->front(), next.pid());
-        dock.hide();
-        QTRY_VERIFY(known() == nullptr);
-    }
-    QVERIFY(!m_world->fronts.contains(QCoreApplication::applicationPid()));
-}
-
-void tst_X11Desktop::gateCoversFullScreenWindows() {
-    WindowProgram film(u"film"_s);
-    QVERIFY(film.tell(u"fullscreen"_s));
-    const QRect display = m_world->displays.all().first().frame;
-    QTRY_COMPARE(m_world->front(), film.pid());
-    const auto covered = m_world->accessibility.mainWindow(film.pid());
-    QTRY_COMPARE(m_world->accessibility.frame(*covered), display);
-
-    QWindow gate;
-    gate.setFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool);
-    gate.setGeometry(100, 100, 400, 300);
-    gate.create();
-    m_world->panels.prepare(gate.winId(), Panels::Kind::gate);
-    const auto isOnTop = [&] {
-        const auto& atoms = m_world->connection->atoms();
-        const auto stack =
-            m_world->connection->property(m_world->connection->root(), atoms.netClientListStacking).numbers();
-        return stack.indexOf(static_cast<xcb_window_t>(gate.winId())) >
-               stack.indexOf(static_cast<xcb_window_t>(covered->value));
-    };
-    for (int showing = 0; showing < 2; ++showing) {
-        gate.show();
-        m_world->panels.activate(gate.winId());
-        QTRY_COMPARE(m_world->front(), QCoreApplication::applicationPid());
-        QTRY_VERIFY(gate.isActive()); // it has the keyboard
-        QTRY_VERIFY(isOnTop());
-        QTRY_VERIFY(!m_world->windows->find(static_cast<xcb_window_t>(gate.winId()))->desktop);
-        QVERIFY(!m_world->running(QCoreApplication::applicationPid())->isRegular);
-        gate.hide();
-        m_world->applications.activate(film.pid());
-        QTRY_COMPARE(m_world->front(), film.pid());
-    }
-}
-
-void tst_X11Desktop::launchedApplicationsOutliveUs() {
-    m_world->applications.open(u"org.example.Program"_s, true);
-    QTRY_COMPARE(m_world->applications.running().size(), 1);
-    const RunningApp launched = m_world->applications.running().first();
-    QCOMPARE(launched.bundleID, u"org.example.Program"_s);
-    QTRY_COMPARE(m_world->front(), launched.pid);
-    const auto pid = static_cast<pid_t>(launched.pid);
-    QVERIFY(::getsid(pid) != ::getsid(0)); // what ends our session passes it by
-    QFile status(u"/proc/%1/status"_s.arg(pid));
-    QVERIFY(status.open(QIODevice::ReadOnly));
-    QVERIFY(!status.readAll().contains("PPid:\t" + QByteArray::number(QCoreApplication::applicationPid())));
-    QCOMPARE(ProcessFacts::read(pid).launchedEntry, m_entries.filePath(u"org.example.Program.desktop"_s));
-
-    WindowProgram other(u"other"_s);
-    QVERIFY(other.tell(u"class slack Slack"_s));
-    QTRY_COMPARE(m_world->front(), other.pid());
-    m_world->applications.open(u"org.example.Program"_s, false); // it runs: nothing to do
-    m_world->applications.open(u"org.example.Program"_s, true);
-    QTRY_COMPARE(m_world->front(), launched.pid);
-    QCOMPARE(m_world->running(launched.pid)->pid, launched.pid);
-    QCOMPARE(m_world->applications.running().size(), 2); // and no third one
-    m_world->applications.quit(launched.pid);
-    QTRY_VERIFY(!m_world->running(launched.pid));
-}
-
-void tst_X11Desktop::iconsOfWindowsAreTheLastResort() {
-    WindowProgram program(u"program"_s);
-    QVERIFY(program.tell(u"icon 32 4278255360"_s)); // opaque green
-    QTRY_VERIFY(m_world->running(program.pid()));
-    const auto icon = [&] { return m_world->applications.icon(m_world->running(program.pid())->bundleID); };
-    QTRY_COMPARE(icon().image.size(), QSize(32, 32));
-    QCOMPARE(icon().image.pixelColor(3, 3), QColor(Qt::green));
-    QVERIFY(program.tell(u"icon 64 4278190335"_s)); // blue
-    QTRY_COMPARE(icon().image.pixelColor(3, 3), QColor(Qt::blue));
-}
 
 QTEST_MAIN(tst_X11Desktop)
 #include "tst_X11Desktop.moc"

@@ -7,15 +7,15 @@
 //     flicker COUNT          opens and closes so many windows one after the other
 //     close
 
+#include <unistd.h>
+#include <xcb/xcb.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include <unistd.h>
-#include <xcb/xcb.h>
 
 namespace {
 
