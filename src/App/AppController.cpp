@@ -134,15 +134,23 @@ bool AppController::isDockShown(const QString& displayID) const {
 }
 
 void AppController::dockPointerChanged(const QString& displayID, bool isInside) {
-    m_autoHide[displayID].setPointerInside(isInside, m_platform.clock->continuousNow());
-    scheduleDockTimer();
-    Q_EMIT dockVisibilityChanged();
+    changeAutoHide(displayID, [&](AutoHide& dock, ContinuousTime now) { dock.setPointerInside(isInside, now); });
 }
 
 void AppController::dockHoldChanged(const QString& displayID, bool isHeld) {
-    m_autoHide[displayID].setHeld(isHeld, m_platform.clock->continuousNow());
+    changeAutoHide(displayID, [&](AutoHide& dock, ContinuousTime now) { dock.setHeld(isHeld, now); });
+}
+
+void AppController::changeAutoHide(const QString& displayID,
+                                   const std::function<void(AutoHide&, ContinuousTime)>& change) {
+    const auto found = m_autoHide.find(displayID);
+    if (found == m_autoHide.end())
+        return; // the display went a moment ago
+    const bool wasShown = found->second.isShown();
+    change(found->second, m_platform.clock->continuousNow());
     scheduleDockTimer();
-    Q_EMIT dockVisibilityChanged();
+    if (found->second.isShown() != wasShown)
+        Q_EMIT dockVisibilityChanged();
 }
 
 /// The docks are looked after thirty times a second, but only while time alone can change one of them.

@@ -85,6 +85,7 @@ private:
     void start();
     void layoutDocks();
     void scheduleDockTimer();
+    void changeAutoHide(const QString& displayID, const std::function<void(AutoHide&, ContinuousTime)>& change);
     void updateActiveDisplay();
     void modeDidChange(const Mode& mode);
     void focusDidChange(bool isOn);

@@ -34,7 +34,7 @@ std::optional<QString> Workspace::url(const QString& bundleID) const {
     if (const auto known = m_urls.constFind(bundleID); known != m_urls.constEnd())
         return *known;
     // An unknown application is asked about again: it may be installed the next time.
-    const auto location = m_applications.location(bundleID);
+    auto location = m_applications.location(bundleID);
     if (location)
         m_urls.insert(bundleID, *location);
     return location;
@@ -44,7 +44,7 @@ AppIcon Workspace::icon(const QString& bundleID) const {
     const auto known = m_icons.constFind(bundleID);
     if (known != m_icons.constEnd())
         return *known;
-    const AppIcon icon = m_applications.icon(bundleID);
+    AppIcon icon = m_applications.icon(bundleID);
     if (!icon.file.isEmpty() || !icon.image.isNull())
         m_icons.insert(bundleID, icon);
     return icon;

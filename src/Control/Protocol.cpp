@@ -29,7 +29,7 @@ std::optional<Request> decodeRequest(const QByteArray& line) {
     Request request{.command = object[u"command"].toString()};
     if (!command(request.command))
         return {};
-    for (const QJsonValue& argument : object[u"arguments"].toArray())
+    for (const auto& argument : object[u"arguments"].toArray())
         request.arguments.append(argument.toString());
     const QJsonObject options = object[u"options"].toObject();
     for (auto option = options.begin(); option != options.end(); ++option)

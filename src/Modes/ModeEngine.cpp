@@ -27,12 +27,12 @@ bool appendNew(QList<Item>& list, const Item& item) {
 } // namespace
 
 ModeEngine::ModeEngine(ModeStore& store, SettingsStore& settings, Clock& clock, ModeCatalog catalog,
-                       const std::function<bool(const QString&)>& isInstalled)
+                       std::function<bool(const QString&)> isInstalled)
     : m_store(store),
       m_settings(settings),
       m_clock(clock),
       m_catalog(std::move(catalog)),
-      m_isInstalled(isInstalled),
+      m_isInstalled(std::move(isInstalled)),
       m_modes(store.load()) {
     if (m_modes.isEmpty()) {
         for (const Mode& starter : m_catalog.starterTemplates())

@@ -27,7 +27,7 @@ class ModeEngine : public QObject {
 public:
     /// Loads the modes; seeds them from the catalogue's starters, with what is installed, when there are none.
     ModeEngine(ModeStore& store, SettingsStore& settings, Clock& clock, ModeCatalog catalog,
-               const std::function<bool(const QString& bundleID)>& isInstalled);
+               std::function<bool(const QString& bundleID)> isInstalled);
 
     std::function<Seconds(const Mode& target)> entryDelay = [](const Mode&) { return Seconds{}; };
     std::function<void(const Mode& mode)> onCommit = [](const Mode&) {};

@@ -28,7 +28,7 @@ QString encodeList(const QStringList& list) {
 
 QStringList decodeList(const QString& text) {
     QStringList list;
-    for (const QJsonValue& item : QJsonDocument::fromJson(text.toUtf8()).array()) {
+    for (const auto& item : QJsonDocument::fromJson(text.toUtf8()).array()) {
         if (item.isString())
             list.append(item.toString());
     }

@@ -29,7 +29,7 @@ std::tuple<int, int> preference(int size, bool isScalable) {
 
 QString fileIn(const QString& folder, const QString& icon, const QStringList& endings) {
     for (const QString& ending : endings) {
-        if (const QString path = folder + u'/' + icon + ending; QFileInfo(path).isFile())
+        if (QString path = folder + u'/' + icon + ending; QFileInfo(path).isFile())
             return path;
     }
     return {};
@@ -111,7 +111,7 @@ QString IconTheme::find(const QString& icon) const {
     QString small;
     for (const auto& theme : m_themes) {
         for (const Folder& folder : theme) {
-            const QString file = fileIn(folder.path, name, extensions);
+            QString file = fileIn(folder.path, name, extensions);
             if (file.isEmpty())
                 continue;
             // A drawing may stand in a folder of small sizes. It still scales.
@@ -123,7 +123,7 @@ QString IconTheme::find(const QString& icon) const {
         }
     }
     for (const QString& folder : m_loose) {
-        if (const QString file = fileIn(folder, name, extensions); !file.isEmpty())
+        if (QString file = fileIn(folder, name, extensions); !file.isEmpty())
             return file;
     }
     return small;

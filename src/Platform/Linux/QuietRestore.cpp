@@ -1,7 +1,7 @@
 #include "Platform/Linux/QuietRestore.h"
 
+#include <algorithm>
 #include <chrono>
-#include <ranges>
 
 namespace fendrel {
 
@@ -18,8 +18,8 @@ QuietRestore::QuietRestore(X11Windows& windows, Clock& clock)
 
 void QuietRestore::restore(const QList<xcb_window_t>& windows) {
     const auto wanted = minimized(windows);
-    for (const xcb_window_t window : wanted | std::views::reverse)
-        m_requests.clearHidden(window);
+    // The last one that comes back is on top.
+    std::for_each(wanted.crbegin(), wanted.crend(), [this](xcb_window_t window) { m_requests.clearHidden(window); });
     m_restoring += wanted;
     m_insist = m_clock.after(patience, [this] { insist(std::exchange(m_restoring, {})); });
 }
@@ -28,8 +28,7 @@ void QuietRestore::insist(const QList<xcb_window_t>& windows) {
     // Some window managers leave it to applications to show themselves again, and then hand over the keyboard.
     const auto refused = minimized(windows);
     const xcb_window_t active = m_windows.active();
-    for (const xcb_window_t window : refused | std::views::reverse)
-        m_requests.map(window);
+    std::for_each(refused.crbegin(), refused.crend(), [this](xcb_window_t window) { m_requests.map(window); });
     if (!refused.isEmpty() && active != XCB_WINDOW_NONE)
         m_requests.activate(active);
 }

@@ -22,6 +22,7 @@
 namespace fendrel {
 
 struct FreeDeleter {
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): this is the owner
     void operator()(void* memory) const { std::free(memory); }
 };
 

@@ -13,7 +13,7 @@ public:
         const auto found = m_values.constFind(key);
         return found == m_values.constEnd() ? std::nullopt : std::optional(*found);
     }
-    void set(const QString& key, StoredValue value, Urgency) override { m_values.insert(key, std::move(value)); }
+    void set(const QString& key, StoredValue value, Urgency) override { m_values.insert(key, value); }
     void remove(const QString& key) override { m_values.remove(key); }
 
 private:
