@@ -15,7 +15,7 @@ public:
     explicit PopupWindow(QWindow* parent = nullptr);
 
     /// Opens beside a rectangle of the desktop that belongs to another window: towards the middle of the screen from
-    /// the edge that it is at, and always whole on that screen.
+    /// the edge that it is at, and always whole on that screen: it becomes lower where there is not the height for it.
     void openBeside(QWindow* window, const QRectF& anchor, Qt::Edge edge, double gap);
     Q_INVOKABLE void dismiss();
 

@@ -1,6 +1,5 @@
 import QtQuick
 import Fendrel.Style
-import Fendrel.Types
 
 // One application: its icon, a mark at the screen's edge while it runs, a brighter place while it is in front.
 DockItem {
@@ -18,7 +17,10 @@ DockItem {
     required property real hoverScale
     required property color markColor
 
-    property real leading: 0 // room before the icon, with a line in it
+    property int pictureSize: iconSize // that the picture is loaded in
+    property real coming: 1 // 0 to 1, while it appears
+    property real share: 1 // 0 to 1, of it that is in sight
+    opacity: coming * share
 
     property bool isOpening: false
 
@@ -38,7 +40,7 @@ DockItem {
     }
 
     // The side of the icon that is towards the screen's edge stays where it is while it grows.
-    readonly property int origin: edge === DockController.Bottom ? Item.Bottom : edge === DockController.Left ? Item.Left : Item.Right
+    readonly property int origin: edge === Qt.BottomEdge ? Item.Bottom : edge === Qt.LeftEdge ? Item.Left : Item.Right
 
     Separator {
         colors: button.colors
@@ -52,7 +54,7 @@ DockItem {
         anchors.centerIn: picture
         width: button.iconSize + 8
         height: width
-        radius: 13
+        radius: Math.min(13, button.iconSize * 0.3)
         color: button.isFront ? button.colors.pressed : button.colors.hover
         opacity: button.isFront ? 1 : button.isHovered ? 1 : 0
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
@@ -60,11 +62,11 @@ DockItem {
 
     Image {
         id: picture
-        x: button.isVertical ? (button.edge === DockController.Left ? 9 : 7) : button.leading + 3
+        x: button.isVertical ? (button.edge === Qt.LeftEdge ? 9 : 7) : button.leading + 3
         y: button.isVertical ? button.leading + 3 : 7
         width: button.iconSize
         height: button.iconSize
-        sourceSize { width: Math.round(button.iconSize * 1.5); height: Math.round(button.iconSize * 1.5) }
+        sourceSize { width: Math.round(button.pictureSize * 1.5); height: Math.round(button.pictureSize * 1.5) }
         source: button.icon
         asynchronous: true
         smooth: true
@@ -80,8 +82,8 @@ DockItem {
         transform: Translate {
             id: hop
             property real height: 0
-            x: button.edge === DockController.Left ? height : button.edge === DockController.Right ? -height : 0
-            y: button.edge === DockController.Bottom ? -height : 0
+            x: button.edge === Qt.LeftEdge ? height : button.edge === Qt.RightEdge ? -height : 0
+            y: button.edge === Qt.BottomEdge ? -height : 0
         }
     }
 
@@ -102,7 +104,7 @@ DockItem {
         radius: 2
         color: button.isFront ? button.markColor : button.colors.secondaryText
         opacity: button.isRunning ? 1 : 0
-        x: button.isVertical ? (button.edge === DockController.Left ? 1 : button.width - 5) : picture.x + (picture.width - width) / 2
+        x: button.isVertical ? (button.edge === Qt.LeftEdge ? 1 : button.width - 5) : picture.x + (picture.width - width) / 2
         y: button.isVertical ? picture.y + (picture.height - height) / 2 : button.height - 5
         Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
         Behavior on height { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }

@@ -18,8 +18,14 @@ DockItem {
     implicitHeight: 36
     visible: focusState.hasBudget
 
+    isButton: false
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: focusState.budgetText
+    Accessible.name: qsTr("Drift allowance")
+    Accessible.description: focusState.budgetText
+    // Assistive programs read these by their names.
+    readonly property real value: share
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 1
 
     Shape {
         anchors.centerIn: parent

@@ -8,6 +8,7 @@ DockController::DockController(AppController& controller, AppIcons& icons)
     : m_controller(controller), m_modes(controller), m_apps(controller, icons) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockController::modeChanged);
     connect(&controller.preferences(), &Preferences::changed, this, &DockController::lookChanged);
+    connect(&controller.gate(), &Gate::changed, this, &DockController::gateChanged);
 }
 
 QString DockController::modeID() const {
@@ -22,16 +23,16 @@ QColor DockController::tint() const {
     return color(m_controller.engine().current().tint);
 }
 
-DockController::Edge DockController::edge() const {
+Qt::Edge DockController::edge() const {
     switch (m_controller.preferences().dockPosition()) {
     case DockPosition::left:
-        return Edge::Left;
+        return Qt::LeftEdge;
     case DockPosition::right:
-        return Edge::Right;
+        return Qt::RightEdge;
     case DockPosition::bottom:
         break;
     }
-    return Edge::Bottom;
+    return Qt::BottomEdge;
 }
 
 int DockController::iconSize() const {
@@ -55,6 +56,10 @@ double DockController::magnification() const {
 
 const DockAppearance& DockController::look() const {
     return m_controller.preferences().appearance();
+}
+
+bool DockController::isGateOpen() const {
+    return m_controller.gate().blocked().has_value();
 }
 
 void DockController::requestMode(const QString& modeID) {

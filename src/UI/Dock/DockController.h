@@ -23,7 +23,7 @@ class DockController : public QObject {
     Q_PROPERTY(QString modeID READ modeID NOTIFY modeChanged)
     Q_PROPERTY(QString modeName READ modeName NOTIFY modeChanged)
     Q_PROPERTY(QColor tint READ tint NOTIFY modeChanged)
-    Q_PROPERTY(Edge edge READ edge NOTIFY lookChanged)
+    Q_PROPERTY(Qt::Edge edge READ edge NOTIFY lookChanged)
     Q_PROPERTY(int iconSize READ iconSize NOTIFY lookChanged)
     Q_PROPERTY(QColor background READ background NOTIFY lookChanged)
     Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
@@ -33,11 +33,9 @@ class DockController : public QObject {
     Q_PROPERTY(double magnification READ magnification NOTIFY lookChanged)
     Q_PROPERTY(double shadow READ shadow NOTIFY lookChanged)
     Q_PROPERTY(double border READ border NOTIFY lookChanged)
+    Q_PROPERTY(bool isGateOpen READ isGateOpen NOTIFY gateChanged)
 
 public:
-    enum class Edge { Bottom, Left, Right }; ///< in capitals, as views can name no others
-    Q_ENUM(Edge)
-
     DockController(AppController& controller, AppIcons& icons);
 
     ModesModel* modes() { return &m_modes; }
@@ -45,7 +43,7 @@ public:
     QString modeID() const;
     QString modeName() const;
     QColor tint() const;
-    Edge edge() const;
+    Qt::Edge edge() const;
     int iconSize() const; ///< pixels
     QColor background() const { return look().background; }
     bool isDark() const { return look().isDark; }
@@ -55,6 +53,7 @@ public:
     double magnification() const; ///< factor under the pointer; 1 when the user wants none
     double shadow() const { return look().shadow; }
     double border() const { return look().border; }
+    bool isGateOpen() const;
 
     Q_INVOKABLE void requestMode(const QString& modeID);
     Q_INVOKABLE void openApp(const QString& bundleID);
@@ -69,6 +68,7 @@ public:
 Q_SIGNALS:
     void modeChanged();
     void lookChanged();
+    void gateChanged();
 
 private:
     const DockAppearance& look() const;

@@ -2,7 +2,7 @@ import QtQuick
 import Fendrel.Style
 
 // What every item of the dock has in common: it can be pressed with pointer and keyboard, asked for its menu, and says
-// what it is in a label beside the bar.
+// what it is in a label beside the bar. One that only shows something lies in no one's way.
 Item {
     id: item
 
@@ -10,16 +10,19 @@ Item {
     required property DockTip tip
     required property bool isVertical
 
+    readonly property real length: isVertical ? implicitHeight : implicitWidth // along the bar
     property string tipText: ""
     property bool isTipForced: false // shown without the pointer too
+    property bool isButton: true
+    property real leading: 0 // room before it, that does not look like a part of it
     readonly property bool isHovered: hover.hovered
     readonly property bool isPressed: tap.pressed
 
     signal pressed()
     signal menuAsked()
 
-    activeFocusOnTab: true
-    Accessible.focusable: true
+    activeFocusOnTab: isButton
+    Accessible.focusable: isButton
     Accessible.onPressAction: pressed()
 
     readonly property bool wantsTip: isHovered || activeFocus
@@ -34,15 +37,24 @@ Item {
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) pressed() }
     Keys.onMenuPressed: menuAsked()
 
-    FocusRing { target: item; targetRadius: 12; ringColor: item.colors.text }
+    FocusRing {
+        target: item
+        targetRadius: 12
+        gap: 0
+        anchors.leftMargin: item.isVertical ? 0 : item.leading
+        anchors.topMargin: item.isVertical ? item.leading : 0
+        ringColor: item.colors.text
+    }
 
     HoverHandler { id: hover }
     TapHandler {
         id: tap
+        enabled: item.isButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: item.pressed()
     }
     TapHandler {
+        enabled: item.isButton
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: item.menuAsked()

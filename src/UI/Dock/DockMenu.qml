@@ -17,23 +17,26 @@ PopupWindow {
         action = chosen
         column.forceLayout()
         const corner = item.mapToItem(null, 0, 0)
-        width = Math.ceil(content.implicitWidth) + 2 * margin
-        height = Math.ceil(content.implicitHeight) + 2 * margin
+        let widest = 180
+        for (let index = 0; index < rows.count; ++index)
+            widest = Math.max(widest, rows.itemAt(index).implicitWidth)
+        width = Math.ceil(widest) + 2 * (margin + inset)
+        height = Math.ceil(column.implicitHeight) + 2 * (margin + inset)
         view.openMenu(menu, Qt.rect(corner.x, corner.y, item.width, item.height), 8 - margin)
-        column.forceActiveFocus()
+        scroller.contentY = 0
         column.current = -1
+        column.forceActiveFocus()
         appear.restart()
     }
 
     readonly property int margin: isTransparent ? 16 : 0
+    readonly property int inset: 6
     readonly property real cornerRadius: 12
 
     Item {
         id: content
         anchors.fill: parent
         anchors.margins: menu.margin
-        implicitWidth: Math.max(180, column.implicitWidth + 12)
-        implicitHeight: column.implicitHeight + 12
         transformOrigin: Item.Bottom
 
         ParallelAnimation {
@@ -50,109 +53,157 @@ PopupWindow {
             radius: menu.isTransparent ? menu.cornerRadius : 0
             color: menu.colors.card
             border.width: 1
-            border.color: menu.colors.line
+            border.color: Qt.tint(menu.colors.card, menu.colors.line)
         }
 
-        Column {
-            id: column
+        Flickable {
+            id: scroller
             anchors.fill: parent
-            anchors.margins: 6
-            property int current: -1
+            anchors.margins: menu.inset
+            contentHeight: column.implicitHeight
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+            clip: interactive
 
-            Accessible.role: Accessible.PopupMenu
-            Accessible.name: qsTr("Menu")
+            function reveal(index: int) {
+                const item = rows.itemAt(index)
+                const top = index <= 1 ? 0 : item.y // with the header over the first
+                contentY = Math.max(item.y + item.height - height, Math.min(top, contentY))
+            }
 
-            function move(step: int) {
-                const count = menu.entries.length
-                for (let tried = 0, next = current; tried < count; ++tried) {
-                    next = (next + step + count) % count
-                    if (menu.entries[next].value !== undefined) {
-                        current = next
+            // A pointer at rest chooses nothing: neither when the menu opens under it nor when entries scroll past.
+            HoverHandler {
+                property point place: Qt.point(-1, -1)
+                onPointChanged: {
+                    if (point.scenePosition === place)
                         return
-                    }
+                    const moved = place.x >= 0
+                    place = point.scenePosition
+                    if (moved)
+                        column.pointAt(column.mapFromItem(null, place.x, place.y).y)
+                }
+                onHoveredChanged: {
+                    if (hovered)
+                        return
+                    place = Qt.point(-1, -1)
+                    column.current = -1
                 }
             }
-            function run(index: int) {
-                const value = index >= 0 ? menu.entries[index].value : undefined
-                if (value === undefined)
-                    return
-                menu.dismiss()
-                menu.action.call(null, value)
-            }
-            Keys.onDownPressed: move(1)
-            Keys.onUpPressed: current < 0 ? move(-1) : move(-1)
-            Keys.onReturnPressed: run(current)
-            Keys.onEnterPressed: run(current)
-            Keys.onSpacePressed: run(current)
 
-            Repeater {
-                model: menu.entries
+            Column {
+                id: column
+                width: scroller.width
+                property int current: -1
 
-                Item {
-                    id: entry
-                    required property var modelData
-                    required property int index
-                    readonly property bool isEntry: modelData.value !== undefined
-                    readonly property bool isCurrent: column.current === index
-                    readonly property bool hasSymbols: menu.entries.some(other => other.symbol || other.isChecked !== undefined)
+                Accessible.role: Accessible.PopupMenu
+                Accessible.name: menu.entries.find(entry => entry.header)?.header ?? qsTr("Menu")
 
-                    width: Math.max(column.width, implicitWidth)
-                    implicitWidth: label.x + label.implicitWidth + (modelData.isChecked ? 44 : 20)
-                    implicitHeight: modelData.separator ? 9 : modelData.header ? 26 : 32
+                // The next entry from a place in the list, which goes round.
+                function move(from: int, step: int) {
+                    const count = menu.entries.length
+                    for (let tried = 0, next = from; tried < count; ++tried) {
+                        next = (next + step + count) % count
+                        if (menu.entries[next].value !== undefined) {
+                            current = next
+                            scroller.reveal(next)
+                            return
+                        }
+                    }
+                }
+                function pointAt(height: real) {
+                    const index = menu.entries.findIndex((entry, row) => height < rows.itemAt(row).y + rows.itemAt(row).height)
+                    current = index >= 0 && menu.entries[index].value !== undefined ? index : -1
+                }
+                function run(index: int) {
+                    const value = index >= 0 ? menu.entries[index].value : undefined
+                    if (value === undefined)
+                        return
+                    menu.dismiss()
+                    menu.action.call(null, value)
+                }
+                Keys.onDownPressed: move(current, 1)
+                Keys.onUpPressed: move(Math.max(0, current), -1)
+                Keys.onPressed: event => {
+                    if (event.key === Qt.Key_Home)
+                        move(-1, 1)
+                    else if (event.key === Qt.Key_End)
+                        move(0, -1)
+                }
+                Keys.onReturnPressed: run(current)
+                Keys.onEnterPressed: run(current)
+                Keys.onSpacePressed: run(current)
 
-                    Accessible.role: isEntry ? Accessible.MenuItem : Accessible.StaticText
-                    Accessible.name: modelData.text ?? modelData.header ?? ""
-                    Accessible.ignored: modelData.separator ?? false
-                    Accessible.checked: modelData.isChecked ?? false
-                    Accessible.onPressAction: column.run(index)
+                Repeater {
+                    id: rows
+                    model: menu.entries
 
-                    Rectangle {
-                        visible: entry.modelData.separator ?? false
-                        x: 8
-                        width: parent.width - 16
-                        height: 1
-                        anchors.verticalCenter: parent.verticalCenter
-                        color: menu.colors.line
-                    }
-                    Rectangle {
-                        visible: entry.isEntry
-                        anchors.fill: parent
-                        radius: 8
-                        color: entry.isCurrent ? menu.colors.hover : "transparent"
-                    }
-                    Symbol {
-                        visible: (entry.modelData.symbol ?? "") !== ""
-                        name: entry.modelData.symbol ?? ""
-                        size: 17
-                        color: entry.modelData.tint ? menu.colors.tintText(entry.modelData.tint) : menu.colors.secondaryText
-                        x: 10
-                        anchors.verticalCenter: parent.verticalCenter
-                    }
-                    Label {
-                        id: label
-                        colors: menu.colors
-                        color: entry.modelData.header ? menu.colors.secondaryText : menu.colors.text
-                        text: entry.modelData.text ?? entry.modelData.header ?? ""
-                        font.pixelSize: entry.modelData.header ? Theme.textSmall : Theme.text
-                        font.weight: entry.modelData.header ? Font.DemiBold : Font.Normal
-                        x: entry.hasSymbols && !entry.modelData.header ? 36 : 10
-                        anchors.verticalCenter: parent.verticalCenter
-                    }
-                    Symbol {
-                        visible: entry.modelData.isChecked ?? false
-                        name: "checkmark"
-                        size: 15
-                        color: menu.colors.text
-                        anchors.right: parent.right
-                        anchors.rightMargin: 10
-                        anchors.verticalCenter: parent.verticalCenter
-                    }
-                    HoverHandler {
-                        onHoveredChanged: column.current = hovered && entry.isEntry ? entry.index : column.current === entry.index ? -1 : column.current
-                    }
-                    TapHandler {
-                        enabled: entry.isEntry
-                        onTapped: column.run(entry.index)
+                    Item {
+                        id: entry
+                        required property var modelData
+                        required property int index
+                        readonly property bool isEntry: modelData.value !== undefined
+                        readonly property bool isCurrent: column.current === index
+                        readonly property bool hasSymbols: menu.entries.some(other => other.symbol || other.isChecked !== undefined)
+
+                        width: column.width
+                        implicitWidth: label.x + Math.min(label.implicitWidth, 300) + (modelData.isChecked ? 44 : 20)
+                        implicitHeight: modelData.separator ? 9 : modelData.header ? 26 : 32
+
+                        onIsCurrentChanged: if (isCurrent) forceActiveFocus()
+
+                        Accessible.focusable: isEntry
+                        Accessible.role: isEntry ? Accessible.MenuItem : Accessible.StaticText
+                        Accessible.name: modelData.text ?? modelData.header ?? ""
+                        Accessible.ignored: modelData.separator ?? false
+                        Accessible.checked: modelData.isChecked ?? false
+                        Accessible.onPressAction: column.run(index)
+
+                        Rectangle {
+                            visible: entry.modelData.separator ?? false
+                            x: 8
+                            width: parent.width - 16
+                            height: 1
+                            anchors.verticalCenter: parent.verticalCenter
+                            color: menu.colors.line
+                        }
+                        Rectangle {
+                            visible: entry.isEntry
+                            anchors.fill: parent
+                            radius: 8
+                            color: entry.isCurrent ? menu.colors.pressed : "transparent"
+                        }
+                        Symbol {
+                            visible: (entry.modelData.symbol ?? "") !== ""
+                            name: entry.modelData.symbol ?? ""
+                            size: 17
+                            color: entry.modelData.tint ? menu.colors.tintText(entry.modelData.tint) : menu.colors.secondaryText
+                            x: 10
+                            anchors.verticalCenter: parent.verticalCenter
+                        }
+                        Label {
+                            id: label
+                            colors: menu.colors
+                            color: entry.modelData.header ? menu.colors.secondaryText : menu.colors.text
+                            text: entry.modelData.text ?? entry.modelData.header ?? ""
+                            font.pixelSize: entry.modelData.header ? Theme.textSmall : Theme.text
+                            font.weight: entry.modelData.header ? Font.DemiBold : Font.Normal
+                            x: entry.hasSymbols && !entry.modelData.header ? 36 : 10
+                            width: Math.min(Math.ceil(implicitWidth), 300)
+                            anchors.verticalCenter: parent.verticalCenter
+                        }
+                        Symbol {
+                            visible: entry.modelData.isChecked ?? false
+                            name: "checkmark"
+                            size: 15
+                            color: menu.colors.text
+                            anchors.right: parent.right
+                            anchors.rightMargin: 10
+                            anchors.verticalCenter: parent.verticalCenter
+                        }
+                        TapHandler {
+                            enabled: entry.isEntry
+                            onTapped: column.run(entry.index)
+                        }
                     }
                 }
             }

@@ -33,6 +33,10 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
         Q_EMIT visibilityWanted();
     });
     connect(&controller.preferences(), &Preferences::changed, this, &DockPanel::updateRegions);
+    connect(&controller.titles(), &WindowTitles::changed, this, [this] {
+        if (front() != m_frontAtKeyboard)
+            releaseKeyboard();
+    });
     setInitialProperties({{u"panel"_s, QVariant::fromValue(this)},
                           {u"dock"_s, QVariant::fromValue(&dock)},
                           {u"focusState"_s, QVariant::fromValue(&focus)},
@@ -40,31 +44,21 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
     controller.platform().panels->prepare(winId(), Panels::Kind::dock);
 }
 
-Qt::Edge DockPanel::edge() const {
-    switch (m_dock.edge()) {
-    case DockController::Edge::Left:
-        return Qt::LeftEdge;
-    case DockController::Edge::Right:
-        return Qt::RightEdge;
-    case DockController::Edge::Bottom:
-        break;
-    }
-    return Qt::BottomEdge;
-}
-
 void DockPanel::place(const Display& display) {
     m_display = display;
     const QRect screen = ScreenSpace::toLogical(display.frame);
     const int thickness = m_dock.iconSize() + 40;
     QRect window = screen;
-    if (edge() == Qt::BottomEdge)
+    if (m_dock.edge() == Qt::BottomEdge)
         window.setTop(screen.bottom() + 1 - thickness - roomAbove);
-    else if (edge() == Qt::LeftEdge)
+    else if (m_dock.edge() == Qt::LeftEdge)
         window.setWidth(thickness + roomBeside);
     else
         window.setLeft(screen.right() + 1 - thickness - roomBeside);
     m_frame = window;
     setGeometry(window);
+    m_input.reset(); // what was said holds for the displays as they were
+    m_reserved.reset();
     if (source().isEmpty()) {
         setSource(QUrl(u"qrc:/qml/Fendrel/Dock/DockView.qml"_s));
         show();
@@ -106,7 +100,7 @@ void DockPanel::setHeld(bool held) {
 
 /// A rectangle of the window, stretched to the edge of the display.
 QRect DockPanel::toEdge(QRect rect) const {
-    switch (edge()) {
+    switch (m_dock.edge()) {
     case Qt::LeftEdge:
         rect.setLeft(0);
         break;
@@ -123,7 +117,7 @@ QRect DockPanel::toEdge(QRect rect) const {
 /// What stays of a hidden dock, to notice the pointer at the edge.
 QRect DockPanel::hiddenStrip() const {
     constexpr int thickness = 2;
-    switch (edge()) {
+    switch (m_dock.edge()) {
     case Qt::LeftEdge:
         return {0, 0, thickness, height()};
     case Qt::RightEdge:
@@ -138,61 +132,97 @@ QRect DockPanel::hiddenStrip() const {
 void DockPanel::updateRegions() {
     if (m_bar.isEmpty() || !isVisible())
         return;
-    Panels& panels = *m_controller.platform().panels;
-    const bool autoHides = m_controller.preferences().autoHide();
-    const QRect bar = m_bar.toAlignedRect();
-
     // A dock that hides by itself stays while the pointer is at the very edge that brought it.
-    const QRect input = !isShown() ? hiddenStrip() : autoHides ? toEdge(bar) : bar;
+    const QRect bar = m_bar.toAlignedRect();
+    updateInput(!isShown() ? hiddenStrip() : m_controller.preferences().autoHide() ? toEdge(bar) : bar);
+    updateReserved();
+    updateMask();
+}
+
+void DockPanel::updateInput(const QRect& input) {
     const double ratio = devicePixelRatio();
-    panels.setInputRegion(winId(),
-                          QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect());
-
-    QRect reserved;
-    if (!autoHides) {
-        const QRect area = toEdge(bar);
-        const QRect strip = edge() == Qt::BottomEdge ? QRect(0, area.top(), width(), area.height())
-                                                     : QRect(area.left(), 0, area.width(), height());
-        reserved = ScreenSpace::toDevice(strip.translated(m_frame.topLeft()));
+    const QRect region = QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect();
+    if (region != m_input) {
+        m_input = region;
+        m_controller.platform().panels->setInputRegion(winId(), region);
     }
-    panels.reserve(winId(), edge(), m_display.frame, reserved);
-
-    QRegion seen;
-    if (!isTransparent()) {
-        QPainterPath outline;
-        outline.addRoundedRect(m_bar, m_dock.cornerRadius(), m_dock.cornerRadius());
-        seen = QRegion(outline.toFillPolygon().toPolygon());
-    }
-    setMask(seen);
-
     if (const QRect touchable = ScreenSpace::toDevice(input.translated(m_frame.topLeft())); touchable != m_touchable) {
         m_touchable = touchable;
         Q_EMIT touchableChanged();
     }
 }
 
-void DockPanel::takeKeyboard() {
-    if (!setKeyboardGrabEnabled(true))
+void DockPanel::updateReserved() {
+    QRect reserved;
+    if (!m_controller.preferences().autoHide()) {
+        const QRect area = toEdge(m_bar.toAlignedRect());
+        const QRect strip = m_dock.edge() == Qt::BottomEdge ? QRect(0, area.top(), width(), area.height())
+                                                            : QRect(area.left(), 0, area.width(), height());
+        reserved = ScreenSpace::toDevice(strip.translated(m_frame.topLeft()));
+    }
+    if (reserved == m_reserved)
         return;
-    setHeld(true);
+    m_reserved = reserved;
+    m_controller.platform().panels->reserve(winId(), m_dock.edge(), m_display.frame, reserved);
+}
+
+void DockPanel::updateMask() {
+    QRegion mask;
+    if (!isTransparent()) {
+        QPainterPath outline;
+        outline.addRoundedRect(m_bar, m_dock.cornerRadius(), m_dock.cornerRadius());
+        mask = QRegion(outline.toFillPolygon().toPolygon());
+    }
+    if (mask == m_mask)
+        return;
+    m_mask = mask;
+    setMask(mask);
+}
+
+QString DockPanel::front() const {
+    const auto& front = m_controller.titles().front();
+    return front ? front->bundleID : QString();
+}
+
+bool DockPanel::grabKeyboard() {
+    if (!setKeyboardGrabEnabled(true))
+        return false;
     // The window is never the active one, so the toolkit has to be told that keys come here.
     QFocusEvent event(QEvent::FocusIn, Qt::ShortcutFocusReason);
     QCoreApplication::sendEvent(this, &event);
+    return true;
+}
+
+void DockPanel::takeKeyboard() {
+    if (!grabKeyboard())
+        return;
+    m_frontAtKeyboard = front();
+    m_hasKeyboard = true;
+    Q_EMIT keyboardChanged();
     Q_EMIT keyboardTaken();
 }
 
 void DockPanel::releaseKeyboard() {
+    if (!m_hasKeyboard)
+        return;
+    m_hasKeyboard = false;
     setKeyboardGrabEnabled(false);
     QFocusEvent event(QEvent::FocusOut, Qt::ShortcutFocusReason);
     QCoreApplication::sendEvent(this, &event);
-    setHeld(false);
+    Q_EMIT keyboardChanged();
 }
 
 void DockPanel::openMenu(PopupWindow* menu, const QRectF& item, double gap) {
-    const QRectF anchor = edge() == Qt::BottomEdge ? QRectF(item.x(), m_bar.y(), item.width(), m_bar.height())
-                                                   : QRectF(m_bar.x(), item.y(), m_bar.width(), item.height());
+    const QRectF anchor = m_dock.edge() == Qt::BottomEdge ? QRectF(item.x(), m_bar.y(), item.width(), m_bar.height())
+                                                          : QRectF(m_bar.x(), item.y(), m_bar.width(), item.height());
     m_controller.platform().panels->prepare(menu->winId(), Panels::Kind::menu);
-    menu->openBeside(this, anchor.translated(m_frame.topLeft()), edge(), gap);
+    menu->openBeside(this, anchor.translated(m_frame.topLeft()), m_dock.edge(), gap);
+}
+
+/// The menu had the keyboard while it was open.
+void DockPanel::menuClosed() {
+    if (m_hasKeyboard && !grabKeyboard())
+        releaseKeyboard();
 }
 
 void DockPanel::transparencyDidChange() {

@@ -6,7 +6,10 @@
 
 #include <QQuickView>
 #include <QRectF>
+#include <QRegion>
 #include <QtQmlIntegration>
+
+#include <optional>
 
 namespace fendrel {
 
@@ -26,6 +29,7 @@ class DockPanel : public QQuickView {
     Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
     Q_PROPERTY(bool isPointerInside READ isPointerInside WRITE setPointerInside NOTIFY pointerChanged)
     Q_PROPERTY(bool isHeld READ isHeld WRITE setHeld NOTIFY heldChanged)
+    Q_PROPERTY(bool hasKeyboard READ hasKeyboard NOTIFY keyboardChanged)
 
 public:
     DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
@@ -44,12 +48,15 @@ public:
     void setHeld(bool held);
     void transparencyDidChange(); ///< a compositor came or went
 
-    /// Leads the keyboard to the dock, without taking the front from the active window.
+    /// Leads the keyboard to the dock, without taking the front from the active window. It goes back when another
+    /// application comes to the front.
     void takeKeyboard();
+    bool hasKeyboard() const { return m_hasKeyboard; }
     Q_INVOKABLE void releaseKeyboard();
 
     /// Opens a menu beside the bar, at one of its items.
     Q_INVOKABLE void openMenu(fendrel::PopupWindow* menu, const QRectF& item, double gap);
+    Q_INVOKABLE void menuClosed();
 
 Q_SIGNALS:
     void barChanged();
@@ -59,12 +66,17 @@ Q_SIGNALS:
     void heldChanged();
     void touchableChanged();
     void keyboardTaken();
+    void keyboardChanged();
 
 private:
-    Qt::Edge edge() const;
     QRect toEdge(QRect rect) const;
     QRect hiddenStrip() const;
     void updateRegions();
+    void updateInput(const QRect& input);
+    void updateReserved();
+    void updateMask();
+    bool grabKeyboard();
+    QString front() const;
 
     AppController& m_controller;
     DockController& m_dock;
@@ -72,8 +84,14 @@ private:
     QRect m_frame; ///< where the window is meant to be: what the window manager says of it comes late
     QRectF m_bar;
     QRect m_touchable;
+    // What the window system was told last. It is told again only when this differs: window managers lay out anew.
+    std::optional<QRect> m_input;
+    std::optional<QRect> m_reserved;
+    QRegion m_mask;
     bool m_isPointerInside = false;
     bool m_isHeld = false;
+    bool m_hasKeyboard = false;
+    QString m_frontAtKeyboard; ///< bundle identifier
 };
 
 } // namespace fendrel

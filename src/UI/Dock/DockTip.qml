@@ -1,6 +1,5 @@
 import QtQuick
 import Fendrel.Style
-import Fendrel.Types
 
 // The label beside the bar that says what the item under the pointer is. One for the whole dock: it glides from item to
 // item. What forces its label (a switch that is pending) shows while nothing else is asked for.
@@ -10,6 +9,7 @@ Item {
     required property int edge
     required property Rectangle bar
     property bool isSuppressed: false
+    property real scrolled: 0 // changes when items move without changing their own place
 
     // What asks for its label: { item, text, isForced }, the newest last.
     property var asking: []
@@ -29,12 +29,13 @@ Item {
         if (!current)
             return
         const center = current.item.mapToItem(tip, current.item.width / 2, current.item.height / 2)
-        spot = edge === DockController.Bottom ? Qt.point(center.x, bar.y - 10)
-             : edge === DockController.Left ? Qt.point(bar.x + bar.width + 10, center.y)
+        spot = edge === Qt.BottomEdge ? Qt.point(center.x, bar.y - 10)
+             : edge === Qt.LeftEdge ? Qt.point(bar.x + bar.width + 10, center.y)
              : Qt.point(bar.x - 10, center.y)
         spotText = current.text
     }
     onCurrentChanged: place()
+    onScrolledChanged: place()
     Connections {
         target: tip.current?.item ?? null
         function onXChanged() { tip.place() }
@@ -49,13 +50,13 @@ Item {
     Rectangle {
         id: bubble
 
-        readonly property real wantedX: tip.edge === DockController.Bottom ? tip.spot.x - width / 2
-                                      : tip.edge === DockController.Left ? tip.spot.x : tip.spot.x - width
-        readonly property real wantedY: tip.edge === DockController.Bottom ? tip.spot.y - height : tip.spot.y - height / 2
+        readonly property real wantedX: tip.edge === Qt.BottomEdge ? tip.spot.x - width / 2
+                                      : tip.edge === Qt.LeftEdge ? tip.spot.x : tip.spot.x - width
+        readonly property real wantedY: tip.edge === Qt.BottomEdge ? tip.spot.y - height : tip.spot.y - height / 2
 
         x: Math.max(8, Math.min(tip.width - width - 8, wantedX))
         y: Math.max(2, Math.min(tip.height - height - 2, wantedY))
-        width: Math.min(label.implicitWidth + 24, 460)
+        width: Math.min(label.implicitWidth + 24, 520)
         height: 30
         radius: 9
         color: "#f0202127"

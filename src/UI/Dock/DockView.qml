@@ -12,7 +12,7 @@ FocusScope {
     required property VerdictController verdict
 
     readonly property int edge: dock.edge
-    readonly property bool isVertical: edge !== DockController.Bottom
+    readonly property bool isVertical: edge !== Qt.BottomEdge
     readonly property int margin: 8
     readonly property int padding: 9
     readonly property real spacing: dock.spacing
@@ -23,16 +23,52 @@ FocusScope {
     }
 
     // Where the bar is when it shows; it slides out from there.
-    readonly property real barWidth: strip.width + 2 * (isVertical ? 6 : padding)
-    readonly property real barHeight: strip.height + 2 * (isVertical ? padding : 6)
+    readonly property real barLength: layout.current + pillStrip.length + (apps.count > 0 ? appStrip.length : 0) + 2 * padding
+    readonly property real barDepth: (isVertical ? strip.width : strip.height) + 2 * 6
+    readonly property real barWidth: isVertical ? barDepth : barLength
+    readonly property real barHeight: isVertical ? barLength : barDepth
     readonly property rect resting: Qt.rect(
-        edge === DockController.Left ? margin : edge === DockController.Right ? width - margin - barWidth : Math.round((width - barWidth) / 2),
-        edge === DockController.Bottom ? height - margin - barHeight : Math.round((height - barHeight) / 2),
+        edge === Qt.LeftEdge ? margin : edge === Qt.RightEdge ? width - margin - barWidth : Math.round((width - barWidth) / 2),
+        edge === Qt.BottomEdge ? height - margin - barHeight : Math.round((height - barHeight) / 2),
         barWidth, barHeight)
+
+    BarLayout {
+        id: layout
+
+        // The lines between the sections and the room around them.
+        readonly property real separators: (apps.count > 0 ? 9 + 2 * root.spacing : 0) + 9 + 2 * root.spacing
+
+        room: (root.isVertical ? root.height : root.width) - 2 * root.margin - 2 * root.padding
+        steady: separators + chip.longest + focusButton.longest + meter.length + 2 * root.spacing
+        current: separators + focusButton.length + (chip.visible ? chip.length + root.spacing : 0)
+                 + (meter.visible ? meter.length + root.spacing : 0)
+        modeCount: pills.count
+        nameLength: root.longestName
+        appCount: apps.count
+        fullIconSize: root.dock.iconSize
+        fullSpacing: Math.max(0, root.spacing - 4)
+    }
+
+    // Of the pills when they have stopped moving.
+    property real pillsLength: 0
+    property real longestName: 0
+    function measurePills() {
+        let length = (pills.count - 1) * layout.pillSpacing
+        let name = 0
+        for (let index = 0; index < pills.count; ++index) {
+            const pill = pills.itemAt(index) as ModePill
+            if (!pill)
+                continue
+            length += pill.length
+            name = Math.max(name, pill.nameLength)
+        }
+        longestName = name
+        pillsLength = length
+    }
 
     Binding { target: root.panel; property: "bar"; value: root.resting; when: root.width > 0 }
     Binding { target: root.panel; property: "isPointerInside"; value: hover.hovered }
-    Binding { target: root.panel; property: "isHeld"; value: menu.visible }
+    Binding { target: root.panel; property: "isHeld"; value: menu.visible || root.panel.hasKeyboard }
 
     HoverHandler { id: hover }
 
@@ -63,6 +99,11 @@ FocusScope {
             pills.itemAt(0)?.forceActiveFocus(Qt.TabFocusReason)
         }
     }
+    // A switch that takes its time can still be hurried with the keyboard; when it is done, the keyboard goes back.
+    readonly property string modeID: dock.modeID
+    onModeIDChanged: panel.releaseKeyboard()
+    readonly property bool isGateOpen: dock.isGateOpen
+    onIsGateOpenChanged: if (isGateOpen) panel.releaseKeyboard()
 
     Item {
         id: slider
@@ -73,8 +114,8 @@ FocusScope {
         Behavior on offset { NumberAnimation { duration: Theme.slow; easing.type: Easing.OutCubic } }
 
         transform: Translate {
-            x: root.edge === DockController.Left ? -slider.offset : root.edge === DockController.Right ? slider.offset : 0
-            y: root.edge === DockController.Bottom ? slider.offset : 0
+            x: root.edge === Qt.LeftEdge ? -slider.offset : root.edge === Qt.RightEdge ? slider.offset : 0
+            y: root.edge === Qt.BottomEdge ? slider.offset : 0
         }
 
         Shadow {
@@ -82,6 +123,13 @@ FocusScope {
             casterRadius: bar.radius
             opacity: root.dock.shadow
             visible: root.panel.isTransparent
+        }
+
+        // Where nothing blends windows, the window's own shape makes the corners.
+        Rectangle {
+            anchors.fill: bar
+            visible: !root.panel.isTransparent
+            color: root.dock.background
         }
 
         Rectangle {
@@ -93,32 +141,37 @@ FocusScope {
             radius: root.dock.cornerRadius
             color: lookColors.faded(root.dock.background, root.panel.isTransparent ? root.dock.opacity : 1)
             border.width: 1
-            border.color: lookColors.faded(lookColors.text, root.dock.border)
+            readonly property color line: lookColors.faded(lookColors.text, root.dock.border)
+            border.color: root.panel.isTransparent ? line : Qt.tint(root.dock.background, line)
 
-            Behavior on x { enabled: bar.isReady; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
-            Behavior on width { enabled: bar.isReady; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+            Behavior on x { enabled: bar.moves && !root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+            Behavior on width { enabled: bar.moves && !root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+            Behavior on y { enabled: bar.moves && root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+            Behavior on height { enabled: bar.moves && root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
             Behavior on color { ColorAnimation { duration: Theme.slow } }
             // What is there at the start is simply there; only later changes move.
             property bool isReady: false
+            // Where nothing blends windows, theirs is cut to the bar at once.
+            readonly property bool moves: isReady && root.panel.isTransparent
             SequentialAnimation {
                 running: true
                 PauseAnimation { duration: 500 }
                 PropertyAction { target: bar; property: "isReady"; value: true }
             }
 
-            Grid {
+            Line {
                 id: strip
                 anchors.centerIn: parent
-                rows: root.isVertical ? -1 : 1
-                columns: root.isVertical ? 1 : -1
+                isVertical: root.isVertical
                 spacing: root.spacing
-                horizontalItemAlignment: Grid.AlignHCenter
-                verticalItemAlignment: Grid.AlignVCenter
 
-                Grid {
-                    rows: root.isVertical ? -1 : 1
-                    columns: root.isVertical ? 1 : -1
-                    spacing: 2
+                ScrollStrip {
+                    id: pillStrip
+                    isVertical: root.isVertical
+                    room: layout.pillsRoom
+                    fullLength: root.pillsLength
+                    isMoving: bar.moves
+                    spacing: layout.pillSpacing
 
                     Accessible.role: Accessible.Grouping
                     Accessible.name: qsTr("Modes")
@@ -126,11 +179,22 @@ FocusScope {
                     Repeater {
                         id: pills
                         model: root.dock.modes
+                        onItemRemoved: root.measurePills()
                         ModePill {
+                            id: pill
+                            readonly property bool isSought: isCurrent || isPending || activeFocus
                             colors: lookColors
                             tip: dockTip
                             isVertical: root.isVertical
                             pendingSeconds: root.focusState.pendingSeconds
+                            size: layout.pillSize
+                            isCompact: layout.isCompact
+                            isTipForced: isPending && !root.dock.isGateOpen
+                            opacity: pillStrip.visibility(pill)
+                            onLengthChanged: root.measurePills()
+                            onNameLengthChanged: root.measurePills()
+                            onIsSoughtChanged: if (isSought) pillStrip.reveal(pill)
+                            Component.onCompleted: if (isSought) pillStrip.reveal(pill)
                             onPressed: root.dock.requestMode(modeID)
                         }
                     }
@@ -138,23 +202,23 @@ FocusScope {
 
                 Separator { colors: lookColors; isVertical: root.isVertical; visible: apps.count > 0 }
 
-                Grid {
-                    rows: root.isVertical ? -1 : 1
-                    columns: root.isVertical ? 1 : -1
-                    spacing: Math.max(0, root.spacing - 4)
+                ScrollStrip {
+                    id: appStrip
+                    isVertical: root.isVertical
+                    room: layout.appsRoom(pillStrip.length)
+                    isMoving: bar.moves
+                    spacing: layout.spacing
                     visible: apps.count > 0
-                    horizontalItemAlignment: Grid.AlignHCenter
-                    verticalItemAlignment: Grid.AlignVCenter
 
                     Accessible.role: Accessible.Grouping
                     Accessible.name: qsTr("Applications")
 
                     add: Transition {
-                        NumberAnimation { properties: "opacity,scale"; from: 0; to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
+                        NumberAnimation { properties: "coming,scale"; from: 0; to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
                     }
                     move: Transition {
                         NumberAnimation { properties: "x,y"; duration: Theme.normal; easing.type: Easing.OutCubic }
-                        NumberAnimation { properties: "opacity,scale"; to: 1; duration: Theme.normal }
+                        NumberAnimation { properties: "coming,scale"; to: 1; duration: Theme.normal }
                     }
 
                     Repeater {
@@ -163,16 +227,24 @@ FocusScope {
                         delegate: AppButton {
                             id: app
                             required property bool startsOthers
+                            readonly property bool isSought: isFront || activeFocus
                             colors: lookColors
                             tip: dockTip
                             isVertical: root.isVertical
                             edge: root.edge
-                            iconSize: root.dock.iconSize
+                            iconSize: layout.iconSize
+                            pictureSize: root.dock.iconSize
+                            share: appStrip.visibility(app)
                             hoverScale: 1 + (root.dock.magnification - 1) * 0.45
                             markColor: root.dock.tint
-                            leading: startsOthers ? 17 : 0
-                            onPressed: root.dock.openApp(bundleID)
-                            onMenuAsked: root.showAppMenu(app, bundleID, name, isRunning, isInMode)
+                            leading: startsOthers ? layout.startOfOthers : 0
+                            onIsSoughtChanged: if (isSought) appStrip.reveal(app)
+                            Component.onCompleted: if (isSought) appStrip.reveal(app)
+                            onPressed: {
+                                root.panel.releaseKeyboard()
+                                root.dock.openApp(bundleID)
+                            }
+                            onMenuAsked: menus.showAppMenu(app, bundleID, name, isRunning, isInMode)
                         }
                     }
                 }
@@ -185,7 +257,8 @@ FocusScope {
                     tip: dockTip
                     isVertical: root.isVertical
                     verdict: root.verdict
-                    onPressed: root.correct(chip)
+                    wordsRoom: Math.min(150, Math.round(root.width / 9))
+                    onPressed: menus.correct(chip)
                 }
 
                 FocusButton {
@@ -195,11 +268,12 @@ FocusScope {
                     isVertical: root.isVertical
                     focusState: root.focusState
                     tint: root.dock.tint
-                    onPressed: root.chooseFocus(focusButton)
+                    onPressed: menus.chooseFocus(focusButton)
                     onMenuAsked: pressed()
                 }
 
                 BudgetMeter {
+                    id: meter
                     colors: lookColors
                     tip: dockTip
                     isVertical: root.isVertical
@@ -211,7 +285,7 @@ FocusScope {
             // The rest of the bar has the menu of the dock itself.
             TapHandler {
                 acceptedButtons: Qt.RightButton
-                onTapped: root.showDockMenu(focusButton)
+                onTapped: menus.showDockMenu(focusButton)
             }
         }
 
@@ -221,6 +295,7 @@ FocusScope {
             edge: root.edge
             bar: bar
             isSuppressed: menu.visible
+            scrolled: appStrip.position + pillStrip.position
         }
     }
 
@@ -228,55 +303,15 @@ FocusScope {
         id: menu
         colors: lookColors
         isTransparent: root.panel.isTransparent
+        onDismissed: root.panel.menuClosed()
     }
 
-    function correct(item: Item) {
-        const entries = [{ header: qsTr("%1 belongs to").arg(verdict.what) },
-                         ...dock.modes.menuEntries(verdict.modeID),
-                         { separator: true },
-                         { text: qsTr("None of them"), value: "", symbol: "xmark", isChecked: verdict.modeID === "" }]
-        menu.open(panel, item, entries, modeID => verdict.correct(modeID))
-    }
-
-    function chooseFocus(item: Item) {
-        const durations = [{ text: qsTr("Until I end it"), value: 0, symbol: "scope" },
-                           { text: qsTr("25 minutes"), value: 25, symbol: "timer" },
-                           { text: qsTr("50 minutes"), value: 50, symbol: "timer" },
-                           { text: qsTr("90 minutes"), value: 90, symbol: "timer" }]
-        const entries = focusState.isOn
-            ? [{ text: qsTr("End focus session"), value: -1, symbol: "stop" }, { separator: true }, { header: qsTr("Start again") }, ...durations]
-            : [{ header: qsTr("Focus on %1").arg(dock.modeName) }, ...durations]
-        menu.open(panel, item, entries, minutes => minutes < 0 ? focusState.stop() : focusState.start(minutes))
-    }
-
-    function showAppMenu(item: Item, bundleID: string, name: string, isRunning: bool, isInMode: bool) {
-        const membership = isInMode ? { text: qsTr("Remove from %1").arg(dock.modeName), value: "remove", symbol: "xmark" }
-                                    : { text: qsTr("Add to %1").arg(dock.modeName), value: "add", symbol: "plus" }
-        const reveal = { text: qsTr("Show in File Manager"), value: "reveal", symbol: "folder" }
-        const entries = isRunning
-            ? [{ header: name }, { text: qsTr("Bring to Front"), value: "open", symbol: "arrow.right" },
-               { text: qsTr("Show All Windows"), value: "showAll", symbol: "app.dashed" },
-               { text: qsTr("Hide"), value: "hide", symbol: "moon" }, membership, reveal,
-               { separator: true }, { text: qsTr("Quit"), value: "quit", symbol: "stop" }]
-            : [{ header: name }, { text: qsTr("Open"), value: "open", symbol: "arrow.right" }, membership, reveal]
-        menu.open(panel, item, entries, choice => runAppChoice(bundleID, choice))
-    }
-
-    function runAppChoice(bundleID: string, choice: string) {
-        switch (choice) {
-        case "open": dock.openApp(bundleID); break
-        case "showAll": dock.showAllWindows(bundleID); break
-        case "hide": dock.hideApp(bundleID); break
-        case "add": dock.setInMode(bundleID, true); break
-        case "remove": dock.setInMode(bundleID, false); break
-        case "reveal": dock.revealApp(bundleID); break
-        case "quit": dock.quitApp(bundleID); break
-        }
-    }
-
-    function showDockMenu(item: Item) {
-        const entries = [{ text: qsTr("Settings…"), value: "settings", symbol: "gearshape" }, { separator: true },
-                         { text: qsTr("Quit Fendrel"), value: "quit", symbol: "stop" }]
-        menu.open(panel, item, entries, choice => choice === "quit" ? dock.quit() : dock.openSettings("dock"))
+    DockMenus {
+        id: menus
+        popup: menu
+        panel: root.panel
+        dock: root.dock
+        focusState: root.focusState
+        verdict: root.verdict
     }
 }

@@ -20,7 +20,10 @@ DockItem {
     Accessible.role: Accessible.Button
     Accessible.name: tipText
 
-    Behavior on implicitWidth { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+    readonly property real longest: isVertical ? 48 : 132 // with hours and minutes left
+
+    width: implicitWidth
+    Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
     Rectangle {
         anchors.fill: parent

@@ -1,7 +1,8 @@
 import QtQuick
 import Fendrel.Style
 
-// One mode: the current one filled, a pending one with its countdown, the others as their symbol.
+// One mode: the current one filled, a pending one with its countdown, the others as their symbol. Where there is little
+// room none has its name.
 DockItem {
     id: pill
 
@@ -14,17 +15,29 @@ DockItem {
 
     property int pendingSeconds: 0
 
-    readonly property bool isWide: !isVertical && (isCurrent || isPending)
+    property int size: 36
+    property bool isCompact: false
+
+    readonly property bool isBare: isVertical || isCompact
+    readonly property bool isWide: !isBare && (isCurrent || isPending)
+    readonly property real nameLength: isVertical ? 0 : label.wantedWidth + 14 // by which it makes a pill longer
     readonly property color foreground: isCurrent ? colors.onTint(tint) : colors.tintText(tint)
 
-    implicitWidth: isWide ? content.implicitWidth + 24 : pillSize
-    implicitHeight: pillSize
-    readonly property int pillSize: 36
+    implicitWidth: isWide ? content.implicitWidth + 24 : size
+    implicitHeight: size
+    width: implicitWidth
+    Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
-    Behavior on implicitWidth { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(shortName.elidedText).arg(pendingSeconds) : name
 
-    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(name).arg(pendingSeconds) : name
-    isTipForced: isPending
+    // The hint comes after the name, and is not to be pushed out of the label by it.
+    TextMetrics {
+        id: shortName
+        font: label.font
+        elide: Text.ElideRight
+        elideWidth: 160
+        text: pill.name
+    }
 
     Accessible.role: Accessible.RadioButton
     Accessible.name: isPending ? qsTr("%1, switching in %2 seconds").arg(name).arg(pendingSeconds) : name
@@ -34,7 +47,7 @@ DockItem {
 
     Rectangle {
         anchors.fill: parent
-        radius: 12
+        radius: pill.size / 3
         color: pill.isCurrent ? pill.tint
              : pill.isPending ? pill.colors.faded(pill.tint, 0.2)
              : pill.isPressed ? pill.colors.pressed
@@ -56,10 +69,13 @@ DockItem {
             name: pill.symbol
             size: 19
             color: pill.foreground
-            visible: !(pill.isPending && pill.isVertical)
+            visible: !(pill.isPending && pill.isBare)
             anchors.verticalCenter: parent.verticalCenter
         }
         Label {
+            id: label
+            readonly property real wantedWidth: Math.min(Math.ceil(implicitWidth), 160)
+            width: wantedWidth
             colors: pill.colors
             color: pill.foreground
             visible: pill.isWide
@@ -71,8 +87,8 @@ DockItem {
             colors: pill.colors
             color: pill.foreground
             visible: pill.isPending
-            text: pill.isVertical ? pill.pendingSeconds : qsTr("%1 s").arg(pill.pendingSeconds)
-            font.weight: pill.isVertical ? Font.DemiBold : Font.Normal
+            text: pill.isBare ? pill.pendingSeconds : qsTr("%1 s").arg(pill.pendingSeconds)
+            font.weight: pill.isBare ? Font.DemiBold : Font.Normal
             anchors.verticalCenter: parent.verticalCenter
         }
     }

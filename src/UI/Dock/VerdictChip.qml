@@ -7,8 +7,11 @@ DockItem {
     id: chip
 
     required property VerdictController verdict
+    property real wordsRoom: 150 // pixels; longer words are cut
 
-    implicitWidth: isVertical ? 36 : 12 + dot.width + 9 + words.width + 14
+    implicitWidth: isVertical ? 36 : lengthWith(words.width)
+    readonly property real longest: isVertical ? 36 : lengthWith(wordsRoom)
+    function lengthWith(text: real): real { return 12 + 9 + 9 + text + 14 }
     implicitHeight: 36
     visible: verdict.isShown
 
@@ -58,7 +61,7 @@ DockItem {
         visible: !chip.isVertical
         x: dot.x + dot.width + 9
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(150, Math.max(top.implicitWidth, bottom.implicitWidth))
+        width: Math.min(chip.wordsRoom, Math.ceil(Math.max(top.implicitWidth, bottom.implicitWidth)))
 
         Label {
             id: top

@@ -91,8 +91,15 @@ FocusScope {
 
     Item {
         id: card
-        anchors.centerIn: parent
-        width: 440
+
+        // In the middle of what the dock leaves of the display, and closer where that is low.
+        readonly property rect area: root.panel.cardArea
+        readonly property bool isLow: area.height < 510
+        readonly property int rowHeight: isLow ? 38 : 44
+
+        x: Math.round(area.x + (area.width - width) / 2)
+        y: Math.round(area.y + (area.height - height) / 2)
+        width: Math.min(440, area.width - 24)
         height: body.implicitHeight + 2 * body.anchors.margins
         opacity: 0
         scale: 0.94
@@ -109,16 +116,17 @@ FocusScope {
         Column {
             id: body
             anchors.fill: parent
-            anchors.margins: 28
+            anchors.margins: card.isLow ? 20 : 28
             spacing: 0
 
             Item {
                 width: parent.width
-                height: 84
+                height: picture.height + (card.isLow ? 4 : 12)
                 Image {
+                    id: picture
                     anchors.centerIn: parent
-                    width: 72
-                    height: 72
+                    width: card.isLow ? 52 : 72
+                    height: width
                     sourceSize { width: 144; height: 144 }
                     source: root.icon
                     asynchronous: true
@@ -127,8 +135,8 @@ FocusScope {
                 }
                 Rectangle {
                     visible: root.ownerSymbol !== ""
-                    x: parent.width / 2 + 16
-                    y: 52
+                    x: picture.x + picture.width - 20
+                    y: picture.y + picture.height - 26
                     width: 30
                     height: 30
                     radius: 15
@@ -147,7 +155,7 @@ FocusScope {
             Label {
                 colors: gateColors
                 width: parent.width
-                topPadding: 10
+                topPadding: card.isLow ? 6 : 10
                 horizontalAlignment: Text.AlignHCenter
                 text: qsTr("Stay focused, or switch?")
                 font.pixelSize: Theme.title
@@ -160,9 +168,16 @@ FocusScope {
                 topPadding: 6
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+                maximumLineCount: 3
                 font.pixelSize: Theme.text
-                text: root.ownerName === "" ? root.name : root.note === "" ? qsTr("%1 belongs to %2").arg(root.name).arg(root.ownerName)
-                                                                          : qsTr("%1 (%2) belongs to %3").arg(root.name).arg(root.note).arg(root.ownerName)
+                // Of a long name the middle goes, so that the sentence keeps its end.
+                text: root.ownerName === "" ? shortName.elidedText
+                    : root.note === "" ? qsTr("%1 belongs to %2").arg(shortName.elidedText).arg(shortOwner.elidedText)
+                    : qsTr("%1 (%2) belongs to %3").arg(shortName.elidedText).arg(shortNote.elidedText).arg(shortOwner.elidedText)
+
+                TextMetrics { id: shortName; font.pixelSize: Theme.text; elide: Text.ElideMiddle; elideWidth: body.width * 0.8; text: root.name }
+                TextMetrics { id: shortNote; font.pixelSize: Theme.text; elide: Text.ElideMiddle; elideWidth: body.width * 0.8; text: root.note }
+                TextMetrics { id: shortOwner; font.pixelSize: Theme.text; elide: Text.ElideMiddle; elideWidth: body.width * 0.6; text: root.ownerName }
             }
             Label {
                 colors: gateColors
@@ -175,7 +190,7 @@ FocusScope {
                 text: root.gate.usedUp
             }
 
-            Item { width: 1; height: 20 }
+            Item { width: 1; height: card.isLow ? 12 : 20 }
 
             InputField {
                 id: reason
@@ -188,12 +203,12 @@ FocusScope {
                 KeyNavigation.tab: stayButton
             }
 
-            Item { width: 1; height: 14 }
+            Item { width: 1; height: card.isLow ? 8 : 14 }
 
             PushButton {
                 id: stayButton
                 width: parent.width
-                height: 44
+                height: card.rowHeight
                 colors: gateColors
                 isFilled: true
                 tint: root.dock.tint
@@ -202,11 +217,11 @@ FocusScope {
                 onClicked: root.gate.stay()
             }
 
-            Item { width: 1; height: 8 }
+            Item { width: 1; height: card.isLow ? 6 : 8 }
 
             PushButton {
                 width: parent.width
-                height: 44
+                height: card.rowHeight
                 colors: gateColors
                 isEnabled: root.ownerName !== ""
                 symbol: "arrow.right"
@@ -220,7 +235,7 @@ FocusScope {
                 colors: gateColors
                 color: gateColors.secondaryText
                 width: parent.width
-                height: 22
+                height: card.isLow ? 20 : 22
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
                 font.pixelSize: Theme.textSmall

@@ -17,10 +17,29 @@ Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, co
     setResizeMode(SizeRootObjectToView);
     if (size.isEmpty() && rootObject())
         size = QSizeF(rootObject()->implicitWidth(), rootObject()->implicitHeight()).toSize();
-    const QRect available = screen()->availableGeometry();
-    size = size.boundedTo(available.size() - QSize(40, 80));
+    m_wanted = size;
+    place();
+    connect(screen(), &QScreen::availableGeometryChanged, this, [this] {
+        if (isWhereItWasPut())
+            place();
+    });
+}
+
+void Dialog::place() {
+    constexpr int gap = 8;
+    constexpr QMargins usualFrame(1, 28, 1, 1); // until the window manager has put one around it
+    const QMargins frame = frameMargins().isNull() ? usualFrame : frameMargins();
+    const QRect room = screen()->availableGeometry().marginsRemoved(frame).adjusted(gap, gap, -gap, -gap);
+    const QSize size = m_wanted.boundedTo(room.size());
     setMinimumSize(size.boundedTo(QSize(560, 420)));
-    setGeometry(QRect(available.center() - QPoint(size.width() / 2, size.height() / 2), size));
+    m_placed = QRect(room.center() - QPoint(size.width() / 2, size.height() / 2), size);
+    setGeometry(m_placed);
+}
+
+/// A window manager may put it beside its place by as much as the frame that it adds.
+bool Dialog::isWhereItWasPut() const {
+    constexpr int tolerance = 40;
+    return size() == m_placed.size() && (position() - m_placed.topLeft()).manhattanLength() <= tolerance;
 }
 
 void Dialog::present() {

@@ -6,7 +6,8 @@
 
 namespace fendrel {
 
-/// An ordinary window with a QML view in it, in the middle of the main screen.
+/// An ordinary window with a QML view in it, in the middle of what panels leave of the main screen. It stays there when
+/// they change, until the user has put it elsewhere.
 class Dialog : public QQuickView {
     Q_OBJECT
 public:
@@ -18,6 +19,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+
+private:
+    void place();
+    bool isWhereItWasPut() const;
+
+    QSize m_wanted;
+    QRect m_placed; ///< as it was put last
 };
 
 } // namespace fendrel

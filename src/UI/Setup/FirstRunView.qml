@@ -42,7 +42,7 @@ FocusScope {
         Label {
             colors: viewColors
             color: viewColors.secondaryText
-            text: qsTr("Pick the modes to start with. Fendrel keeps you in one of them at a time, and asks before you drift into another. You can change everything later.")
+            text: qsTr("Pick the modes to start with. Fendrel keeps you in one of them at a time, and asks before you drift into another. Applications can be added and removed later, in the dock.")
             font.pixelSize: Theme.textLarge
             lineHeight: 1.25
             wrapMode: Text.Wrap
@@ -57,6 +57,12 @@ FocusScope {
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
 
+        // Below the scroller's edge nobody sees where the keyboard is.
+        function reveal(item: Item) {
+            const room = 6
+            contentY = Math.max(item.y + item.height + room - height, Math.min(Math.max(0, item.y - room), contentY))
+        }
+
         Grid {
             id: grid
             x: 40
@@ -67,12 +73,14 @@ FocusScope {
                 model: root.firstRun.templates
 
                 ModeCard {
+                    id: card
                     required property var modelData
                     width: (scroller.width - 80 - 14) / 2
                     colors: viewColors
                     mode: modelData
                     isChosen: root.chosen.includes(modelData.modeID)
                     onToggled: root.toggle(modelData.modeID)
+                    onActiveFocusChanged: if (activeFocus) scroller.reveal(card)
                 }
             }
         }

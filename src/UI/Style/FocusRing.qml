@@ -5,10 +5,11 @@ Rectangle {
     required property Item target
     property color ringColor: "#2f7df0"
     property real targetRadius: Theme.radiusSmall
+    property int gap: 3
 
     anchors.fill: target
-    anchors.margins: -3
-    radius: targetRadius + 3
+    anchors.margins: -gap
+    radius: targetRadius + gap
     color: "transparent"
     border.width: 2
     border.color: ringColor

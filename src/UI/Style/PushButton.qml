@@ -14,7 +14,11 @@ Item {
 
     signal clicked()
 
-    implicitWidth: content.implicitWidth + 8 * Theme.unit
+    readonly property int padding: 4 * Theme.unit
+    readonly property real beside: (symbol === "" ? 0 : mark.width + content.spacing)
+                                   + (detail === "" ? 0 : Math.ceil(detailText.implicitWidth) + content.spacing)
+
+    implicitWidth: Math.ceil(caption.implicitWidth) + beside + 2 * padding
     implicitHeight: 40
     opacity: isEnabled ? 1 : 0.45
     activeFocusOnTab: isEnabled
@@ -62,6 +66,7 @@ Item {
         spacing: 2 * Theme.unit
 
         Symbol {
+            id: mark
             name: button.symbol
             size: 17
             color: button.foreground
@@ -69,6 +74,8 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
         }
         Label {
+            id: caption
+            width: Math.min(Math.ceil(implicitWidth), button.width - button.beside - 2 * button.padding)
             colors: button.colors
             color: button.foreground
             text: button.text
@@ -77,6 +84,7 @@ Item {
             Accessible.ignored: true
         }
         Label {
+            id: detailText
             colors: button.colors
             color: button.foreground
             opacity: 0.72

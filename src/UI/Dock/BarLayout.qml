@@ -1,0 +1,42 @@
+import QtQuick
+
+// How a bar fits its display. Icons shrink first; then the pills, which lose their names; what still does not fit
+// scrolls, the applications before the modes. Everything else keeps its place. Sizes follow from the longest that an item
+// can be, so that they stay when only a text changes.
+QtObject {
+    required property real room        // pixels along the edge, for everything in the bar
+    required property real steady      // of what neither shrinks nor scrolls, at its longest
+    required property real current     // of the same, as it is now
+    required property int modeCount
+    required property real nameLength  // of the longest name of a mode
+    required property int appCount
+    required property int fullIconSize // pixels, where there is room
+    required property real fullSpacing
+
+    readonly property int pillSpacing: 2
+    readonly property int iconRoom: 6       // that an application's place is longer than its icon
+    readonly property int startOfOthers: 17 // before the first application that is not the mode's
+
+    readonly property int leastIconSize: Math.ceil(fullIconSize * 0.6)
+    readonly property real leastApps: Math.min(appCount, 4) * (leastIconSize + iconRoom)
+
+    readonly property bool isCompact: room - steady - pillsLength(36, nameLength) < leastApps
+    readonly property int pillSize: isCompact ? 30 : 36
+
+    readonly property int iconSize: {
+        const left = room - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers
+        const fitting = left / Math.max(1, appCount) - iconRoom - fullSpacing
+        // In steps: other windows move when the bar's depth changes.
+        return Math.max(leastIconSize, Math.min(fullIconSize, 4 * Math.floor(fitting / 4)))
+    }
+    readonly property real spacing: iconSize < fullIconSize ? Math.floor(fullSpacing / 2) : fullSpacing
+
+    readonly property real pillsRoom: Math.max(3 * (pillSize + pillSpacing), room - current - leastApps)
+    function appsRoom(pills: real): real {
+        return Math.max(leastIconSize + iconRoom, room - current - pills)
+    }
+
+    function pillsLength(size: int, name: real): real {
+        return modeCount * (size + pillSpacing) - pillSpacing + name
+    }
+}

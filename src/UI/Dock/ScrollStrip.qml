@@ -1,0 +1,105 @@
+import QtQuick
+import Fendrel.Style
+
+// A row of items, or a column, that shows as much of itself as it is given and scrolls the rest: with the wheel, by
+// dragging, and by itself to what has the keyboard.
+Item {
+    id: strip
+
+    required property bool isVertical
+    required property real room // pixels along the bar
+    property bool isMoving: true // a changed length is gone through, not jumped to
+
+    default property alias content: line.data
+    property alias spacing: line.spacing
+    property alias add: line.add
+    property alias move: line.move
+
+    property real fullLength: isVertical ? line.implicitHeight : line.implicitWidth // when all movement is over
+    readonly property real length: Math.min(fullLength, room)
+    readonly property bool isCut: fullLength > room + 1
+    readonly property real position: isVertical ? flickable.contentY : flickable.contentX
+
+    implicitWidth: isVertical ? line.implicitWidth : length
+    implicitHeight: isVertical ? length : line.implicitHeight
+    width: implicitWidth
+    height: implicitHeight
+    Behavior on width { enabled: strip.isMoving && !strip.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+    Behavior on height { enabled: strip.isMoving && strip.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+
+    // How visible an item is: those at a cut edge fade, as a hint that there are more.
+    function visibility(item: Item): real {
+        if (!isCut)
+            return 1
+        const length = isVertical ? item.height : item.width
+        const start = (isVertical ? item.y : item.x) - position
+        const before = position > 1 ? start : length
+        const after = position + room < fullLength - 1 ? room - start - length : length
+        return Math.max(0, Math.min(1, (Math.min(before, after) + length) / (1.4 * length)))
+    }
+
+    property Item revealed: null
+    function reveal(item: Item) {
+        revealed = item
+        if (!isCut || !item)
+            return
+        const length = isVertical ? item.height : item.width
+        const start = isVertical ? item.y : item.x
+        const beyond = 0.6 * length // shows what comes next, too
+        scrollTo(Math.max(start + length + beyond - room, Math.min(start - beyond, glide.running ? glide.to : position)))
+    }
+    function scrollTo(wanted: real) {
+        glide.to = Math.max(0, Math.min(fullLength - room, wanted))
+        glide.restart()
+    }
+    onFullLengthChanged: reveal(revealed)
+    onRoomChanged: reveal(revealed)
+    onIsCutChanged: if (!isCut) rewind()
+    onIsVerticalChanged: rewind()
+    function rewind() {
+        glide.stop()
+        flickable.contentX = 0
+        flickable.contentY = 0
+    }
+
+    Flickable {
+        id: flickable
+
+        // Icons grow and hop beyond the bar; only its ends cut them off.
+        readonly property int overhang: 32
+        x: strip.isVertical ? -overhang : 0
+        y: strip.isVertical ? 0 : -overhang
+        width: strip.width - 2 * x
+        height: strip.height - 2 * y
+        contentWidth: strip.isVertical ? width : strip.fullLength
+        contentHeight: strip.isVertical ? strip.fullLength : height
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: strip.isCut
+        clip: strip.isCut
+        onMovementStarted: { glide.stop(); strip.revealed = null }
+
+        Line {
+            id: line
+            x: -flickable.x
+            y: -flickable.y
+            isVertical: strip.isVertical
+        }
+    }
+
+    NumberAnimation {
+        id: glide
+        target: flickable
+        property: strip.isVertical ? "contentY" : "contentX"
+        duration: Theme.normal
+        easing.type: Easing.OutCubic
+    }
+    WheelHandler {
+        enabled: strip.isCut
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onWheel: event => {
+            const turn = Math.abs(event.angleDelta.y) >= Math.abs(event.angleDelta.x) ? event.angleDelta.y : event.angleDelta.x
+            strip.revealed = null
+            strip.scrollTo((glide.running ? glide.to : strip.position) - turn * 0.9)
+        }
+    }
+}
