@@ -1,5 +1,5 @@
-// One tick of the dock timer while nothing is to be done: time, and allocations, of which there must be none. The floor
-// is asking the clock. The window system is not asked at all: its fakes count every call.
+// One tick of the dock timer while nothing is to be done: time, and allocations, of which there must be none.
+// The floor is asking the clock. The window system is not asked at all: its fakes count every call.
 
 #include "App/AppController.h"
 #include "fakes/FakePlatform.h"
@@ -31,18 +31,35 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+class CountedDisplays final : public Displays {
+public:
+    QList<Display> all() const override {
+        ++questions;
+        return displays;
+    }
+    QList<Display> displays;
+    mutable std::size_t questions = 0;
+};
+
 void tick(benchmark::State& state) {
     FakePlatform fake;
     fake.platform.settings->set(u"autoHide"_s, true);
     fake.platform.settings->set(u"dockDisplay"_s, u"all"_s);
-    fake.displays->displays.append(
-        {.id = u"second"_s, .frame = {1920, 0, 1920, 1080}, .workArea = {1920, 0, 1920, 1080}, .isMain = false, .space = u"1"_s});
+    auto counted = std::make_unique<CountedDisplays>();
+    const CountedDisplays& displays = *counted;
+    for (const QString& id : {u"first"_s, u"second"_s}) {
+        const QRect area(1920 * static_cast<int>(counted->displays.size()), 0, 1920, 1080);
+        counted->displays.append({.id = id, .frame = area, .workArea = area, .space = u"1"_s});
+    }
+    fake.platform.displays = std::move(counted);
     AppController controller(fake.platform);
     controller.launch();
-    const std::size_t before = allocations;
+    const std::size_t allocationsBefore = allocations;
+    const std::size_t questionsBefore = displays.questions;
     for (auto _ : state)
         controller.updateAutoHide();
-    state.counters["allocations"] = static_cast<double>(allocations - before);
+    state.counters["allocations"] = static_cast<double>(allocations - allocationsBefore);
+    state.counters["questions"] = static_cast<double>(displays.questions - questionsBefore);
 }
 BENCHMARK(tick);
 

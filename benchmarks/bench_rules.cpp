@@ -1,12 +1,12 @@
-// How long the modes' lists take to answer, for lists of very different lengths. The floor is one look-up of the whole
-// host in a hash table of as many; what the suffixes cost comes on top.
+// How long the modes' lists take to answer, for lists of very different lengths. The floor is one look-up of
+// the whole host in a hash table of as many; what the suffixes cost comes on top.
 
 #include "Modes/ModeIndex.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QHash>
 #include <QRandomGenerator>
+
+#include <benchmark/benchmark.h>
 
 using namespace fendrel;
 using namespace Qt::StringLiterals;
@@ -27,7 +27,8 @@ QList<Mode> modes(int count) {
     return list;
 }
 
-/// What is asked for, in an order that no cache can foresee: subdomains of listed sites, and as many unlisted hosts.
+/// What is asked for, in an order that no cache can foresee: subdomains of listed sites, and as many unlisted
+/// hosts.
 QStringList questions(int count) {
     QStringList list;
     QRandomGenerator random(1);

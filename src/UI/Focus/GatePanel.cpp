@@ -7,6 +7,8 @@
 #include "UI/Images/AppIcons.h"
 #include "UI/ScreenSpace.h"
 
+#include <QMoveEvent>
+
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
@@ -64,7 +66,9 @@ void GatePanel::gateChanged() {
 void GatePanel::comeForward() {
     m_display = display();
     // A frameless window of exactly a display's size counts as full-screen, and goes above every dock: one line more.
-    setGeometry(ScreenSpace::toLogical(m_display.frame).adjusted(0, 0, 0, 1));
+    m_cover = ScreenSpace::toLogical(m_display.frame).adjusted(0, 0, 0, 1);
+    m_movesLeft = 3;
+    setGeometry(m_cover);
     leaveOutDock();
     show();
     m_controller.platform().panels->activate(winId());
@@ -92,6 +96,13 @@ void GatePanel::leaveOutDock() {
         room.setRight(bar.left() - 1);
     m_cardArea = room.translated(-cover.topLeft());
     Q_EMIT cardAreaChanged();
+}
+
+/// Window managers place a new window beside the panels, this one too. It insists, but not for ever.
+void GatePanel::moveEvent(QMoveEvent* event) {
+    QQuickView::moveEvent(event);
+    if (isVisible() && event->pos() != m_cover.topLeft() && m_movesLeft-- > 0)
+        setGeometry(m_cover);
 }
 
 void GatePanel::closed() {

@@ -53,6 +53,9 @@ Q_SIGNALS:
     void attentionAsked();
     void cardAreaChanged();
 
+protected:
+    void moveEvent(QMoveEvent* event) override;
+
 private:
     void gateChanged();
     void comeForward();
@@ -62,6 +65,8 @@ private:
     AppIcons& m_icons;
     Display m_display; ///< the one that is covered
     QRectF m_cardArea;
+    QRect m_cover;       ///< where the window is to be
+    int m_movesLeft = 0; ///< how often it still goes back there
 };
 
 } // namespace fendrel

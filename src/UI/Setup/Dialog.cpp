@@ -15,6 +15,8 @@ Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, co
     setInitialProperties(properties);
     setSource(QUrl(u"qrc:/qml/Fendrel/"_s + view));
     setResizeMode(SizeRootObjectToView);
+    if (rootObject())
+        rootObject()->setFocus(true); // or no key reaches the view
     if (size.isEmpty() && rootObject())
         size = QSizeF(rootObject()->implicitWidth(), rootObject()->implicitHeight()).toSize();
     m_wanted = size;
