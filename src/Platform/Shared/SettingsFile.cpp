@@ -45,7 +45,7 @@ void SettingsFile::set(const QString& key, StoredValue value, Urgency urgency) {
         m_document.insert(key, StoredValueJson::encode(value));
         m_values.insert(key, value);
         if (!std::exchange(m_isUnwritten, true) && urgency == Urgency::relaxed)
-            m_relaxedWrite = m_clock.after(15s, [this] { write(); });
+            m_relaxedWrite = m_clock.after(30s, [this] { write(); });
     }
     if (urgency == Urgency::atOnce && m_isUnwritten)
         write();

@@ -22,7 +22,7 @@ DockItem {
 
     readonly property real longest: isVertical ? 48 : 132 // with hours and minutes left
 
-    width: implicitWidth
+    width: Math.ceil(implicitWidth / 12) * 12 // in steps, so that a minute less moves nothing
     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
     Rectangle {

@@ -1,0 +1,125 @@
+"""What is told of each measurement: its figures, their goals, and what they are compared with."""
+
+import dataclasses
+import statistics
+
+
+@dataclasses.dataclass
+class Row:
+    what: str
+    value: float
+    unit: str
+    goal: float | None = None   # at most this
+    other: float | None = None  # what the floor or peer takes
+    other_name: str = ""
+    more: str = ""
+
+    def is_missed(self):
+        return self.goal is not None and self.value > self.goal
+
+    def cells(self):
+        compared = f"{self.other_name} {number(self.other)} {self.unit}" if self.other is not None else ""
+        ratio = self.value / self.other if self.other else 0
+        goal = f"{number(self.goal)} {self.unit}".strip() if self.goal is not None else ""
+        verdict = "" if self.goal is None else "MISSED" if self.is_missed() else "met"
+        measured = f"{number(self.value)} {self.unit}".strip()
+        return [self.what, measured, self.more, goal, verdict, compared.strip(),
+                "" if not ratio else f"{ratio:.2g}" if ratio > 0.1 else f"1/{1 / ratio:.0f}"]
+
+
+def table(rows):
+    lines = [["Figure", "Measured", "Spread", "Goal", "Result", "Compared with", "Ratio"]] + [row.cells() for row in rows]
+    widths = [max(len(line[column]) for line in lines) for column in range(len(lines[0]))]
+    texts = ["| " + " | ".join(cell.ljust(width) for cell, width in zip(line, widths)) + " |" for line in lines]
+    return "\n".join([texts[0], "| " + " | ".join("-" * max(3, width) for width in widths) + " |", *texts[1:]])
+
+
+def number(value):
+    return f"{value:.0f}" if value >= 100 or value == int(value) else f"{value:.3g}"
+
+
+def percentile(samples, percent):
+    return sorted(samples)[min(len(samples) - 1, len(samples) * percent // 100)]
+
+
+def latency(what, samples, unit, goal=None, floor=None, floor_name="floor"):
+    """The 95th percentile against the goal."""
+    return Row(what + ", p95", percentile(samples, 95), unit, goal,
+               percentile(floor, 95) if floor else None, floor_name,
+               f"p50 {number(statistics.median(samples))}, max {number(max(samples))}, of {len(samples)}")
+
+
+def rules(cases):
+    def took(name):
+        return cases[name]["ns"]
+    return [
+        Row("Rule for a site, 10,000 listed", took("site/10000"), "ns", 150, took("siteFloor/10000"), "hash look-up"),
+        Row("  100,000 listed against 100", took("site/100000") / took("site/100"), "times", 4,
+            took("siteFloor/100000") / took("siteFloor/100"), "hash look-up"),
+        Row("  10,000 listed against a walk", took("site/10000"), "ns", None, took("siteLoop/10000"), "walk"),
+        Row("Rule for an application, 10,000 listed", took("application/10000"), "ns"),
+        Row("  100,000 listed against 100", took("application/100000") / took("application/100"), "times"),
+    ]
+
+
+def dock_tick(cases):
+    tick = cases["tick"]
+    return [
+        Row("Idle dock tick", tick["ns"], "ns", None, cases["clockFloor"]["ns"], "asking the clock"),
+        Row("  allocations", tick["allocations"], "", 0),
+        Row("  questions to the window system", tick["questions"], "", 0),
+    ]
+
+
+def verdict_cache(cases):
+    def milliseconds(name):
+        return cases[name]["ns"] / 1e6
+    return [
+        Row("Saving 10,000 verdicts", milliseconds("save"), "ms", 5, milliseconds("write"), "writing the same bytes"),
+        Row("  making the file's text", milliseconds("encode"), "ms", None, milliseconds("encodeAsObject"),
+            "a Qt JSON object"),
+        Row("  the main thread's part", milliseconds("answerAndSave") * 1e3, "us"),
+        Row("Reading 10,000 verdicts", milliseconds("decode"), "ms"),
+    ]
+
+
+def front(answer):
+    def both(what, name, goal):
+        ours, floor = answer[name], answer[f"{name}Floor"]
+        return [
+            latency(what, [each / 1e3 for each in ours["latencies"]], "ms", goal,
+                    [each / 1e3 for each in floor["latencies"]], "bare client"),
+            Row("  processor time", ours["processor"], "us", None, floor["processor"], "bare client"),
+        ]
+    still = answer["stillness"]
+    return [*both("Title change to front", "title", 5), *both("Activation to front", "activation", 10),
+            Row(f"Wake-ups in {still['seconds']:.0f} s without a change", still["wakeUps"], "", 0)]
+
+
+def gate(answer):
+    return [latency("Front change to gate mapped", answer["mapped"], "ms", 100, answer["active"], "window active"),
+            latency("  to gate drawn", answer["drawn"], "ms")]
+
+
+def start(answer):
+    ours, peer = answer["fendrel"], answer["empty"]
+    return [
+        Row("Start to first dock frame, median", statistics.median(ours["wall"]), "ms", None,
+            statistics.median(peer["wall"]), "empty window",
+            f"max {number(max(ours['wall']))}, of {len(ours['wall'])}"),
+        Row("  processor time", statistics.median(ours["processor"]), "ms", None,
+            statistics.median(peer["processor"]), "empty window"),
+    ]
+
+
+def idle(answer):
+    rows = []
+    for state, what in (("idle", "Idle"), ("focus", "Focus session of an hour, idle")):
+        ours, peer = answer[state]["fendrel"], answer[state]["empty"]
+        rows += [
+            Row(f"{what}: processor time in {answer['seconds']:.0f} s", ours["processor"], "ms", None,
+                peer["processor"], "empty window"),
+            Row("  wake-ups of all threads", ours["wakeUps"], "", None, peer["wakeUps"], "empty window"),
+            Row("  memory (proportional)", ours["memory"], "MB", None, peer["memory"], "empty window"),
+        ]
+    return rows
