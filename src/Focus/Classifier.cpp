@@ -113,7 +113,8 @@ void Classifier::ask(const Subject& subject) {
             }
             const auto elapsed = m_clock.continuousNow() - start;
             m_modelTimes.record(elapsed);
-            qCDebug(logFocus).noquote() << "model" << std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()
+            qCDebug(logFocus).noquote() << "model"
+                                        << std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count()
                                         << "ms for" << Private{plainName(subject)};
             answered(subject, ModelQuestion::verdict(*answer, modeIDs));
         });

@@ -86,8 +86,8 @@ void DriftHandling::modesChanged() {
     const auto blocked = m_gate.blocked();
     if (!blocked)
         return;
-    const bool isStopped = blocked->owner && blocked->owner->id != m_engine.current().id &&
-                           m_engine.mode(blocked->owner->id);
+    const bool isStopped =
+        blocked->owner && blocked->owner->id != m_engine.current().id && m_engine.mode(blocked->owner->id);
     if (!isStopped || fits(blocked->bundleID))
         letThrough(*blocked);
 }

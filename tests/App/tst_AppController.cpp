@@ -64,6 +64,14 @@ private Q_SLOTS:
         QCOMPARE(modesAfter({}), u"writing: writing building social"_s);
         QCOMPARE(modesAfter({u"nonsense"_s}), u"writing: writing building social"_s);
         QCOMPARE(modesAfter({u"study"_s, u"nonsense"_s, u"building"_s, u"study"_s}), u"building: building study"_s);
+
+        ControllerWorld world;
+        world.fake.settings->values.clear();
+        AppController& controller = world.launch();
+        controller.engine().addApp(u"org.own"_s, u"writing"_s);
+        controller.finishOnboarding({u"writing"_s});
+        controller.finishOnboarding({u"study"_s}); // it happens once
+        QVERIFY(controller.engine().current().apps.contains(u"org.own"_s));
     }
 
     void judgesWindowsOfOthersAtOnce() {
@@ -86,6 +94,33 @@ private Q_SLOTS:
         world.front(chat);
         world.fake.clock->advance(60s);
         QCOMPARE(world.gated(), QString());
+    }
+
+    void anEditIsANewJudgement() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        world.front(world.run(world.chat));
+        controller.focus().start();
+        QCOMPARE(world.gated(), world.chat);
+        controller.engine().addApp(world.chat, u"writing"_s);
+        QCOMPARE(world.gated(), QString());
+        controller.engine().removeApp(world.chat, u"writing"_s);
+        QCOMPARE(world.gated(), world.chat);
+        controller.engine().deleteMode(u"social"_s);
+        QCOMPARE(world.gated(), QString());
+    }
+
+    void aStayGoesBackToTheCurrentModeOnly() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        world.front(world.run(world.notes));
+        world.commit(u"building"_s);
+        controller.focus().start();
+        world.run(world.code);
+        world.front(world.run(world.chat));
+        world.takeRequests();
+        controller.drift().stay();
+        QCOMPARE(world.takeRequests(), QStringList{u"open "_s + world.code});
     }
 
     void theWaitFollowsSettingsAndAllowance() {

@@ -18,9 +18,9 @@ QString scalar(const QJsonValue& value) {
 }
 
 void print(QString& text, const QJsonValue& value, int depth) {
-    const QString indent(depth * 2, u' ');
+    const QString indent(qsizetype{2} * depth, u' ');
     if (value.isArray()) {
-        for (const QJsonValue& item : value.toArray()) {
+        for (const auto& item : value.toArray()) {
             if (item.isObject() || item.isArray())
                 print(text, item, depth);
             else
@@ -56,7 +56,8 @@ QString plainText(const QJsonValue& value) {
 
 QString modesText(const QJsonValue& modes) {
     QString text;
-    for (const QJsonValue& mode : modes.toArray()) {
+    for (const auto& each : modes.toArray()) {
+        const QJsonObject mode = each.toObject();
         text += mode[u"id"].toString() + u'\t' + mode[u"name"].toString() +
                 (mode[u"current"].toBool() ? u"\t*\n"_s : u"\n"_s);
     }

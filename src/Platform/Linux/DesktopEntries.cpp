@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto changesSettle = 500ms; // an installation touches a folder many times
-constexpr qint64 sizeLimit = 1024 * 1024;
+constexpr qint64 sizeLimit = 1 << 20;
 
 QString idOf(const QString& folder, const QString& path) {
     QString id = path.sliced(folder.size() + 1);

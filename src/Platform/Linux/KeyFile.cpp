@@ -6,7 +6,7 @@ namespace fendrel {
 
 namespace {
 
-constexpr qint64 sizeLimit = 4 * 1024 * 1024; // nothing honest is near it
+constexpr qint64 sizeLimit = 4 << 20; // nothing honest is near it
 
 } // namespace
 

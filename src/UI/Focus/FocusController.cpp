@@ -8,8 +8,7 @@ FocusController::FocusController(AppController& controller)
     : m_controller(controller),
       m_session(
           *controller.platform().clock, Countdown::Unit::minuteThenSecond,
-          [this] { return m_controller.focus().remaining(); },
-          [this] { Q_EMIT changed(); }),
+          [this] { return m_controller.focus().remaining(); }, [this] { Q_EMIT changed(); }),
       m_pending(
           *controller.platform().clock, Countdown::Unit::second,
           [this] { return std::optional(m_controller.engine().pendingRemaining()); },
