@@ -27,7 +27,7 @@ QImage windowIcon(const QList<quint32>& property) {
     QImage image(static_cast<int>(property[best]), static_cast<int>(property[best + 1]), QImage::Format_ARGB32);
     const auto width = static_cast<std::size_t>(image.width());
     for (int row = 0; row < image.height(); ++row)
-        std::memcpy(image.scanLine(row), property.constData() + best + 2 + row * image.width(), width * 4);
+        std::memcpy(image.scanLine(row), property.constData() + best + 2 + qsizetype{row} * image.width(), width * 4);
     return image;
 }
 
