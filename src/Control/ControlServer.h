@@ -1,15 +1,12 @@
 #pragma once
 
-#include "Base/LineFramer.h"
+#include "Base/LineServer.h"
 #include "Control/CommandHandlers.h"
 
 #include <QJsonObject>
-#include <QLocalServer>
 #include <QObject>
 
-#include <map>
-
-class QLocalSocket;
+#include <set>
 
 namespace fendrel {
 
@@ -22,30 +19,22 @@ class ControlServer : public QObject {
     Q_OBJECT
 public:
     ControlServer(AppController& controller, const QString& dataFolder);
-    ~ControlServer() override;
 
     /// To be called while this process holds the instance lock: whatever lies at the socket's path is then left over.
     /// False, with a line in the log, when the socket cannot be opened; everything else works without it.
     bool listen();
 
 private:
-    struct Client {
-        LineFramer framer;
-        bool isWatching = false;
-    };
-
-    void accept();
-    void receive(QLocalSocket* socket);
-    void handle(QLocalSocket* socket, const QByteArray& line);
-    void startWatching(QLocalSocket* socket);
+    void handle(LineServer::ConnectionID client, const QByteArray& line);
+    void startWatching(LineServer::ConnectionID client);
     void scheduleReport();
     void report();
 
     AppController& m_controller;
     QString m_path;
     CommandHandlers m_handlers;
-    QLocalServer m_server;
-    std::map<QLocalSocket*, Client> m_clients;
+    LineServer m_server;
+    std::set<LineServer::ConnectionID> m_watchers;
     QJsonObject m_reported; ///< marker of what the watchers were told last
     bool m_isReportDue = false;
 };

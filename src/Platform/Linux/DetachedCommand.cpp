@@ -1,7 +1,7 @@
 #include "Platform/Linux/DetachedCommand.h"
 
+#include "Base/FileDescriptor.h"
 #include "Platform/Linux/ForeignEnvironment.h"
-#include "Platform/Shared/FileDescriptor.h"
 
 #include <QSocketNotifier>
 

@@ -1,7 +1,7 @@
 #include "Platform/Shared/CrashReporter.h"
 
+#include "Base/FileDescriptor.h"
 #include "Base/Log.h"
-#include "Platform/Shared/FileDescriptor.h"
 #include "Platform/Shared/SignalSafeText.h"
 
 #include <QDir>

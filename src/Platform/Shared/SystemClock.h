@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Shared/FileDescriptor.h"
+#include "Base/FileDescriptor.h"
 #include "Platform/Shared/Listeners.h"
 #include "Platform/Shared/TimerQueue.h"
 #include "Ports/Clock.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Shared/FileDescriptor.h"
+#include "Base/FileDescriptor.h"
 
 #include <QSocketNotifier>
 
