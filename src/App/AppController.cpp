@@ -1,5 +1,7 @@
 #include "App/AppController.h"
 
+#include "Focus/HostManifests.h"
+
 #include <algorithm>
 
 namespace fendrel {
@@ -20,12 +22,14 @@ AppController::AppController(Platform& platform)
       m_preferences(*platform.settings, *platform.look),
       m_focus(*platform.settings, *platform.clock),
       m_titles(*platform.accessibility),
+      m_bridge(*platform.applications, platform.isPeerOwnUser),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
       m_classifier(m_engine, *platform.languageModel, *platform.clock,
                    VerdictCache(platform.folders.data, *platform.disk),
                    [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
       m_gate(*platform.clock),
-      m_drift(m_engine, m_classifier, m_focus, m_gate, m_workspace, *platform.applications, *platform.clock),
+      m_drift(m_engine, m_classifier, m_focus, m_gate, m_bridge, m_workspace, *platform.applications, *platform.clock),
+      m_browserStates(m_engine, m_classifier, m_focus, m_drift.sites(), m_bridge),
       m_router(m_titles, m_classifier, m_drift),
       m_tidyUp(m_workspace, m_engine.catalog()),
       m_feedback(*platform.settings, *platform.shell, platform.folders.crashes) {}
@@ -48,7 +52,15 @@ void AppController::start() {
     if (!isOnboardingDone())
         onShowOnboarding();
     layoutDocks();
+    installHostManifests();
+    m_bridge.listen(m_platform.folders.data);
     m_router.appDidActivate(m_platform.applications->frontmost());
+}
+
+void AppController::installHostManifests() {
+    m_platform.disk->post(u"host manifests"_s, [browsers = m_platform.browsers, relay = m_platform.relay] {
+        hostManifests::install(browsers, relay);
+    });
 }
 
 const QStringList& AppController::settingsPanes() {

@@ -8,6 +8,8 @@
 #include "App/Workspace.h"
 #include "Dock/AutoHide.h"
 #include "Dock/DockPlacement.h"
+#include "Focus/BrowserBridge.h"
+#include "Focus/BrowserStates.h"
 #include "Focus/Classifier.h"
 #include "Focus/DriftBudget.h"
 #include "Focus/DriftHandling.h"
@@ -71,6 +73,7 @@ public:
     Preferences& preferences() { return m_preferences; }
     FocusSession& focus() { return m_focus; }
     WindowTitles& titles() { return m_titles; }
+    BrowserBridge& bridge() { return m_bridge; }
     Workspace& workspace() { return m_workspace; }
     Classifier& classifier() { return m_classifier; }
     Gate& gate() { return m_gate; }
@@ -83,6 +86,7 @@ Q_SIGNALS:
 private:
     void wire();
     void start();
+    void installHostManifests();
     void layoutDocks();
     void scheduleDockTimer();
     void changeAutoHide(const QString& displayID, const std::function<void(AutoHide&, ContinuousTime)>& change);
@@ -98,10 +102,12 @@ private:
     Preferences m_preferences;
     FocusSession m_focus;
     WindowTitles m_titles;
+    BrowserBridge m_bridge;
     Workspace m_workspace;
     Classifier m_classifier;
     Gate m_gate;
     DriftHandling m_drift;
+    BrowserStates m_browserStates;
     EventRouter m_router;
     TidyUp m_tidyUp;
     Feedback m_feedback;

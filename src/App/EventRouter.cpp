@@ -27,10 +27,21 @@ void EventRouter::windowDidChange(const std::optional<WindowTitles::Front>& fron
         return;
     if (front && !front->title && m_titles.isTrusted())
         m_drift.windowsGone(front->bundleID);
-    if (front)
+    // Of a browser the page is judged. One that has not told of any yet is judged as the application that it is.
+    const auto tab = front ? m_drift.sites().activeTab(front->pid) : std::nullopt;
+    if (tab)
+        m_drift.judge(*tab);
+    else if (front)
         m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
     else
         m_classifier.clearFront();
+}
+
+void EventRouter::tabDidChange(const BrowserTab& tab) {
+    if (isOnboardingDone())
+        m_drift.judge(tab);
+    else
+        m_drift.sites().remember(tab);
 }
 
 void EventRouter::judgeFrontAgain() {

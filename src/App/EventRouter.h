@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Focus/BrowserTab.h"
 #include "Focus/WindowTitles.h"
 
 #include <functional>
@@ -21,6 +22,8 @@ public:
     void appDidActivate(const std::optional<RunningApp>& app);
     /// The front application or the title of its window changed.
     void windowDidChange(const std::optional<WindowTitles::Front>& front);
+    /// A browser told of its active tab.
+    void tabDidChange(const BrowserTab& tab);
     /// Judges what is in front once more, when what it is judged by has changed.
     void judgeFrontAgain();
 

@@ -10,7 +10,9 @@ void AppController::wire() {
     applications.onInstalledChanged = [this] { m_workspace.refreshInstalled(); };
     applications.onRunningChanged = [this] {
         m_workspace.refreshRunning();
+        m_bridge.runningChanged();
         m_drift.runningChanged();
+        installHostManifests(); // a browser that is started for the first time has its folder from now on
     };
     applications.onActivated = [this](const std::optional<RunningApp>& app) {
         m_workspace.refreshRunning();
@@ -21,6 +23,15 @@ void AppController::wire() {
         m_router.windowDidChange(front);
         updateActiveDisplay();
     };
+
+    m_bridge.onTab = [this](const BrowserTab& tab) { m_router.tabDidChange(tab); };
+    m_bridge.onAsk = [this](BrowserID browser, TabID tab) {
+        m_drift.sites().askedFor({.browser = browser, .tab = tab});
+    };
+    m_bridge.onClosed = [this](BrowserID browser, TabID tab) {
+        m_drift.sites().tabClosed({.browser = browser, .tab = tab});
+    };
+    m_bridge.onGone = [this](BrowserID browser) { m_drift.sites().browserGone(browser); };
 
     m_platform.displays->onChanged = [this] { layoutDocks(); };
     m_platform.displays->onSpaceChanged = [this] { updateAutoHide(); };

@@ -87,11 +87,18 @@ QJsonValue gate(const Gate& gate, StatusForm form) {
     const auto& blocked = gate.blocked();
     if (!blocked)
         return {};
-    QJsonObject object{{u"kind"_s, u"app"_s},
-                       {u"bundleID"_s, blocked->bundleID},
-                       {u"name"_s, blocked->name},
+    QJsonObject object{{u"name"_s, blocked->name},
                        {u"owner"_s, blocked->owner ? QJsonValue(blocked->owner->id) : QJsonValue()},
                        {u"note"_s, text(blocked->note)}};
+    if (const Gate::Site* site = blocked->site()) {
+        object.insert(u"kind"_s, u"site"_s);
+        object.insert(u"host"_s, site->host);
+        object.insert(u"browser"_s, static_cast<int>(site->tab.browser));
+        object.insert(u"tabId"_s, static_cast<qint64>(site->tab.tab));
+    } else {
+        object.insert(u"kind"_s, u"app"_s);
+        object.insert(u"bundleID"_s, blocked->app()->bundleID);
+    }
     if (form == StatusForm::shown)
         object.insert(u"secondsWaited"_s, tenths(gate.waited()));
     return object;
@@ -106,6 +113,37 @@ QJsonObject budgets(AppController& controller) {
                                            {u"inMode"_s, tenths(budget.inMode(mode.id))}});
     }
     return object;
+}
+
+QJsonValue tab(const std::optional<BrowserTab>& tab) {
+    if (!tab)
+        return {};
+    return QJsonObject{{u"id"_s, static_cast<qint64>(tab->tabID)},
+                       {u"url"_s, tab->url.toString(QUrl::FullyEncoded)},
+                       {u"title"_s, tab->title},
+                       {u"site"_s, text(tab->site())}};
+}
+
+QJsonArray browsers(AppController& controller) {
+    QJsonArray list;
+    for (const BrowserBridge::Browser& browser : controller.bridge().browsers()) {
+        list.append(QJsonObject{{u"id"_s, static_cast<int>(browser.id)},
+                                {u"app"_s, browser.app ? QJsonValue(browser.app->bundleID) : QJsonValue()},
+                                {u"tab"_s, tab(controller.drift().sites().activeTab(browser.id))}});
+    }
+    return list;
+}
+
+QJsonArray veils(AppController& controller) {
+    QJsonArray list;
+    for (const SiteDrift::Veiled& veiled : controller.drift().sites().veiledTabs()) {
+        list.append(QJsonObject{{u"browser"_s, static_cast<int>(veiled.tab.browser)},
+                                {u"tabId"_s, static_cast<qint64>(veiled.tab.tabID)},
+                                {u"site"_s, veiled.site},
+                                {u"owner"_s, veiled.owner.id},
+                                {u"asked"_s, veiled.asked}});
+    }
+    return list;
 }
 
 QJsonObject dock(AppController& controller) {
@@ -126,11 +164,36 @@ QJsonObject status(AppController& controller, StatusForm form) {
         {u"front"_s, front(controller.titles())},
         {u"judgement"_s, judgement(controller.classifier())},
         {u"gate"_s, gate(controller.gate(), form)},
+        {u"browsers"_s, browsers(controller)},
+        {u"veils"_s, veils(controller)},
         {u"budgets"_s, budgets(controller)},
         {u"dock"_s, dock(controller)},
         {u"onboarding"_s, QJsonObject{{u"done"_s, controller.isOnboardingDone()}}},
     };
 }
+
+namespace {
+
+QString reason(drift::Decision decision) {
+    switch (decision) {
+    case drift::Decision::noMode:
+        return u"What belongs to no mode is never stopped."_s;
+    case drift::Decision::currentMode:
+        return u"That is the current mode."_s;
+    case drift::Decision::notCertain:
+        return u"Only what is certain is stopped."_s;
+    case drift::Decision::allowedOnce:
+        return u"You allowed it for this session."_s;
+    case drift::Decision::noFocus:
+        return u"That isn't the current mode, but without a focus session nothing is stopped."_s;
+    case drift::Decision::notInFront:
+    case drift::Decision::gate:
+        break;
+    }
+    return u"That isn't the current mode, and a focus session is on: it is stopped."_s;
+}
+
+} // namespace
 
 QJsonObject explanation(AppController& controller) {
     const auto& front = controller.classifier().front();
@@ -163,29 +226,7 @@ QJsonObject explanation(AppController& controller) {
                 belongs, enumName(verdict.certainty), verdict.what));
             break;
         }
-        if (const auto* app = std::get_if<AppSubject>(&front->subject)) {
-            switch (controller.drift().decide(verdict, *app)) {
-            case drift::Decision::noMode:
-                because.append(u"What belongs to no mode is never stopped."_s);
-                break;
-            case drift::Decision::currentMode:
-                because.append(u"That is the current mode."_s);
-                break;
-            case drift::Decision::notCertain:
-                because.append(u"Only what is certain is stopped."_s);
-                break;
-            case drift::Decision::allowedOnce:
-                because.append(u"You allowed it for this session."_s);
-                break;
-            case drift::Decision::noFocus:
-                because.append(u"That isn't the current mode, but without a focus session nothing is stopped."_s);
-                break;
-            case drift::Decision::notInFront:
-            case drift::Decision::gate:
-                because.append(u"That isn't the current mode, and a focus session is on: it is stopped."_s);
-                break;
-            }
-        }
+        because.append(reason(controller.drift().decide(verdict, front->subject)));
     }
     return {{u"subject"_s, subjectObject(front->subject)},
             {u"verdict"_s, verdictObject(front->verdict)},

@@ -1,6 +1,7 @@
 #include "Focus/DriftHandling.h"
 
 #include "App/Workspace.h"
+#include "Base/Overloaded.h"
 #include "Focus/Classifier.h"
 #include "Focus/FocusSession.h"
 #include "Modes/ModeEngine.h"
@@ -12,25 +13,45 @@ namespace fendrel {
 using namespace std::chrono_literals;
 
 DriftHandling::DriftHandling(ModeEngine& engine, Classifier& classifier, const FocusSession& focus, Gate& gate,
-                             Workspace& workspace, Applications& applications, Clock& clock)
+                             BrowserBridge& bridge, Workspace& workspace, Applications& applications, Clock& clock)
     : m_engine(engine),
       m_classifier(classifier),
       m_focus(focus),
       m_gate(gate),
       m_workspace(workspace),
       m_applications(applications),
-      m_clock(clock) {}
+      m_clock(clock),
+      m_sites(engine, classifier, focus, gate, bridge, applications, clock) {
+    m_sites.classify = [this](const Subject& subject, const BrowserTab& tab) { classify(subject, tab); };
+}
 
-void DriftHandling::classify(const Subject& subject) {
+/// Before the first run is over there are no modes of the user's own, and nothing to guard.
+bool DriftHandling::isGuarding() const {
+    return !m_engine.modes().isEmpty() || isOnboardingDone();
+}
+
+void DriftHandling::classify(const Subject& subject, const std::optional<BrowserTab>& tab) {
     m_lastSubject = subject;
-    m_judgement = m_classifier.judge(subject, [this, subject](const std::optional<Verdict>& verdict) {
+    m_judgement = m_classifier.judge(subject, [this, subject, tab](const std::optional<Verdict>& verdict) {
         const auto& front = m_classifier.front();
         if (verdict && front && front->subject == subject)
-            act(*verdict, subject);
+            act(*verdict, subject, tab);
     });
 }
 
-drift::Decision DriftHandling::decide(const Verdict& verdict, const AppSubject& app) const {
+void DriftHandling::judge(const BrowserTab& tab) {
+    m_sites.remember(tab);
+    if (isGuarding())
+        m_sites.judge(tab);
+}
+
+drift::Decision DriftHandling::decide(const Verdict& verdict, const Subject& subject) const {
+    return std::visit(Overloaded{[&](const AppSubject& app) { return decideApp(verdict, app); },
+                                 [&](const SiteSubject& site) { return m_sites.decide(verdict, site.host); }},
+                      subject);
+}
+
+drift::Decision DriftHandling::decideApp(const Verdict& verdict, const AppSubject& app) const {
     const auto frontmost = m_applications.frontmost();
     return drift::decide({.modeExists = verdict.modeID && m_engine.mode(*verdict.modeID),
                           .isCurrentMode = verdict.modeID == m_engine.current().id,
@@ -40,21 +61,26 @@ drift::Decision DriftHandling::decide(const Verdict& verdict, const AppSubject& 
                           .isFocusOn = m_focus.isOn()});
 }
 
-void DriftHandling::act(const Verdict& verdict, const Subject& subject) {
-    if (m_engine.modes().isEmpty() && !isOnboardingDone())
+void DriftHandling::act(const Verdict& verdict, const Subject& subject, const std::optional<BrowserTab>& tab) {
+    if (!isGuarding())
         return;
-    const auto* app = std::get_if<AppSubject>(&subject);
+    if (const auto* app = std::get_if<AppSubject>(&subject))
+        actOnApp(verdict, *app);
+    else if (tab)
+        m_sites.act(verdict, std::get<SiteSubject>(subject), *tab);
+}
+
+void DriftHandling::actOnApp(const Verdict& verdict, const AppSubject& app) {
     const auto frontmost = m_applications.frontmost();
-    if (!app || !frontmost || frontmost->bundleID != app->bundleID)
+    if (!frontmost || frontmost->bundleID != app.bundleID)
         return;
-    const drift::Decision decision = decide(verdict, *app);
+    const drift::Decision decision = decideApp(verdict, app);
     if (decision == drift::Decision::currentMode)
         m_lastAllowedApp = frontmost;
-    if (decision != drift::Decision::gate || m_leaving == app->bundleID)
+    if (decision != drift::Decision::gate || m_leaving == app.bundleID)
         return;
-    present({.pid = frontmost->pid,
-             .bundleID = app->bundleID,
-             .name = frontmost->name.isEmpty() ? m_workspace.displayName(app->bundleID) : frontmost->name,
+    present({.subject = Gate::App{.pid = frontmost->pid, .bundleID = app.bundleID},
+             .name = frontmost->name.isEmpty() ? m_workspace.displayName(app.bundleID) : frontmost->name,
              .owner = *m_engine.mode(*verdict.modeID),
              .note = verdict.what});
 }
@@ -68,28 +94,33 @@ void DriftHandling::frontChanged(const std::optional<RunningApp>& app) {
     }
     if (m_delayedOpen && fits(app->bundleID))
         m_delayedOpen.reset();
-    if (m_gate.blocked() && m_gate.blocked()->bundleID != app->bundleID)
+    if (const Gate::App* blocked = m_gate.blockedApp(); blocked && blocked->bundleID != app->bundleID)
         m_gate.close();
+    m_sites.frontChanged(*app);
 }
 
 void DriftHandling::runningChanged() {
-    if (m_gate.blocked() && !m_workspace.running().contains(m_gate.blocked()->bundleID))
+    if (const Gate::App* blocked = m_gate.blockedApp(); blocked && !m_workspace.running().contains(blocked->bundleID))
         m_gate.close();
 }
 
 void DriftHandling::windowsGone(const QString& bundleID) {
-    if (m_gate.blocked() && m_gate.blocked()->bundleID == bundleID && !m_workspace.hasVisibleWindow(bundleID))
+    if (m_workspace.hasVisibleWindow(bundleID))
+        return;
+    if (const Gate::App* blocked = m_gate.blockedApp(); blocked && blocked->bundleID == bundleID)
         m_gate.close();
+    m_sites.windowsGone(bundleID);
 }
 
 void DriftHandling::modesChanged() {
-    const auto blocked = m_gate.blocked();
-    if (!blocked)
-        return;
-    const bool isStopped =
-        blocked->owner && blocked->owner->id != m_engine.current().id && m_engine.mode(blocked->owner->id);
-    if (!isStopped || fits(blocked->bundleID))
-        letThrough(*blocked);
+    if (const auto blocked = m_gate.blocked()) {
+        const bool isOwned =
+            blocked->owner && blocked->owner->id != m_engine.current().id && m_engine.mode(blocked->owner->id);
+        const Gate::Site* site = blocked->site();
+        if (!isOwned || fits(*blocked) || (site && !m_sites.isStopped(site->host)))
+            letThrough(*blocked);
+    }
+    m_sites.review();
 }
 
 void DriftHandling::focusStopped() {
@@ -99,6 +130,7 @@ void DriftHandling::focusStopped() {
     m_engine.cancelPending();
     if (const auto blocked = m_gate.blocked())
         letThrough(*blocked);
+    m_sites.focusStopped();
 }
 
 void DriftHandling::present(const Gate::Blocked& blocked) {
@@ -107,12 +139,17 @@ void DriftHandling::present(const Gate::Blocked& blocked) {
 
 void DriftHandling::letThrough(const Gate::Blocked& blocked) {
     cancelSwitchTo(blocked.owner);
-    const auto instances = m_workspace.instances(blocked.bundleID);
-    const auto app = std::ranges::find(instances, blocked.pid, &RunningApp::pid);
-    if (app != instances.end())
-        m_lastAllowedApp = *app;
-    // Brought forward before the panel goes, so that the keyboard does not pass to a third window in between.
-    m_applications.activate(blocked.pid);
+    if (const Gate::Site* site = blocked.site()) {
+        m_sites.letThrough(*site);
+    } else {
+        const Gate::App& stopped = *blocked.app();
+        const auto instances = m_workspace.instances(stopped.bundleID);
+        const auto app = std::ranges::find(instances, stopped.pid, &RunningApp::pid);
+        if (app != instances.end())
+            m_lastAllowedApp = *app;
+        // Brought forward before the panel goes, so that the keyboard does not pass to a third window in between.
+        m_applications.activate(stopped.pid);
+    }
     m_gate.close();
 }
 
@@ -125,14 +162,23 @@ bool DriftHandling::fits(const QString& bundleID) const {
     return m_engine.catalog().sharedApps.contains(bundleID) || m_engine.current().apps.contains(bundleID);
 }
 
+bool DriftHandling::fits(const Gate::Blocked& blocked) const {
+    const Gate::Site* site = blocked.site();
+    return site ? Mode::site(site->host, m_engine.current().sites) : fits(blocked.app()->bundleID);
+}
+
 void DriftHandling::stay() {
     const auto blocked = m_gate.blocked();
     if (!blocked)
         return;
-    m_leaving = blocked->bundleID;
-    m_stayEnd = m_clock.after(2s, [this] { stayEnded(); });
     cancelSwitchTo(blocked->owner);
-    goBackFrom(*blocked);
+    if (const Gate::Site* site = blocked->site()) {
+        m_sites.stay(*site);
+    } else {
+        m_leaving = blocked->app()->bundleID;
+        m_stayEnd = m_clock.after(2s, [this] { stayEnded(); });
+        goBackFrom(*blocked->app());
+    }
     m_gate.close();
 }
 
@@ -155,7 +201,7 @@ bool DriftHandling::belongsHere(const AppSubject& app) {
     return verdict && verdict->modeID == m_engine.current().id;
 }
 
-void DriftHandling::goBackFrom(const Gate::Blocked& blocked) {
+void DriftHandling::goBackFrom(const Gate::App& blocked) {
     const auto isRunning = [&](const RunningApp& app) {
         return m_workspace.instances(app.bundleID).contains(app) && app.bundleID != blocked.bundleID;
     };
@@ -192,15 +238,25 @@ void DriftHandling::allowOnce() {
     const auto blocked = m_gate.blocked();
     if (!blocked)
         return;
-    m_allowedOnce.insert(blocked->bundleID);
+    allow(*blocked);
     letThrough(*blocked);
+}
+
+void DriftHandling::allow(const Gate::Blocked& blocked) {
+    if (const Gate::Site* site = blocked.site())
+        m_sites.allowOnce(site->host);
+    else
+        m_allowedOnce.insert(blocked.app()->bundleID);
 }
 
 void DriftHandling::addToMode() {
     const auto blocked = m_gate.blocked();
     if (!blocked)
         return;
-    m_engine.addApp(blocked->bundleID, m_engine.current().id);
+    if (const Gate::Site* site = blocked->site())
+        m_engine.addSite(site->host, m_engine.current().id);
+    else
+        m_engine.addApp(blocked->app()->bundleID, m_engine.current().id);
     // The edit of the mode has let it through, unless the mode listed it already.
     if (m_gate.blocked())
         letThrough(*blocked);
@@ -213,21 +269,34 @@ void DriftHandling::correctFront(const std::optional<QString>& modeID) {
 
 void DriftHandling::correct(const Subject& subject, const std::optional<QString>& modeID) {
     m_classifier.correct(subject, modeID);
-    const auto blocked = m_gate.blocked();
-    if (!blocked || blocked->bundleID != key(subject))
-        return;
+    const auto* site = std::get_if<SiteSubject>(&subject);
+    auto blocked = m_gate.blocked();
+    if (blocked && (site ? !blocked->site() || blocked->site()->host != site->host
+                         : !blocked->app() || blocked->app()->bundleID != key(subject)))
+        blocked.reset();
+
     const Mode* owner = modeID ? m_engine.mode(*modeID) : nullptr;
     if (owner && owner->id != m_engine.current().id) {
-        cancelSwitchTo(blocked->owner);
-        Gate::Blocked corrected = *blocked;
-        corrected.owner = *owner;
-        m_gate.open(corrected);
+        if (site)
+            m_sites.reassign(site->host, Mode(*owner));
+        if (blocked) {
+            cancelSwitchTo(blocked->owner);
+            blocked->owner = *owner;
+            m_gate.open(*blocked);
+        }
         return;
     }
-    // A list goes before the user's word, and would close the gate on it again the moment it has the keyboard.
-    if (const Mode* listing = m_engine.listing(blocked->bundleID); listing && listing->id != modeID)
-        m_allowedOnce.insert(blocked->bundleID);
-    letThrough(*blocked);
+    // A list goes before the user's word, and would stop it again the moment it has the keyboard.
+    const Mode* listing = site ? m_engine.listingSite(site->host) : m_engine.listing(key(subject));
+    const bool isOverruled = listing && listing->id != modeID;
+    if (site && isOverruled && m_focus.isOn())
+        m_sites.allowOnce(site->host);
+    else if (blocked && isOverruled)
+        allow(*blocked);
+    if (blocked)
+        letThrough(*blocked);
+    if (site)
+        m_sites.review();
 }
 
 } // namespace fendrel

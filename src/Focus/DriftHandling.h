@@ -3,6 +3,7 @@
 #include "Focus/DriftDecision.h"
 #include "Focus/Gate.h"
 #include "Focus/Judgement.h"
+#include "Focus/SiteDrift.h"
 #include "Focus/WindowTitles.h"
 #include "Ports/Applications.h"
 #include "Ports/Clock.h"
@@ -14,6 +15,7 @@
 
 namespace fendrel {
 
+class BrowserBridge;
 class Classifier;
 class FocusSession;
 class ModeEngine;
@@ -24,14 +26,15 @@ class Workspace;
 class DriftHandling {
 public:
     DriftHandling(ModeEngine& engine, Classifier& classifier, const FocusSession& focus, Gate& gate,
-                  Workspace& workspace, Applications& applications, Clock& clock);
+                  BrowserBridge& bridge, Workspace& workspace, Applications& applications, Clock& clock);
 
     std::function<bool()> isOnboardingDone = [] { return true; };
 
     // What is in front
-    void classify(const Subject& subject);
-    void act(const Verdict& verdict, const Subject& subject);
-    drift::Decision decide(const Verdict& verdict, const AppSubject& app) const;
+    void classify(const Subject& subject, const std::optional<BrowserTab>& tab = {});
+    void judge(const BrowserTab& tab); ///< the active tab of a browser, whenever it changes
+    void act(const Verdict& verdict, const Subject& subject, const std::optional<BrowserTab>& tab = {});
+    drift::Decision decide(const Verdict& verdict, const Subject& subject) const;
     /// Another application came to the front: the gate of a different one has nothing to cover any more.
     void frontChanged(const std::optional<RunningApp>& app);
     void runningChanged();                     ///< nor has the gate of an application that ended
@@ -43,6 +46,7 @@ public:
     void present(const Gate::Blocked& blocked);
     void letThrough(const Gate::Blocked& blocked);
     bool fits(const QString& bundleID) const; ///< whether an application belongs to the current mode or to all
+    bool fits(const Gate::Blocked& blocked) const;
 
     // The answers to the gate; without an open gate they do nothing
     void stay();
@@ -54,10 +58,17 @@ public:
     void correct(const Subject& subject, const std::optional<QString>& modeID);
     void correctFront(const std::optional<QString>& modeID);
 
+    SiteDrift& sites() { return m_sites; }
+
 private:
+    bool isGuarding() const;
+    drift::Decision decideApp(const Verdict& verdict, const AppSubject& app) const;
+    void actOnApp(const Verdict& verdict, const AppSubject& app);
+    void allow(const Gate::Blocked& blocked);
+    void stayFrom(const Gate::Blocked& blocked, const Gate::App& app);
     bool belongsHere(const AppSubject& app);
     void cancelSwitchTo(const std::optional<Mode>& owner);
-    void goBackFrom(const Gate::Blocked& blocked);
+    void goBackFrom(const Gate::App& app);
     void stayEnded();
 
     ModeEngine& m_engine;
@@ -67,6 +78,7 @@ private:
     Workspace& m_workspace;
     Applications& m_applications;
     Clock& m_clock;
+    SiteDrift m_sites;
 
     QSet<QString> m_allowedOnce;
     std::optional<RunningApp> m_lastAllowedApp; ///< where "stay" goes back to

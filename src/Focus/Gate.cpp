@@ -2,6 +2,17 @@
 
 namespace fendrel {
 
+namespace {
+
+/// Another process of the same application is the same thing to its user.
+bool isSameThing(const Gate::Blocked& one, const Gate::Blocked& other) {
+    if (one.app() && other.app())
+        return one.app()->bundleID == other.app()->bundleID;
+    return one.subject == other.subject;
+}
+
+} // namespace
+
 Seconds Gate::waited() const {
     return m_blocked ? Seconds(m_clock.continuousNow() - m_openedAt) : Seconds{};
 }
@@ -15,7 +26,7 @@ void Gate::setReason(const QString& reason) {
 
 void Gate::open(const Blocked& blocked) {
     if (m_blocked != blocked) {
-        if (!m_blocked || m_blocked->bundleID != blocked.bundleID) {
+        if (!m_blocked || !isSameThing(*m_blocked, blocked)) {
             m_openedAt = m_clock.continuousNow();
             m_reason.clear();
         }

@@ -14,6 +14,7 @@
 #include "Ports/StatusArea.h"
 #include "Ports/SystemLook.h"
 
+#include <functional>
 #include <memory>
 
 namespace fendrel {
@@ -25,9 +26,22 @@ struct Folders {
     QString crashes{}; ///< crash reports
 };
 
+/// A browser that can start our relay, and where this system's copy of it looks for the relay's manifest.
+struct BrowserHome {
+    enum class Family { chromium, mozilla };
+    QString name{};
+    QString data{};      ///< exists once the browser was used
+    QString manifests{}; ///< need not exist
+    Family family{};
+};
+
 /// One adapter of every port. Members are destroyed in reverse order; adapters may use the ones before them.
 struct Platform {
     Folders folders{};
+    QString relay{};                ///< path of the program that browsers start to reach us
+    QList<BrowserHome> browsers{};  ///< all that this system may have
+    /// Whether the process at the other end of a connected local socket is this user's.
+    std::function<bool(int socket)> isPeerOwnUser = [](int) { return false; };
     std::unique_ptr<Worker> disk{}; ///< writes what the services save, off the main thread
     std::unique_ptr<Clock> clock{};
     std::unique_ptr<SettingsStore> settings{};

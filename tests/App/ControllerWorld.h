@@ -42,7 +42,9 @@ struct ControllerWorld {
     void commit(const QString& modeID) { controller->engine().commit(Mode(*controller->engine().mode(modeID))); }
     QString gated() {
         const auto& blocked = controller->gate().blocked();
-        return blocked ? blocked->bundleID : QString();
+        if (!blocked)
+            return {};
+        return blocked->site() ? blocked->site()->host : blocked->app()->bundleID;
     }
     QStringList takeRequests() { return std::exchange(fake.applications->requests, {}); }
 

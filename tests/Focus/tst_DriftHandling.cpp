@@ -18,7 +18,7 @@ struct World : ControllerWorld {
     }
     Decision decision() {
         return drift.decide(controller->classifier().front()->verdict.value(),
-                            {.bundleID = fake.applications->frontmost()->bundleID});
+                            AppSubject{.bundleID = fake.applications->frontmost()->bundleID});
     }
 
     AppController& started = launch();

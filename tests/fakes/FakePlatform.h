@@ -22,6 +22,7 @@ struct FakePlatform {
         platform.folders = {.data = home.filePath(QStringLiteral("data")),
                             .config = home.filePath(QStringLiteral("config")),
                             .crashes = home.filePath(QStringLiteral("crashes"))};
+        platform.isPeerOwnUser = [](int) { return true; };
         put(platform.clock, clock);
         put(platform.settings, settings);
         put(platform.applications, applications);

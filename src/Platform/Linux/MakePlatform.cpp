@@ -1,6 +1,8 @@
 #include "Platform/MakePlatform.h"
 
+#include "Platform/Linux/BrowserHomes.h"
 #include "Platform/Linux/DesktopShell.h"
+#include "Platform/Linux/PeerCredentials.h"
 #include "Platform/Linux/PortalLook.h"
 #include "Platform/Linux/StatusNotifierArea.h"
 #include "Platform/Linux/X11Accessibility.h"
@@ -13,6 +15,7 @@
 #include "Platform/Shared/SettingsFile.h"
 #include "Platform/Shared/SystemClock.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -41,6 +44,10 @@ Folders standardFolders() {
 Platform makePlatform() {
     Platform platform;
     platform.folders = standardFolders();
+    platform.relay = QCoreApplication::applicationDirPath() + u"/fendrel-bridge"_s;
+    platform.browsers =
+        browserHomes(QDir::homePath(), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    platform.isPeerOwnUser = isPeerOwnUser;
     platform.disk = std::make_unique<Worker>(u"disk"_s);
     platform.clock = std::make_unique<SystemClock>();
     Clock& clock = *platform.clock;

@@ -27,9 +27,8 @@ bool GateController::isOpen() const {
     return m_controller.gate().blocked().has_value();
 }
 
-QString GateController::bundleID() const {
-    const auto& blocked = m_controller.gate().blocked();
-    return blocked ? blocked->bundleID : QString();
+bool GateController::isSite() const {
+    return m_controller.gate().blockedSite() != nullptr;
 }
 
 QString GateController::name() const {

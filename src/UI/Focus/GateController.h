@@ -15,7 +15,7 @@ class GateController : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY changed)
-    Q_PROPERTY(QString bundleID READ bundleID NOTIFY changed)
+    Q_PROPERTY(bool isSite READ isSite NOTIFY changed)
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QString note READ note NOTIFY changed)
     Q_PROPERTY(QString ownerName READ ownerName NOTIFY changed)
@@ -30,7 +30,7 @@ public:
     explicit GateController(AppController& controller);
 
     bool isOpen() const;
-    QString bundleID() const;
+    bool isSite() const;
     QString name() const;
     QString note() const; ///< empty when it says no more than the name
     QString ownerName() const;

@@ -44,8 +44,8 @@ bool GatePanel::isDark() const {
 }
 
 QString GatePanel::icon() const {
-    const auto& blocked = m_controller.gate().blocked();
-    return blocked ? m_icons.source(blocked->bundleID) : QString();
+    const Gate::App* app = m_controller.gate().blockedApp();
+    return app ? m_icons.source(app->bundleID) : QString();
 }
 
 /// Where nobody knows on which display the stopped window is, it is the main one.

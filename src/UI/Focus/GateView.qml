@@ -25,6 +25,7 @@ FocusScope {
     property string name: ""
     property string note: ""
     property string icon: ""
+    property bool isSite: false
     property string ownerName: ""
     property string ownerSymbol: ""
     property color ownerTint: "gray"
@@ -34,6 +35,7 @@ FocusScope {
         name = gate.name
         note = gate.note
         icon = panel.icon
+        isSite = gate.isSite
         ownerName = gate.ownerName
         ownerSymbol = gate.ownerSymbol
         ownerTint = gate.ownerTint
@@ -132,6 +134,20 @@ FocusScope {
                     asynchronous: true
                     smooth: true
                     mipmap: true
+                }
+                // A site has no icon of its own.
+                Rectangle {
+                    visible: root.isSite
+                    anchors.fill: picture
+                    anchors.margins: card.isLow ? 2 : 4
+                    radius: width * 0.24
+                    color: gateColors.field
+                    Symbol {
+                        anchors.centerIn: parent
+                        name: "globe"
+                        size: Math.round(parent.width * 0.6)
+                        color: gateColors.text
+                    }
                 }
                 Rectangle {
                     visible: root.ownerSymbol !== ""
