@@ -3,6 +3,7 @@
 #include "Control/ControlClient.h"
 #include "Control/ControlServer.h"
 #include "Control/InstanceLock.h"
+#include "Focus/HostManifests.h"
 #include "Platform/MakePlatform.h"
 #include "Platform/Shared/CrashReporter.h"
 #include "Platform/Shared/TerminationSignals.h"
@@ -27,6 +28,7 @@ namespace {
 
 struct Options {
     QString settingsPane;
+    bool uninstalls = false;
 };
 
 int fail(const QString& message) {
@@ -40,11 +42,19 @@ Options readOptions(const QStringList& arguments) {
     const QCommandLineOption settingsPage(
         u"settings-page"_s, u"Open the settings at a pane: %1."_s.arg(AppController::settingsPanes().join(u", ")),
         u"pane"_s);
-    parser.addOption(settingsPage);
+    const QCommandLineOption uninstall(
+        u"uninstall"_s, u"Take back what Fendrel wrote into other programs' folders, and end. Your modes stay."_s);
+    parser.addOptions({settingsPage, uninstall});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(arguments);
-    return {.settingsPane = parser.value(settingsPage)};
+    return {.settingsPane = parser.value(settingsPage), .uninstalls = parser.isSet(uninstall)};
+}
+
+int uninstall() {
+    for (const QString& path : hostManifests::uninstall(standardBrowsers()))
+        std::printf("removed %s\n", qUtf8Printable(path));
+    return 0;
 }
 
 /// Brings the application that runs already to the user's attention.
@@ -69,12 +79,13 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationVersion(QStringLiteral(FENDREL_VERSION));
     QGuiApplication::setDesktopFileName(u"org.fendrel.Fendrel"_s);
     const std::span words(argv, static_cast<std::size_t>(argc));
-    const bool wantsText = std::ranges::any_of(words, [](std::string_view word) {
-        return word == "--help" || word == "-h" || word == "--version" || word == "-v";
+    const bool needsNoDisplay = std::ranges::any_of(words, [](std::string_view word) {
+        return word == "--help" || word == "-h" || word == "--version" || word == "-v" || word == "--uninstall";
     });
-    if (wantsText) {
+    if (needsNoDisplay) {
         const QCoreApplication application(argc, argv);
-        readOptions(QCoreApplication::arguments());
+        if (readOptions(QCoreApplication::arguments()).uninstalls)
+            return uninstall();
     }
     if (const auto missing = missingRequirement())
         return fail(*missing);

@@ -18,6 +18,9 @@ void prepareToolkit();
 /// The user's folders, as the environment says.
 Folders standardFolders();
 
+/// The browsers that this system may have.
+QList<BrowserHome> standardBrowsers();
+
 /// Every port with this system's adapter. Called once, on the main thread, when the toolkit runs.
 Platform makePlatform();
 

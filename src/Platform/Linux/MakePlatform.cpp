@@ -41,12 +41,15 @@ Folders standardFolders() {
             .crashes = stateFolder() + u"/Fendrel/DiagnosticReports"_s};
 }
 
+QList<BrowserHome> standardBrowsers() {
+    return browserHomes(QDir::homePath(), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+}
+
 Platform makePlatform() {
     Platform platform;
     platform.folders = standardFolders();
     platform.relay = QCoreApplication::applicationDirPath() + u"/fendrel-bridge"_s;
-    platform.browsers =
-        browserHomes(QDir::homePath(), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    platform.browsers = standardBrowsers();
     platform.isPeerOwnUser = isPeerOwnUser;
     platform.disk = std::make_unique<Worker>(u"disk"_s);
     platform.clock = std::make_unique<SystemClock>();
