@@ -2,6 +2,7 @@
 
 option(FENDREL_TESTS "Build the tests" ON)
 option(FENDREL_BENCHMARKS "Build the benchmarks" OFF)
+option(FENDREL_FUZZ "Build the fuzz targets and nothing else; wants clang" OFF)
 set(FENDREL_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address,undefined or thread")
 
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)

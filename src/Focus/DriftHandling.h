@@ -68,7 +68,7 @@ private:
     void stayFrom(const Gate::Blocked& blocked, const Gate::App& app);
     bool belongsHere(const AppSubject& app);
     void cancelSwitchTo(const std::optional<Mode>& owner);
-    void goBackFrom(const Gate::App& app);
+    void goBackFrom(const Gate::App& blocked);
     void stayEnded();
 
     ModeEngine& m_engine;

@@ -6,7 +6,6 @@
 #include "Modes/ModeEngine.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace fendrel {
 
@@ -242,7 +241,8 @@ void SiteDrift::stay(const Gate::Site& site) {
 }
 
 void SiteDrift::stayEnded() {
-    const auto left = std::exchange(m_leaving, {});
+    const auto left = m_leaving;
+    m_leaving.reset();
     // The page would not go: it is judged as if it came anew.
     if (left && shows(left->tab, left->host))
         judge(*activeTab(left->tab.browser));

@@ -84,7 +84,7 @@ private:
     };
 
     bool shows(TabKey tab, const QString& site) const;
-    bool mayBeInFront(BrowserID browser) const;
+    bool mayBeInFront(BrowserID id) const;
     Veiled* veiled(TabKey tab);
     const Mode* owner(const QString& site) const;
     void showGate(const QString& site, const BrowserTab& tab, const Mode& owner, const std::optional<QString>& note);
@@ -93,7 +93,7 @@ private:
     void forget(TabKey tab);
     void ask(TabKey tab);
     void putOff();
-    void comeForward(BrowserID browser);
+    void comeForward(BrowserID id);
     void stayEnded();
 
     ModeEngine& m_engine;

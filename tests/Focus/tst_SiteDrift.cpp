@@ -163,12 +163,16 @@ private Q_SLOTS:
         leave(world);
         QCOMPARE(world.gated(), QString());
         QCOMPARE(world.veils(), u"social.example>social"_s);
+        world.controller->bridge().onAsk(BrowserID(0), TabID(1)); // not seen, so not asked about
+        QCOMPARE(world.gated(), QString());
         comeBack(world);
         QCOMPARE(world.gated(), QString());
         world.wait(1500ms);
         QCOMPARE(world.gated(), u"social.example"_s);
         world.controller->bridge().onAsk(BrowserID(0), TabID(1)); // and on demand, as often as it is wanted
         QCOMPARE(world.gated(), u"social.example"_s);
+        world.controller->bridge().onClosed(BrowserID(0), TabID(1));
+        QCOMPARE(world.gated() + world.veils(), QString());
     }
 
     void answers_data() {

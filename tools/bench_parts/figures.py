@@ -96,6 +96,37 @@ def front(answer):
             Row(f"Wake-ups in {still['seconds']:.0f} s without a change", still["wakeUps"], "", 0)]
 
 
+def bridge(answer):
+    ours, floor, burst = answer["bridge"], answer["floor"], answer["burst"]
+    ping, bare = statistics.median(ours), statistics.median(floor)
+    return [
+        Row("Report to the bridge's answer, median", ping, "us", 1.8 * bare, bare, "bare poll and parse",
+            f"p95 {number(percentile(ours, 95))}, of {len(ours)}"),
+        Row("Burst of 100,000 reports: longest wait of the interface", burst["longest"], "ms", 16),
+        Row("  reports lost", burst["lost"], "", 0),
+    ]
+
+
+def relay(answer):
+    """Against the peer in the goals; times in us, memory in KiB."""
+    ours, floor, peer = (answer[name] for name in ("relay", "forwarder", "peer"))
+
+    def row(what, read, unit, share_of_peer, scale):
+        mine, theirs, least = (read(each) / scale for each in (ours, peer, floor))
+        return [Row(what, mine, unit, share_of_peer * theirs, theirs, "keepassxc-proxy"),
+                Row("  the same", mine, unit, None, least, "bare forwarder")]
+
+    def trip(each):
+        return statistics.median(each["trips"])
+    return [
+        *row("Relay: start to connected, median", lambda each: statistics.median(each["starts"]), "ms", 0.15, 1e3),
+        *row("Relay: most memory", lambda each: each["memory"], "MB", 0.1, 1024),
+        Row("Relay: a message and its answer, median", trip(ours), "us", 1.25 * trip(floor), trip(floor), "bare forwarder",
+            f"p95 {number(percentile(ours['trips'], 95))}, of {len(ours['trips'])}"),
+        Row("  the same", trip(ours), "us", None, trip(peer), "keepassxc-proxy"),
+    ]
+
+
 def gate(answer):
     return [latency("Front change to gate mapped", answer["mapped"], "ms", 100, answer["active"], "window active"),
             latency("  to gate drawn", answer["drawn"], "ms")]
