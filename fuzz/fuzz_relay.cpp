@@ -88,8 +88,7 @@ public:
             takeAsBrowser(mostWaiting);
         takeAsApplication(mostWaiting);
         require(m_browserReader.isBetweenMessages());
-        require(m_tells.empty() || m_isImitated ||
-                m_tells == (m_isConnected ? bridge::typeConnected : bridge::typeDisconnected));
+        require(m_isConnected || m_isImitated || m_tells.empty() || m_tells == bridge::typeDisconnected);
     }
 
 private:
@@ -133,6 +132,8 @@ private:
             require(message.find('\n') == std::string_view::npos);
             if (const auto type = typeOf(message); type == bridge::typeConnected || type == bridge::typeDisconnected)
                 m_tells = type;
+            else // the application's own
+                require(m_isImitated || m_tells == bridge::typeConnected);
         });
     }
 

@@ -52,6 +52,9 @@ Options readOptions(const QStringList& arguments) {
 }
 
 int uninstall() {
+    // Running, it would write all of it again.
+    if (control::InstanceLock(standardFolders().data).state() == control::InstanceLock::State::heldByAnother)
+        return fail(u"Fendrel is running; end it first: fendrelctl quit"_s);
     for (const QString& path : hostManifests::uninstall(standardBrowsers()))
         std::printf("removed %s\n", qUtf8Printable(path));
     return 0;

@@ -58,9 +58,10 @@ void AppController::start() {
 }
 
 void AppController::installHostManifests() {
-    m_platform.disk->post(u"host manifests"_s, [browsers = m_platform.browsers, relay = m_platform.relay] {
-        hostManifests::install(browsers, relay);
-    });
+    m_platform.disk->post(u"host manifests"_s,
+                          [browsers = m_platform.browsers, relay = m_platform.relay, failed = m_failedManifests] {
+                              hostManifests::install(browsers, relay, *failed);
+                          });
 }
 
 const QStringList& AppController::settingsPanes() {

@@ -23,6 +23,7 @@
 #include <QObject>
 
 #include <map>
+#include <memory>
 
 namespace fendrel {
 
@@ -112,7 +113,8 @@ private:
     TidyUp m_tidyUp;
     Feedback m_feedback;
 
-    std::map<QString, AutoHide> m_autoHide; ///< by display
+    std::shared_ptr<QSet<QString>> m_failedManifests = std::make_shared<QSet<QString>>(); ///< the disk worker's
+    std::map<QString, AutoHide> m_autoHide;                                               ///< by display
     std::optional<QString> m_activeDisplay;
     std::optional<Handle> m_dockTimer;
 };

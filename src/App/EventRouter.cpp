@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace fendrel {
 
 EventRouter::EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift)
@@ -19,22 +21,31 @@ void EventRouter::appDidActivate(const std::optional<RunningApp>& app) {
     const auto before = m_titles.front();
     m_titles.track(app);
     if (m_titles.front() == before)
-        windowDidChange(before);
+        judgeFrontAgain();
 }
 
 void EventRouter::windowDidChange(const std::optional<WindowTitles::Front>& front) {
+    const qint64 before = std::exchange(m_frontPid, front ? front->pid : 0);
+    // A browser's window is called what its page is, and of that the page itself tells.
+    if (!front || front->pid != before || !m_drift.sites().activeTab(front->pid) || !front->title)
+        judgeFrontAgain();
+}
+
+void EventRouter::judgeFrontAgain() {
     if (!isOnboardingDone())
         return;
-    if (front && !front->title && m_titles.isTrusted())
+    const auto& front = m_titles.front();
+    if (!front) {
+        m_classifier.clearFront();
+        return;
+    }
+    if (!front->title && m_titles.isTrusted())
         m_drift.windowsGone(front->bundleID);
     // Of a browser the page is judged. One that has not told of any yet is judged as the application that it is.
-    const auto tab = front ? m_drift.sites().activeTab(front->pid) : std::nullopt;
-    if (tab)
+    if (const auto tab = m_drift.sites().activeTab(front->pid))
         m_drift.judge(*tab);
-    else if (front)
-        m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
     else
-        m_classifier.clearFront();
+        m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
 }
 
 void EventRouter::tabDidChange(const BrowserTab& tab) {
@@ -44,8 +55,9 @@ void EventRouter::tabDidChange(const BrowserTab& tab) {
         m_drift.sites().remember(tab);
 }
 
-void EventRouter::judgeFrontAgain() {
-    windowDidChange(m_titles.front());
+void EventRouter::pageAskedFor(TabKey tab) {
+    if (isOnboardingDone())
+        m_drift.sites().askedFor(tab);
 }
 
 } // namespace fendrel

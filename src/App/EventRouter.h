@@ -24,6 +24,8 @@ public:
     void windowDidChange(const std::optional<WindowTitles::Front>& front);
     /// A browser told of its active tab.
     void tabDidChange(const BrowserTab& tab);
+    /// The user asks about a page, in the browser.
+    void pageAskedFor(TabKey tab);
     /// Judges what is in front once more, when what it is judged by has changed.
     void judgeFrontAgain();
 
@@ -31,6 +33,7 @@ private:
     WindowTitles& m_titles;
     Classifier& m_classifier;
     DriftHandling& m_drift;
+    qint64 m_frontPid = 0; ///< 0: nothing is in front
 };
 
 } // namespace fendrel

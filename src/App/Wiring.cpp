@@ -9,10 +9,12 @@ void AppController::wire() {
     Applications& applications = *m_platform.applications;
     applications.onInstalledChanged = [this] { m_workspace.refreshInstalled(); };
     applications.onRunningChanged = [this] {
+        const auto before = m_workspace.running();
         m_workspace.refreshRunning();
         m_bridge.runningChanged();
         m_drift.runningChanged();
-        installHostManifests(); // a browser that is started for the first time has its folder from now on
+        if (!before.contains(m_workspace.running()))
+            installHostManifests(); // a browser that is started for the first time has its folder from now on
     };
     applications.onActivated = [this](const std::optional<RunningApp>& app) {
         m_workspace.refreshRunning();
@@ -25,9 +27,7 @@ void AppController::wire() {
     };
 
     m_bridge.onTab = [this](const BrowserTab& tab) { m_router.tabDidChange(tab); };
-    m_bridge.onAsk = [this](BrowserID browser, TabID tab) {
-        m_drift.sites().askedFor({.browser = browser, .tab = tab});
-    };
+    m_bridge.onAsk = [this](BrowserID browser, TabID tab) { m_router.pageAskedFor({.browser = browser, .tab = tab}); };
     m_bridge.onClosed = [this](BrowserID browser, TabID tab) {
         m_drift.sites().tabClosed({.browser = browser, .tab = tab});
     };

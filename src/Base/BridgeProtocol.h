@@ -32,7 +32,7 @@ constexpr std::string_view typeBack = "back";
 constexpr std::string_view typeOpen = "open";
 constexpr std::string_view typeState = "state";
 
-// Relay to extension: whether the application can be reached.
+// Relay to extension: whether the application answers. It does so to the greeting, with its state.
 constexpr std::string_view typeConnected = "connected";
 constexpr std::string_view typeDisconnected = "disconnected";
 

@@ -1,6 +1,7 @@
 #include "Base/LineServer.h"
 
 #include "Base/LineFramer.h"
+#include "Base/Log.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,7 +25,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype longestBacklog = qsizetype{4} * 1024 * 1024;
-constexpr std::size_t pieceSize = 65'536;
+// A score of lines, so that even costly ones leave the interface its frames.
+constexpr std::size_t pieceSize = 2'048;
 
 QString reason() {
     return QString::fromLocal8Bit(std::strerror(errno));
@@ -88,10 +90,15 @@ QString LineServer::listen(const QString& path) {
 
     FileDescriptor socket = makeSocket();
     if (!socket || !setUp(socket.get()) ||
-        ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0 ||
-        ::chmod(bytes.constData(), S_IRUSR | S_IWUSR) != 0 || ::listen(socket.get(), SOMAXCONN) != 0)
+        ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0)
         return reason();
+    if (::chmod(bytes.constData(), S_IRUSR | S_IWUSR) != 0 || ::listen(socket.get(), SOMAXCONN) != 0) {
+        const QString problem = reason();
+        ::unlink(bytes.constData());
+        return problem;
+    }
     m_socket = std::move(socket);
+    m_spare = FileDescriptor(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     m_path = bytes;
     m_inode = inode(bytes);
     m_notifier = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Read);
@@ -102,12 +109,20 @@ QString LineServer::listen(const QString& path) {
 void LineServer::accept() {
     FileDescriptor socket(::accept(m_socket.get(), nullptr, nullptr));
     if (!socket) {
-        // With no descriptor left the listener would be called again and again: until a connection ends it is not.
-        if (errno == EMFILE || errno == ENFILE)
-            m_notifier->setEnabled(m_connections.empty());
+        // A connection that waits would have us called again and again.
+        if (errno == EMFILE || errno == ENFILE) {
+            m_spare = {};
+            socket = FileDescriptor(::accept(m_socket.get(), nullptr, nullptr));
+            socket = {};
+            m_spare = FileDescriptor(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+        }
         return;
     }
-    if (!setUp(socket.get()) || !m_isAllowed(socket.get()))
+    if (!m_isAllowed(socket.get())) {
+        qCWarning(logFiles).noquote() << "Refused a connection of another user at" << m_path;
+        return;
+    }
+    if (!setUp(socket.get()))
         return;
     const ConnectionID id = m_nextID++;
     auto connection = std::make_unique<Connection>();
@@ -188,8 +203,6 @@ void LineServer::drop(ConnectionID id) {
         notifier->release()->deleteLater();
     }
     m_connections.erase(found);
-    if (m_notifier)
-        m_notifier->setEnabled(true);
 }
 
 void LineServer::lose(ConnectionID id) {

@@ -14,7 +14,7 @@
 namespace fendrel {
 
 /// Serves lines to and from other programs of this user over a Unix socket. Main thread; no call waits. What a
-/// connection sends is taken in pieces of 64 KiB, between which everything else has its turn.
+/// connection sends is taken in small pieces, between which everything else has its turn.
 class LineServer : public QObject {
     Q_OBJECT
 public:
@@ -50,6 +50,7 @@ private:
     QByteArray m_path; ///< empty while nothing listens
     quint64 m_inode = 0;
     FileDescriptor m_socket;
+    FileDescriptor m_spare; ///< given up to refuse a connection when there is no other descriptor left
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::map<ConnectionID, std::unique_ptr<Connection>> m_connections;
     ConnectionID m_nextID = 0;

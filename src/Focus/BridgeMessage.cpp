@@ -32,10 +32,11 @@ std::optional<Message> hello(const QJsonObject& object) {
 
 std::optional<Message> tabReport(const QJsonObject& object) {
     const auto id = tabID(object);
-    const QJsonValue url = object["url"_L1], title = object["title"_L1];
-    if (!id || !url.isString() || !title.isString())
+    const QJsonValue url = object["url"_L1], title = object["title"_L1], focused = object["focused"_L1];
+    if (!id || !url.isString() || !title.isString() || !(focused.isBool() || focused.isUndefined()))
         return {};
-    return TabReport{.tabID = *id, .url = webAddress(url.toString()), .title = title.toString()};
+    return TabReport{
+        .tabID = *id, .url = webAddress(url.toString()), .title = title.toString(), .isFocused = focused.toBool(true)};
 }
 
 } // namespace

@@ -19,6 +19,7 @@ struct TabReport {
     TabID tabID{};
     QUrl url{};
     QString title{};
+    bool isFocused{true};
 };
 struct Ask {
     TabID tabID{};

@@ -62,8 +62,11 @@ void BrowserBridge::received(BrowserID id, const QList<QByteArray>& lines) {
     for (const bridge::Message& message : messages) {
         std::visit(Overloaded{[&](const bridge::Hello& greeting) { hello(id, greeting.pids); },
                               [&](const bridge::TabReport& report) {
-                                  onTab(
-                                      {.browser = id, .tabID = report.tabID, .url = report.url, .title = report.title});
+                                  onTab({.browser = id,
+                                         .tabID = report.tabID,
+                                         .url = report.url,
+                                         .title = report.title,
+                                         .isFocused = report.isFocused});
                               },
                               [&](const bridge::Ask& ask) { onAsk(id, ask.tabID); },
                               [&](const bridge::Closed& closed) { onClosed(id, closed.tabID); }},

@@ -68,9 +68,7 @@ QJsonValue BrowserStates::page(const BrowserTab& tab) const {
                      {u"site"_s, *site},
                      {u"isAllowed"_s, m_sites.isAllowedOnce(*site)}};
     const SiteSubject subject{.host = *site, .title = tab.title};
-    auto verdict = m_classifier.ruleVerdict(subject);
-    if (!verdict)
-        verdict = m_classifier.cachedVerdict(subject);
+    auto verdict = m_classifier.known(subject);
     const auto& front = m_classifier.front();
     const bool isFront = front && front->subject == Subject(subject);
     if (!verdict && isFront)

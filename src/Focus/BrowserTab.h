@@ -28,6 +28,7 @@ struct BrowserTab {
     TabID tabID{};
     QUrl url{};
     QString title{};
+    bool isFocused{true}; ///< its window was the one that its browser has in front
     bool operator==(const BrowserTab&) const = default;
 
     TabKey key() const { return {.browser = browser, .tab = tabID}; }

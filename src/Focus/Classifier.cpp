@@ -71,13 +71,15 @@ std::optional<Verdict> Classifier::cachedVerdict(const Subject& subject) {
     return verdict;
 }
 
+std::optional<Verdict> Classifier::known(const Subject& subject) {
+    auto verdict = ruleVerdict(subject);
+    return verdict ? verdict : cachedVerdict(subject);
+}
+
 Handle Classifier::judge(const Subject& subject, Judged judged) {
-    std::optional<Verdict> known = ruleVerdict(subject);
-    if (!known)
-        known = cachedVerdict(subject);
-    if (known) {
-        setFront(Judgement{subject, known});
-        judged(known);
+    if (const auto verdict = known(subject)) {
+        setFront(Judgement{subject, verdict});
+        judged(verdict);
         return {};
     }
     const auto* app = std::get_if<AppSubject>(&subject);

@@ -48,6 +48,11 @@ public:
     /// The mode of a host by the lists or a remembered answer that is sure enough.
     std::optional<QString> modeID(const QString& host) const;
 
+    /// What the lists or a remembered answer say, without asking anybody.
+    std::optional<Verdict> known(const Subject& subject);
+    /// Publishes what the lists say of what is in front.
+    void showRule(const Subject& subject) { setFront(Judgement{subject, ruleVerdict(subject)}); }
+
     std::optional<Verdict> ruleVerdict(const Subject& subject) const;
     std::optional<Verdict> cachedVerdict(const Subject& subject);
 

@@ -22,6 +22,8 @@ DriftHandling::DriftHandling(ModeEngine& engine, Classifier& classifier, const F
       m_applications(applications),
       m_clock(clock),
       m_sites(engine, classifier, focus, gate, bridge, applications, clock) {
+    // Who left by himself does not want the switch any more that he asked for to get in.
+    m_gate.onWithdrawn = [this](const Gate::Blocked& blocked) { cancelSwitchTo(blocked.owner); };
     m_sites.classify = [this](const Subject& subject, const BrowserTab& tab) { classify(subject, tab); };
 }
 
@@ -95,20 +97,20 @@ void DriftHandling::frontChanged(const std::optional<RunningApp>& app) {
     if (m_delayedOpen && fits(app->bundleID))
         m_delayedOpen.reset();
     if (const Gate::App* blocked = m_gate.blockedApp(); blocked && blocked->bundleID != app->bundleID)
-        m_gate.close();
+        m_gate.withdraw();
     m_sites.frontChanged(*app);
 }
 
 void DriftHandling::runningChanged() {
     if (const Gate::App* blocked = m_gate.blockedApp(); blocked && !m_workspace.running().contains(blocked->bundleID))
-        m_gate.close();
+        m_gate.withdraw();
 }
 
 void DriftHandling::windowsGone(const QString& bundleID) {
     if (m_workspace.hasVisibleWindow(bundleID))
         return;
     if (const Gate::App* blocked = m_gate.blockedApp(); blocked && blocked->bundleID == bundleID)
-        m_gate.close();
+        m_gate.withdraw();
     m_sites.windowsGone(bundleID);
 }
 
@@ -195,9 +197,7 @@ void DriftHandling::stayEnded() {
 bool DriftHandling::belongsHere(const AppSubject& app) {
     if (fits(app.bundleID) || m_allowedOnce.contains(app.bundleID))
         return true;
-    auto verdict = m_classifier.ruleVerdict(app);
-    if (!verdict)
-        verdict = m_classifier.cachedVerdict(app);
+    const auto verdict = m_classifier.known(app);
     return verdict && verdict->modeID == m_engine.current().id;
 }
 
@@ -275,20 +275,21 @@ void DriftHandling::correct(const Subject& subject, const std::optional<QString>
                          : !blocked->app() || blocked->app()->bundleID != key(subject)))
         blocked.reset();
 
+    // A list goes before the user's word. What it names for yet another mode stays that list's; what is let be is
+    // allowed for this session, or it would be stopped again the moment it has the keyboard.
+    const Mode* listing = site ? m_engine.listingSite(site->host) : m_engine.listing(key(subject));
+    const bool isOverruled = listing && listing->id != modeID;
     const Mode* owner = modeID ? m_engine.mode(*modeID) : nullptr;
     if (owner && owner->id != m_engine.current().id) {
         if (site)
-            m_sites.reassign(site->host, Mode(*owner));
-        if (blocked) {
+            m_sites.review();
+        if (blocked && !isOverruled) {
             cancelSwitchTo(blocked->owner);
             blocked->owner = *owner;
             m_gate.open(*blocked);
         }
         return;
     }
-    // A list goes before the user's word, and would stop it again the moment it has the keyboard.
-    const Mode* listing = site ? m_engine.listingSite(site->host) : m_engine.listing(key(subject));
-    const bool isOverruled = listing && listing->id != modeID;
     if (site && isOverruled && m_focus.isOn())
         m_sites.allowOnce(site->host);
     else if (blocked && isOverruled)

@@ -36,6 +36,13 @@ void Gate::open(const Blocked& blocked) {
     Q_EMIT attentionAsked();
 }
 
+void Gate::withdraw() {
+    if (const auto blocked = m_blocked) {
+        close();
+        onWithdrawn(*blocked);
+    }
+}
+
 void Gate::close() {
     if (!m_blocked)
         return;

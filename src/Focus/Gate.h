@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
 #include <variant>
 
@@ -52,6 +53,9 @@ public:
     /// Shows the gate for something; for what it shows already it only asks for attention again.
     void open(const Blocked& blocked);
     void close();
+    /// Closes without an answer: what was asked about is not there any more.
+    void withdraw();
+    std::function<void(const Blocked&)> onWithdrawn = [](const Blocked&) {};
 
 Q_SIGNALS:
     void changed();

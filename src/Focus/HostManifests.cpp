@@ -45,19 +45,21 @@ QByteArray manifest(BrowserHome::Family family, const QString& relay) {
     return QJsonDocument(object).toJson();
 }
 
-void install(const QList<BrowserHome>& browsers, const QString& relay) {
+void install(const QList<BrowserHome>& browsers, const QString& relay, QSet<QString>& failed) {
     for (const BrowserHome& browser : browsers) {
         if (!QFileInfo(browser.data).isDir())
             continue;
         const QString path = file(browser);
+        if (failed.contains(path))
+            continue;
         const QByteArray wanted = manifest(browser.family, relay);
         QFile present(path);
         if (present.open(QIODevice::ReadOnly) && present.readAll() == wanted)
             continue;
         present.close();
         const bool isFree = !QFileInfo::exists(path) || isOurs(path) || JsonFile::keepAside(path);
-        if (isFree)
-            JsonFile::write(path, wanted);
+        if (!isFree || !JsonFile::write(path, wanted))
+            failed.insert(path);
     }
 }
 

@@ -29,7 +29,10 @@ SiteDrift::SiteDrift(ModeEngine& engine, Classifier& classifier, const FocusSess
       m_clock(clock) {}
 
 void SiteDrift::remember(const BrowserTab& tab) {
-    m_activeTabs[tab.browser] = {.tab = tab, .order = ++m_reports};
+    Active& active = m_activeTabs[tab.browser];
+    active.tab = tab;
+    if (tab.isFocused)
+        active.order = ++m_reports;
     Q_EMIT changed();
 }
 
@@ -59,7 +62,10 @@ bool SiteDrift::mayBeInFront(BrowserID id) const {
     if (!browser || !browser->app)
         return true;
     const auto frontmost = m_applications.frontmost();
-    return frontmost && frontmost->pid == browser->app->pid;
+    if (!frontmost || frontmost->pid != browser->app->pid)
+        return false;
+    const auto tab = activeTab(frontmost->pid);
+    return !tab || tab->browser == id;
 }
 
 SiteDrift::Veiled* SiteDrift::veiled(TabKey tab) {
@@ -69,9 +75,7 @@ SiteDrift::Veiled* SiteDrift::veiled(TabKey tab) {
 
 /// The other mode that a site certainly belongs to.
 const Mode* SiteDrift::owner(const QString& site) const {
-    auto verdict = m_classifier.ruleVerdict(SiteSubject{.host = site});
-    if (!verdict)
-        verdict = m_classifier.cachedVerdict(SiteSubject{.host = site});
+    const auto verdict = m_classifier.known(SiteSubject{.host = site});
     const bool isElsewhere = verdict && verdict->certainty == Certainty::certain && verdict->modeID &&
                              *verdict->modeID != m_engine.current().id;
     return isElsewhere ? m_engine.mode(*verdict->modeID) : nullptr;
@@ -89,7 +93,7 @@ void SiteDrift::judge(const BrowserTab& tab) {
         if (shown->tab != key)
             putOff();
         else if (shown->host != site)
-            m_gate.close();
+            m_gate.withdraw();
     }
     if (m_leaving && m_leaving->tab.browser == tab.browser) {
         if (isStillAbout(m_leaving->tab, m_leaving->host))
@@ -110,7 +114,7 @@ void SiteDrift::judge(const BrowserTab& tab) {
         if (listing && listing->id != m_engine.current().id) {
             // A list needs no question; what it says is shown all the same.
             if (mayBeInFront(tab.browser))
-                const Handle answered = m_classifier.judge(subject, [](const auto&) {});
+                m_classifier.showRule(subject);
             showGate(*site, tab, Mode(*listing), {});
             return;
         }
@@ -208,7 +212,7 @@ void SiteDrift::putOff() {
         return;
     if (Veiled* entry = veiled(shown->tab))
         entry->asked = false;
-    m_gate.close();
+    m_gate.withdraw();
     Q_EMIT changed();
 }
 
@@ -218,7 +222,7 @@ void SiteDrift::tabClosed(TabKey tab) {
     if (const auto active = activeTab(tab.browser); active && active->key() == tab)
         m_activeTabs.erase(tab.browser);
     if (const Gate::Site* shown = m_gate.blockedSite(); shown && shown->tab == tab)
-        m_gate.close();
+        m_gate.withdraw();
     forget(tab);
 }
 
@@ -228,7 +232,7 @@ void SiteDrift::browserGone(BrowserID browser) {
     m_activeTabs.erase(browser);
     m_veiled.removeIf([browser](const Veiled& veiled) { return veiled.tab.browser == browser; });
     if (const Gate::Site* shown = m_gate.blockedSite(); shown && shown->tab.browser == browser)
-        m_gate.close();
+        m_gate.withdraw();
     Q_EMIT changed();
 }
 
@@ -261,24 +265,20 @@ void SiteDrift::comeForward(BrowserID id) {
         m_applications.activate(browser->app->pid);
 }
 
-void SiteDrift::reassign(const QString& site, const Mode& owner) {
-    for (const Veiled& entry : QList(m_veiled)) {
-        if (entry.site == site)
-            veil(entry.tab, site, owner, entry.note);
-    }
+/// The application of the browser whose page the gate asks about, if it does and the system knows it.
+const RunningApp* SiteDrift::askedBrowser() const {
+    const Gate::Site* shown = m_gate.blockedSite();
+    const auto* browser = shown ? m_bridge.browser(shown->tab.browser) : nullptr;
+    return browser && browser->app ? &*browser->app : nullptr;
 }
 
 void SiteDrift::frontChanged(const RunningApp& app) {
-    const Gate::Site* shown = m_gate.blockedSite();
-    const auto* browser = shown ? m_bridge.browser(shown->tab.browser) : nullptr;
-    if (browser && browser->app && browser->app->pid != app.pid)
+    if (const RunningApp* asked = askedBrowser(); asked && asked->pid != app.pid)
         putOff();
 }
 
 void SiteDrift::windowsGone(const QString& bundleID) {
-    const Gate::Site* shown = m_gate.blockedSite();
-    const auto* browser = shown ? m_bridge.browser(shown->tab.browser) : nullptr;
-    if (browser && browser->app && browser->app->bundleID == bundleID)
+    if (const RunningApp* asked = askedBrowser(); asked && asked->bundleID == bundleID)
         putOff();
 }
 

@@ -47,7 +47,8 @@ public:
     void tabClosed(TabKey tab);
     void browserGone(BrowserID browser);
 
-    /// The active tab of the browser with that process; of several connections of it, the one that reported last.
+    /// The active tab of the browser with that process; of its several connections (a browser has one for each
+    /// profile), of the one whose window had the focus last.
     std::optional<BrowserTab> activeTab(qint64 pid) const;
     std::optional<BrowserTab> activeTab(BrowserID browser) const;
     const QList<Veiled>& veiledTabs() const { return m_veiled; }
@@ -61,7 +62,6 @@ public:
     void stay(const Gate::Site& site);
     void letThrough(const Gate::Site& site);
     void allowOnce(const QString& site) { m_allowedOnce.insert(site); } ///< for the rest of the session
-    void reassign(const QString& site, const Mode& owner); ///< the user said which other mode it belongs to
 
     /// Another application is in front: the question about a page of another one is put off.
     void frontChanged(const RunningApp& app);
@@ -75,7 +75,7 @@ Q_SIGNALS:
 private:
     struct Active {
         BrowserTab tab{};
-        quint64 order{}; ///< of its report
+        quint64 order{}; ///< of its last report with the focus; 0: it had none
     };
     struct Pending {
         TabKey tab{};
@@ -85,6 +85,7 @@ private:
 
     bool shows(TabKey tab, const QString& site) const;
     bool mayBeInFront(BrowserID id) const;
+    const RunningApp* askedBrowser() const;
     Veiled* veiled(TabKey tab);
     const Mode* owner(const QString& site) const;
     void showGate(const QString& site, const BrowserTab& tab, const Mode& owner, const std::optional<QString>& note);

@@ -29,7 +29,6 @@ struct Folders {
 /// A browser that can start our relay, and where this system's copy of it looks for the relay's manifest.
 struct BrowserHome {
     enum class Family { chromium, mozilla };
-    QString name{};
     QString data{};      ///< exists once the browser was used
     QString manifests{}; ///< need not exist
     Family family{};

@@ -20,9 +20,7 @@ Conversation::Conversation(long browser)
 void Conversation::connected() {
     m_dialAt.reset();
     m_isConnected = true;
-    m_isLossKnown = false;
-    m_tellsConnection = true;
-    tellBrowser();
+    m_isAnswered = false;
     m_toApplication.append(m_hello).push_back('\n');
     sendTab();
 }
@@ -54,6 +52,12 @@ bool Conversation::fromApplication(std::string_view bytes) {
             return;
         // Only now: whoever accepts connections just to drop them is not to be dialled without a pause.
         m_delay.reset();
+        if (!m_isAnswered) {
+            m_isAnswered = true;
+            m_isLossKnown = false;
+            m_tellsConnection = true;
+            tellBrowser();
+        }
         appendNativeMessage(m_toBrowser, line);
     });
 }

@@ -60,6 +60,7 @@ private:
     RedialDelay m_delay;
     std::optional<Moment> m_dialAt = Moment{};
     bool m_isConnected = false;
+    bool m_isAnswered = false; ///< since then; a program that hangs can be connected to as well
     bool m_isLossKnown = false; ///< to the extension, or soon
     bool m_tellsLoss = false;
     bool m_tellsConnection = false;

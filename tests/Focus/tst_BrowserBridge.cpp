@@ -74,7 +74,7 @@ private Q_SLOTS:
                                   "null",
                                   "[]",
                                   "{",
-                                  "\xff\xfe\0",
+                                  QByteArray("\xff\xfe\0\x01", 4),
                                   "{\"type\":7}",
                                   tab("-1"),
                                   tab("1.5"),
@@ -84,6 +84,7 @@ private Q_SLOTS:
                                   R"({"type":"tab","tabId":1,"url":"http://a.example"})",
                                   R"({"type":"tab","tabId":1,"url":2,"title":"A"})",
                                   R"({"type":"hello"})",
+                                  R"({"type":"tab","tabId":1,"url":"","title":"","focused":1})",
                                   R"({"type":"hello","pids":1})",
                                   R"({"type":"ask"})",
                                   R"({"type":"closed","tabId":{}})",
@@ -149,10 +150,8 @@ private Q_SLOTS:
     void manifestsLeadBrowsersToTheRelay() {
         const QTemporaryDir home;
         const auto browser = [&](const QString& name, BrowserHome::Family family) {
-            return BrowserHome{.name = name,
-                               .data = home.filePath(name),
-                               .manifests = home.filePath(name + u"/hosts"_s),
-                               .family = family};
+            return BrowserHome{
+                .data = home.filePath(name), .manifests = home.filePath(name + u"/hosts"_s), .family = family};
         };
         const QList<BrowserHome> browsers{browser(u"used"_s, BrowserHome::Family::chromium),
                                           browser(u"fox"_s, BrowserHome::Family::mozilla),
@@ -162,7 +161,8 @@ private Q_SLOTS:
         };
         QDir().mkpath(home.filePath(u"fox"_s));
         putFile(file("used"), "somebody else's");
-        hostManifests::install(browsers, u"/opt/fendrel-bridge"_s);
+        QSet<QString> failed;
+        hostManifests::install(browsers, u"/opt/fendrel-bridge"_s, failed);
         QVERIFY(!QFileInfo::exists(home.filePath(u"absent"_s)));
         QCOMPARE(contentOf(file("used") + u".damaged-1"_s), "somebody else's");
         const auto chromium = QJsonDocument::fromJson(contentOf(file("used"))).object();
@@ -172,9 +172,9 @@ private Q_SLOTS:
 
         // Only what differs is written again.
         QVERIFY(QFile(file("fox")).setPermissions(QFile::ReadOwner));
-        hostManifests::install(browsers, u"/opt/fendrel-bridge"_s);
+        hostManifests::install(browsers, u"/opt/fendrel-bridge"_s, failed);
         QCOMPARE(permissionsOf(file("fox")), 0400U);
-        hostManifests::install(browsers, u"/usr/bin/fendrel-bridge"_s);
+        hostManifests::install(browsers, u"/usr/bin/fendrel-bridge"_s, failed);
         QVERIFY(contentOf(file("fox")).contains("/usr/bin/fendrel-bridge"));
         putFile(file("used"), R"({"name":"another"})");
         QCOMPARE(hostManifests::uninstall(browsers), QStringList{file("fox")});

@@ -137,8 +137,13 @@ class RelayProcess(unittest.TestCase):
         application, relay = self.serve(), self.start()
         application.accept()
         self.assertEqual(application.next(), {"type": "hello", "pids": [os.getpid()]})
-        self.assertEqual(relay.next(), CONNECTED)
+        self.answer(application, relay)
         return application, relay
+
+    def answer(self, application, relay):
+        """Only then it is known to be there, and not to hang."""
+        application.say(STATE)
+        self.assertEqual([relay.next(), relay.next()], [CONNECTED, STATE])
 
     def test_passes_messages_and_nothing_else(self):
         application, relay = self.start_connected()
@@ -155,7 +160,7 @@ class RelayProcess(unittest.TestCase):
         application.connection.sendall(b"{" * 1_048_577)  # a line without end
         self.assertEqual(relay.next(), DISCONNECTED)
         application.accept()
-        self.assertEqual(relay.next(), CONNECTED)
+        self.answer(application, relay)
         application.connection.shutdown(socket.SHUT_RD)  # deaf, and not gone
         relay.say(ASK)
         self.assertEqual(relay.next(), DISCONNECTED)
@@ -172,8 +177,7 @@ class RelayProcess(unittest.TestCase):
             self.assertLess(time.monotonic() - begun, NOTICED)
             self.assertEqual(application.next()["type"], "hello")
             self.assertEqual(application.next(), expected)
-            application.say(STATE)
-            self.assertEqual([relay.next(), relay.next()], [CONNECTED, STATE])
+            self.answer(application, relay)
             expected = tab(number)
             relay.say(expected)
             self.assertEqual(application.next(), expected)

@@ -19,8 +19,7 @@ QList<BrowserHome> browserHomes(const QString& home, const QString& config) {
         const QString manifests = browser.contains("manifests"_L1)
                                       ? home + u'/' + browser[u"manifests"].toString()
                                       : data + (isMozilla ? u"/native-messaging-hosts"_s : u"/NativeMessagingHosts"_s);
-        homes.append({.name = browser[u"name"].toString(),
-                      .data = data,
+        homes.append({.data = data,
                       .manifests = manifests,
                       .family = isMozilla ? BrowserHome::Family::mozilla : BrowserHome::Family::chromium});
     }

@@ -21,8 +21,21 @@ const Mode* frontMode(AppController& controller) {
 } // namespace
 
 VerdictController::VerdictController(AppController& controller) : m_controller(controller) {
-    connect(&controller.classifier(), &Classifier::changed, this, &VerdictController::changed);
-    connect(&controller.engine(), &ModeEngine::changed, this, &VerdictController::changed);
+    connect(&controller.classifier(), &Classifier::changed, this, &VerdictController::schedule);
+    connect(&controller.engine(), &ModeEngine::changed, this, &VerdictController::schedule);
+}
+
+/// Browsers can tell of a hundred pages between two frames: only the last is worth drawing.
+void VerdictController::schedule() {
+    if (std::exchange(m_isDue, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isDue = false;
+            Q_EMIT changed();
+        },
+        Qt::QueuedConnection);
 }
 
 bool VerdictController::isShown() const {

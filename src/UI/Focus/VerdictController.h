@@ -46,7 +46,10 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void schedule();
+
     AppController& m_controller;
+    bool m_isDue = false;
     std::optional<Subject> m_held; ///< something else may come to the front while the menu is open
 };
 

@@ -17,9 +17,9 @@ QtObject {
     readonly property color accent: "#2f7df0"
     readonly property color warning: isDark ? "#f5b13d" : "#a15c00"
 
-    // Text or symbols on a filled tint: white, but dark on the light tints.
+    // Text or symbols on a filled tint: white, but dark where white would have a contrast below 3.
     function onTint(tint: color): color {
-        return luminance(tint) > 0.5 ? "#1c1d21" : "#ffffff"
+        return luminance(tint) > 0.3 ? "#1c1d21" : "#ffffff"
     }
 
     // The tint as text or symbol on this window's background: shifted until it can be read.
