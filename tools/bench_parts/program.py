@@ -4,8 +4,10 @@ import contextlib
 import json
 import os
 import pathlib
+import socket
 import subprocess
 import sys
+import threading
 import time
 
 from bench_parts.display import Display
@@ -15,6 +17,7 @@ FIRST_RUN, DOCK, GATE, EMPTY = "Welcome to Fendrel", "Fendrel dock", "Stay focus
 WORK, FOREIGN = "work", "foreign"
 STARTS = 12
 GATES = 40
+BURST = 100_000
 IDLE_SECONDS = 60.0
 SETTLE_SECONDS = 5.0  # what follows a start: animations, files written at leisure
 
@@ -102,6 +105,34 @@ class Bench:
                 self.display.wait_active(work)
         return results
 
+    def burst(self):
+        """How long a question to the interface's thread waits while a browser reports as fast as it can."""
+        waits = []
+        self.finish_first_run()
+        with self.fendrel(), self.application(WORK, "code"):
+            for host, mode in ((WORK, "building"), (FOREIGN, "social")):
+                self.control("mode", "add-site", mode, f"{host}.example")
+            self.control("focus", "start")
+            folder = pathlib.Path.home() / ".local/share/Fendrel"
+            with socket.socket(socket.AF_UNIX) as browser, socket.socket(socket.AF_UNIX) as control:
+                browser.connect(str(folder / "bridge.sock"))
+                control.connect(str(folder / "control.sock"))
+                reports = b"".join(report(number) for number in range(BURST))
+                sender = threading.Thread(target=browser.sendall, args=[b'{"type":"hello","pids":[1]}\n' + reports])
+                reader = threading.Thread(target=lambda: [None for _ in iter(lambda: browser.recv(65536), b"")], daemon=True)
+                sender.start()
+                reader.start()
+                answers = control.makefile("rb")
+                last = False
+                while not last:
+                    begun = time.monotonic()
+                    control.sendall(b'{"command":"status"}\n')
+                    tab = (json.loads(answers.readline())["result"]["browsers"] or [{}])[0].get("tab")
+                    waits.append((time.monotonic() - begun) * 1e3)
+                    last = tab and tab["title"] == str(BURST - 1)
+                sender.join()
+        return {"waits": waits}
+
     def idle(self):
         results = {"seconds": IDLE_SECONDS}
         self.finish_first_run()
@@ -117,6 +148,12 @@ class Bench:
                 results[state] = {name: {**usage(pid, before[name]), "memory": memory(pid)}
                                   for name, pid in processes.items()}
         return results
+
+
+def report(number):
+    """In turn of two tabs, one of which is to be veiled: each changes what is judged, drawn and told."""
+    host = (WORK, FOREIGN)[number % 2]
+    return json.dumps({"type": "tab", "tabId": number % 2, "url": f"http://{host}.example/", "title": str(number)}).encode() + b"\n"
 
 
 def threads(pid):
