@@ -21,6 +21,7 @@ GATE, DOCK, SETTINGS = "Stay focused, or switch?", "Fendrel dock", "Fendrel Sett
 OWN = "org.fendrel.Fendrel"
 # What sanitizers and QML say of a fault in the program.
 FAULTS = re.compile(r"Sanitizer|runtime error:|^qrc:.*(Error|Warning|loop)|Cannot (assign|read)|ASSERT", re.MULTILINE)
+IS_SANITIZED = re.search(rb"__[at]san_init", (PROGRAMS / "fendrel").read_bytes()) is not None
 
 
 class Application:

@@ -1,7 +1,6 @@
 """How the program starts, ends, crashes and comes back."""
 
 import os
-import re
 import resource
 import select
 import signal
@@ -9,10 +8,8 @@ import subprocess
 import unittest
 
 import harness
-from harness import DATA, HOME, PROGRAMS, SETTINGS, STATE
+from harness import DATA, HOME, IS_SANITIZED, PROGRAMS, SETTINGS, STATE
 from windows import SECONDS, press, wait_active
-
-IS_SANITIZED = re.search(rb"__[at]san_init", (PROGRAMS / "fendrel").read_bytes()) is not None
 
 
 def run(*arguments, without=(), **environment):

@@ -103,6 +103,16 @@ def tell_gate(gate, before):
     return "the gate is closed" if before else ""
 
 
+def tell_browsers(browsers, before):
+    return "a browser is connected" if browsers and not before else ""
+
+
+def tell_veils(veils, before):
+    if veils and not before:
+        return "VEIL: " + ", ".join(f"{veil['site']} belongs to {veil['owner']}" for veil in veils)
+    return "no page is veiled any more" if before and not veils else ""
+
+
 def tell_onboarding(onboarding, before):
     return "the first run is over" if onboarding["done"] else "first run: nothing is judged yet"
 
@@ -114,5 +124,7 @@ TELLERS = {
     "focus": tell_focus,
     "front": tell_front,
     "judgement": tell_judgement,
+    "browsers": tell_browsers,
+    "veils": tell_veils,
     "gate": tell_gate,
 }
