@@ -1,5 +1,5 @@
 const shortestWait = 500;
-const longestWait = 20_000;
+const longestWait = 2500;
 
 /** How far we are on the way to Fendrel. */
 export const Phase = {

@@ -14,11 +14,12 @@ function stageOf(change, tab, site) {
 }
 
 /**
- * Takes a tab off a site: back to the last page that is of another site, else to a new-tab page. How far back that is
- * nobody tells an extension, so it goes back until it is there.
+ * Takes the user off a site: back to the last page that is of another site, else to a new-tab page. How far back that is
+ * nobody tells an extension, so it goes back until it is there. A page can hold its tab, with the browser's question
+ * whether to lose what was written for one; then the new-tab page is beside it, and the tab stays as it is.
  */
 export class Leaving {
-    onStayed = tabId => {}; // the tab could not be taken off the site
+    onStayed = tabId => {}; // the site could not be left
     #tabs;
     #stepBack;
     #newTabPages;
@@ -39,11 +40,16 @@ export class Leaving {
             return;
         this.#underway.set(tabId, () => {});
         try {
-            const site = siteOf((await this.#tabs.get(tabId)).url);
-            if (site !== null && !(await this.#wentBack(tabId, site)) && !(await this.#becameNew(tabId, site)))
-                this.onStayed(tabId);
+            const tab = await this.#tabs.get(tabId);
+            const site = siteOf(tab.url);
+            let stage = site === null ? "left" : await this.#goBack(tabId, site);
+            if (stage === "stuck")
+                stage = await this.#becomeNew(tabId, site);
+            if (stage !== "left")
+                await this.#tabs.create({ windowId: tab.windowId, index: tab.index + 1 });
         } catch {
-            // The tab is gone.
+            // The tab is gone, or the browser makes no other just now.
+            this.onStayed(tabId);
         } finally {
             this.#underway.delete(tabId);
         }
@@ -53,29 +59,38 @@ export class Leaving {
         this.#underway.get(tabId)?.(change, tab);
     }
 
-    async #wentBack(tabId, site) {
+    /** "left", "held" by a page that does not answer, or "stuck" where going back leads nowhere. */
+    async #goBack(tabId, site) {
         let unseen = 0;
         for (let step = 0; step < mostSteps && unseen < mostUnseenSteps; ++step) {
             const outcome = this.#outcome(tabId, site);
-            if (!(await this.#stepBack(tabId).catch(() => false)))
-                return false;
-            const seen = await outcome;
-            if (seen === "left" || seen === "late")
-                return seen === "left";
+            const stepped = this.#stepBack(tabId).catch(() => false);
+            const answer = await Promise.race([stepped, outcome.then(seen => seen === "unseen" ? "held" : true)]);
+            if (answer === "held")
+                return "held";
+            const seen = answer ? await outcome : "late";
+            if (seen === "left")
+                return "left";
+            if (seen === "late")
+                break;
             unseen += seen === "unseen" ? 1 : 0;
         }
-        return false;
+        return "stuck";
     }
 
-    // New-tab pages can be on the network, and then they may not come.
-    async #becameNew(tabId, site) {
+    /** "left" or "held". */
+    async #becomeNew(tabId, site) {
         for (const page of this.#newTabPages) {
             const outcome = this.#outcome(tabId, site);
             await this.#tabs.update(tabId, page);
-            if (await outcome === "left")
-                return true;
+            const seen = await outcome;
+            if (seen === "left")
+                return "left";
+            // Whoever holds the tab is asked once. But new-tab pages can be on the network, and then they may not come.
+            if (seen === "unseen")
+                break;
         }
-        return false;
+        return "held";
     }
 
     /** "left" for another site, "moved" within this one, "unseen" when nothing moved, or "late". */

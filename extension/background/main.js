@@ -13,7 +13,7 @@ import { Views } from "./views.js";
 
 const connection = new Connection(() => browser.runtime.connectNative("org.fendrel.bridge"),
                                   port => port.error ?? browser.runtime.lastError);
-const reporter = new Reporter(browser.tabs, message => connection.send(message));
+const reporter = new Reporter(browser.tabs, browser.windows, message => connection.send(message));
 const pages = new Pages(browser.scripting, isFirefox);
 const veils = new Veils(browser.tabs, pages);
 const views = new Views();
@@ -26,7 +26,10 @@ const handlers = {
     unveil: ({ tabId }) => veils.lift(tabId),
     back: ({ tabId }) => leaving.leave(tabId),
     open: ({ urls }) => openAddresses(browser, urls),
-    state: message => views.stateChanged(message),
+    state: message => {
+        veils.review(message);
+        views.stateChanged(message);
+    },
 };
 
 connection.onOpened = () => reporter.again();
@@ -80,7 +83,9 @@ browser.tabs.onReplaced?.addListener((added, removed) => {
 });
 browser.tabs.onRemoved.addListener(tabId => veils.tabRemoved(tabId));
 browser.tabs.onAttached.addListener(() => reporter.changed());
-browser.windows.onFocusChanged.addListener(() => reporter.changed());
+// Another profile of this browser may have told of its own window meanwhile, and only one of them is in front.
+browser.windows.onFocusChanged.addListener(windowId =>
+    windowId === browser.windows.WINDOW_ID_NONE ? reporter.changed() : reporter.again());
 
 browser.runtime.onConnect.addListener(port => {
     if (port.name !== "view") {

@@ -44,6 +44,11 @@ export class Pages {
         this.#tell(port, isRight ? details : null);
     }
 
+    /** Whether the page in that tab hears us, so that it shows the last that it was told. */
+    shows(tabId) {
+        return [...this.#ports.get(tabId) ?? []].some(port => port.name === "page");
+    }
+
     cover(tabId, details) {
         for (const port of this.#ports.get(tabId) ?? [])
             this.#tell(port, details);

@@ -6,13 +6,16 @@ const longestTitle = 1024;
 /** Tells Fendrel which tab is in front, once for each change of it. */
 export class Reporter {
     #tabs;
+    #windows;
     #send;
     #last = null;
+    #isDue = false;
     #isLooking = false;
     #isOutdated = false;
 
-    constructor(tabs, send) {
+    constructor(tabs, windows, send) {
         this.#tabs = tabs;
+        this.#windows = windows;
         this.#send = send;
     }
 
@@ -26,39 +29,42 @@ export class Reporter {
             while (this.#isOutdated) {
                 this.#isOutdated = false;
                 const tab = await this.frontTab();
+                const window = tab && await this.#windows.get(tab.windowId);
                 // What changed while we looked is looked at again, so that the last word is never an old one.
                 if (tab && !this.#isOutdated)
-                    this.#report(tab);
+                    this.#report(tab, window.focused);
             }
         } finally {
             this.#isLooking = false;
         }
     }
 
-    /** Whoever listens now may not know what was told before. */
+    /** Whoever listens may not know what was told before, or was told of another window since. */
     again() {
-        this.#last = null;
+        this.#isDue = true;
         return this.changed();
     }
 
-    /** Nothing while a window is in front that is not for browsing: a developer's tool, an extension's window. */
+    /** Nothing while a developer's tool is in front. */
     async frontTab() {
-        const [tab] = await this.#tabs.query({ active: true, lastFocusedWindow: true, windowType: "normal" });
+        const [tab] = await this.#tabs.query({ active: true, lastFocusedWindow: true });
         return tab ?? null;
     }
 
-    #report(tab) {
-        const url = reportable(tab.url ?? "");
-        const message = {
-            type: "tab",
-            tabId: tab.id,
-            url: url.slice(0, longestAddress),
-            title: url ? (tab.title ?? "").slice(0, longestTitle) : "",
-        };
-        const isLast = this.#last?.tabId === tab.id;
-        if (isLast && (isBetweenPages(tab) || this.#last.url === message.url && this.#last.title === message.title))
+    #report(tab, focused) {
+        const last = this.#last?.tabId === tab.id ? this.#last : null;
+        // A tab between two pages still shows the first.
+        const { url, title } = last && isBetweenPages(tab) ? last : this.#words(tab);
+        const isNews = url !== last?.url || title !== last.title || focused && !last.focused;
+        if (!isNews && !this.#isDue)
             return;
-        this.#last = message;
-        this.#send(message);
+        this.#isDue = false;
+        this.#last = { type: "tab", tabId: tab.id, url, title, focused };
+        this.#send(this.#last);
+    }
+
+    #words(tab) {
+        const url = reportable(tab.url ?? "");
+        return { url: url.slice(0, longestAddress), title: url ? (tab.title ?? "").slice(0, longestTitle) : "" };
     }
 }

@@ -1,4 +1,5 @@
 import { shades } from "../shared/colors.js";
+import { isLetBe } from "../shared/messages.js";
 import { isBetweenPages, siteOf } from "../shared/site.js";
 
 /**
@@ -27,6 +28,11 @@ export class Veils {
     }
 
     async put({ tabId, site, mode, color }) {
+        const present = this.#veils.get(tabId);
+        const isSame = present?.site === site && present.mode === mode && present.shades.fill === color;
+        // It is put again whenever its tab is told of, and a page can rename itself many times a second.
+        if (isSame && this.#pages.shows(tabId))
+            return;
         const veil = { site, mode, shades: shades(color) };
         this.#veils.set(tabId, veil);
         const tab = await this.#tabs.get(tabId).catch(() => null);
@@ -50,6 +56,17 @@ export class Veils {
     liftAll() {
         for (const tabId of [...this.#veils.keys()])
             this.lift(tabId);
+    }
+
+    /**
+     * What Fendrel tells of itself can come without a word on a veil: it takes for gone those of tabs that the user was
+     * to leave, and they can still be there.
+     */
+    review({ focus, page }) {
+        if (!focus)
+            this.liftAll();
+        else if (page && isLetBe(page) && this.site(page.tabId) === page.site)
+            this.lift(page.tabId);
     }
 
     tabUpdated(tabId, change, tab) {

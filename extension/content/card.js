@@ -18,9 +18,11 @@ fendrel.fillCard = (dialog, { site, mode, shades }) => {
     const mark = element("svg", { class: "mark", viewBox: "0 0 16 16", "aria-hidden": "true" },
         element("path", { d: "M4 2h8a1 1 0 0 1 0 2H5v9a1 1 0 0 1-2 0V3a1 1 0 0 1 1-1Z" }),
         element("path", { class: "lit", d: "M7.5 6h4a1.5 1.5 0 0 1 0 3h-4a1.5 1.5 0 0 1 0-3Z" }));
+    // A host that is too long for a line is to end it after a dot.
+    const labels = site.split(/(?<=\.)/).flatMap(label => [label, element("wbr", {})]);
     const headline = element("h1", { id: "headline" },
-        element("bdi", { class: "site" }, site), " belongs to ", element("bdi", { class: "mode" }, mode), ".");
-    const note = element("p", { id: "note" }, "You are in a focus session. Fendrel will ask you in a moment.");
+        element("bdi", { class: "site" }, ...labels), " belongs to ", element("bdi", { class: "mode" }, mode), ".");
+    const note = element("p", { id: "note" }, "You are in a focus session. ", element("br", {}), "Fendrel asks before this page opens.");
     const button = element("button", { type: "button" }, "Ask now");
 
     for (const [name, color] of Object.entries({ tint: shades.fill, "on-tint": shades.onFill, light: shades.light, dark: shades.dark }))

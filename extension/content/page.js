@@ -30,10 +30,12 @@ fendrel.Page = class {
             return;
         }
         this.#port = port;
-        port.onMessage.addListener(message => message.type === "cover" ? this.#hold(message.details) : this.#dismiss());
+        port.onMessage.addListener(message => message.type === "cover" ? this.#hold(message.details) : this.#release());
         port.onDisconnect.addListener(() => {
-            if (this.#port === port)
-                this.#dismiss();
+            if (this.#port === port) {
+                this.#port = null;
+                this.#release();
+            }
         });
     }
 
@@ -45,11 +47,6 @@ fendrel.Page = class {
     #hold(details) {
         this.#cover?.show(details);
         this.#media.hold();
-    }
-
-    #dismiss() {
-        this.#hangUp();
-        this.#release();
     }
 
     #release() {
@@ -64,7 +61,8 @@ fendrel.Page = class {
 };
 
 fendrel.runtime = (globalThis.browser ?? globalThis.chrome).runtime;
-if (!fendrel.page?.isConnected) {
+// What is meant for frames can come so late that it is in the next page of the tab, which is none.
+if ((fendrel.Cover || window !== window.top) && !fendrel.page?.isConnected) {
     fendrel.page ??= new fendrel.Page();
     if (fendrel.coversFirst)
         fendrel.page.coverFirst();

@@ -93,6 +93,7 @@ h1 {
     font: 700 20px/1.35 Inter, system-ui, sans-serif;
     text-wrap: balance;
     overflow-wrap: anywhere;
+    hyphens: none;
 }
 
 .mode {
@@ -198,6 +199,20 @@ button:focus-visible {
 
     p {
         margin-bottom: 16px;
+    }
+}
+
+@media (max-width: 280px) {
+    .card {
+        padding: 16px 12px 12px;
+    }
+
+    h1 {
+        font-size: 15px;
+    }
+
+    p {
+        font-size: 13px;
     }
 }
 

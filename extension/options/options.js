@@ -1,6 +1,6 @@
 import { browser, isFirefox } from "../shared/browser.js";
 import { byId, element, follow, followSiteAccess, showJudgement, showMode } from "../shared/view.js";
-import { connectionWords, privateWindowWords } from "../shared/wording.js";
+import { connectionWords, privateWindowNote, privateWindowWords } from "../shared/wording.js";
 
 follow(({ phase, reason, state, lastPage }) => {
     const { status, text } = connectionWords(phase);
@@ -19,8 +19,8 @@ async function showPrivateWindows() {
     const { kind, steps } = privateWindowWords(navigator.userAgent, isFirefox);
     const isAllowed = await browser.extension.isAllowedIncognitoAccess();
     byId("private-state").textContent = isAllowed
-        ? `Fendrel works in ${kind} too, as you allowed.`
-        : `Fendrel knows nothing of ${kind} unless you allow it:`;
+        ? `Fendrel works in ${kind} too, as you allowed. ${privateWindowNote}`
+        : `Fendrel knows nothing of ${kind} unless you allow it. ${privateWindowNote} To allow it:`;
     byId("private-steps").hidden = isAllowed;
     byId("private-steps").replaceChildren(...steps.map(step => element("li", "", step)));
 }

@@ -42,3 +42,8 @@ export function understood(message) {
     const isNamed = isRecord({ type: isText })(message) && Object.hasOwn(types, message.type);
     return isNamed && types[message.type](message) ? message : null;
 }
+
+/** Whether Fendrel has judged that page, and found nothing for which it would stop it in a focus session. */
+export function isLetBe({ state, mode, isCurrent, certainty, isAllowed }) {
+    return state === "judged" && (!mode || isCurrent || isAllowed || certainty !== "certain");
+}

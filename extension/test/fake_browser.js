@@ -5,9 +5,10 @@ import { mock } from "node:test";
 export class FakeTabs {
     tabs = new Map();
     updates = [];
+    created = [];
 
     put(id, url, more = {}) {
-        this.tabs.set(id, { id, url, title: `Title of ${url}`, status: "complete", active: true, ...more });
+        this.tabs.set(id, { id, windowId: 1, index: 4, url, title: `Title of ${url}`, status: "complete", active: true, ...more });
         return this.tabs.get(id);
     }
 
@@ -23,6 +24,10 @@ export class FakeTabs {
 
     async update(id, change) {
         this.updates.push([id, change]);
+    }
+
+    async create(tab) {
+        this.created.push(tab);
     }
 }
 

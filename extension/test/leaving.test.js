@@ -73,17 +73,41 @@ test("where nothing is behind, the tab becomes a new one", async () => {
     }
 });
 
-test("a page that cannot be left is told", async () => {
-    leaving = new Leaving(tabs, async () => false, newTabPages);
-    leaving.onStayed = tabId => stayed.push(tabId);
-    const left = leaving.leave(1);
-    await settled();
-    for (const page of newTabPages) {
-        assert.deepEqual(tabs.updates.at(-1), [1, page]);
-        mock.timers.tick(500);
+test("a page that holds its tab is left for a tab beside it", async () => {
+    const pass = async milliseconds => {
+        mock.timers.tick(milliseconds);
         await settled();
+    };
+    const never = new Promise(() => {});
+    const rows = [
+        ["it asks before it goes back", () => steps++ === 0 ? true : never, () => pass(500), 0],
+        ["it answers nothing", () => never, () => {}, 0],
+        ["it asks before it becomes new", async () => false, () => {}, 1],
+        ["no new-tab page comes", async () => false, async () => {
+            for (const page of newTabPages) {
+                assert.deepEqual(tabs.updates.at(-1), [1, page]);
+                await update({ status: "loading" }, "https://social.example/");
+                await pass(1400);
+            }
+        }, 2],
+    ];
+    for (const [name, stepBack, happen, updates] of rows) {
+        [steps, tabs.updates, tabs.created] = [0, [], []];
+        leaving = new Leaving(tabs, async () => stepBack(), newTabPages);
+        leaving.onStayed = tabId => stayed.push(tabId);
+        const left = leaving.leave(1);
+        await settled();
+        await happen();
+        await pass(500);
+        await left;
+        assert.deepEqual(tabs.created, [{ windowId: 1, index: 5 }], name);
+        assert.equal(tabs.updates.length, updates, name);
     }
-    await left;
+    assert.deepEqual(stayed, []);
+    tabs.create = () => Promise.reject(new Error("Tabs cannot be edited right now"));
+    leaving.leave(1);
+    await settled();
+    await pass(500);
     assert.deepEqual(stayed, [1]);
 });
 
@@ -95,5 +119,5 @@ test("once is enough, and a tab that is gone or elsewhere is left alone", async 
     await leaving.leave(9);
     tabs.put(2, undefined);
     await leaving.leave(2);
-    assert.deepEqual([steps, tabs.updates], [1, []]);
+    assert.deepEqual([steps, tabs.updates, tabs.created], [1, [], []]);
 });

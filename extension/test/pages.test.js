@@ -57,6 +57,11 @@ test("every document of the tab hears, but for those that are gone", () => {
     page.say(null);
     pages.uncover(1);
     assert.deepEqual(page.messages.map(message => message.type), ["cover", "uncover"]);
+    assert.ok(pages.shows(1));
+    page.drop();
+    pages.connected(new FakePort("frame", { tab: { id: 1 }, url: "https://video.example/" }));
+    closing.drop();
+    assert.ok(!pages.shows(1), "a frame is not the page");
     assert.equal(old.messages.length, 1);
     assert.deepEqual(asked, [1]);
 });

@@ -3,11 +3,11 @@ import { beforeEach, test } from "node:test";
 import { Reporter } from "../background/reporter.js";
 import { FakeTabs } from "./fake_browser.js";
 
-let tabs, told, reporter;
+let tabs, isFocused, told, reporter;
 beforeEach(() => {
     tabs = new FakeTabs();
-    told = [];
-    reporter = new Reporter(tabs, message => told.push(message));
+    [isFocused, told] = [true, []];
+    reporter = new Reporter(tabs, { get: async () => ({ focused: isFocused }) }, message => told.push(message));
 });
 
 const addresses = () => told.map(message => message.url);
@@ -21,7 +21,7 @@ test("each change of what is in front is told once", async () => {
         [() => tabs.put(2, "https://a.example/", { title: "(1) New" }) && tabs.tabs.delete(1), true],
         [() => tabs.put(2, undefined, { title: "Settings of the browser" }), true],
         [() => tabs.put(2, undefined, { title: "Other settings" }), false],
-        [() => tabs.tabs.clear(), false], // a window in front that is not for browsing
+        [() => tabs.tabs.clear(), false], // a developer's tool in front
     ];
     for (const [step, isTold] of steps) {
         step();
@@ -29,7 +29,7 @@ test("each change of what is in front is told once", async () => {
         await reporter.changed();
         assert.equal(told.length - before, isTold ? 1 : 0, step.toString());
     }
-    assert.deepEqual(told.at(-1), { type: "tab", tabId: 2, url: "", title: "" });
+    assert.deepEqual(told.at(-1), { type: "tab", tabId: 2, url: "", title: "", focused: true });
 });
 
 test("of a burst the last state is told, whatever changes while tabs are looked at", async () => {
@@ -59,10 +59,12 @@ test("a tab between two pages still shows the first", async () => {
     tabs.put(1, undefined, { status: "loading" });
     await reporter.changed();
     assert.deepEqual(addresses(), ["https://a.example/"]);
+    await reporter.again();
+    assert.deepEqual(addresses(), ["https://a.example/", "https://a.example/"], "also to whoever is new");
     tabs.put(1, undefined, { active: false });
     tabs.put(2, undefined, { status: "loading" });
     await reporter.changed();
-    assert.deepEqual(addresses(), ["https://a.example/", ""], "another tab is in front, whatever it will show");
+    assert.deepEqual(addresses().at(-1), "", "another tab is in front, whatever it will show");
 });
 
 test("whoever is new is told again", async () => {
@@ -70,6 +72,20 @@ test("whoever is new is told again", async () => {
     await reporter.changed();
     await reporter.again();
     assert.equal(told.length, 2);
+});
+
+test("who comes to the front says so, and who leaves it says nothing", async () => {
+    tabs.put(1, "https://a.example/");
+    for (const focused of [true, false, false]) {
+        isFocused = focused;
+        await reporter.changed();
+    }
+    assert.deepEqual(told.map(message => message.focused), [true]);
+    tabs.put(1, "https://b.example/");
+    await reporter.changed();
+    isFocused = true;
+    await reporter.changed();
+    assert.deepEqual(told.map(message => message.focused), [true, false, true]);
 });
 
 test("what is told has an end", async () => {

@@ -6,13 +6,14 @@ import { FakeTabs } from "./fake_browser.js";
 const site = "social.example";
 const message = { type: "veil", tabId: 1, site, mode: "Social", color: "#f0644f" };
 
-let tabs, covered, guarded, happened, veils;
+let tabs, covered, covers, isHeard, guarded, happened, veils;
 beforeEach(() => {
     tabs = new FakeTabs();
     tabs.put(1, "https://www.social.example/page");
-    [covered, guarded, happened] = [new Map(), new Set(), []];
+    [covered, covers, isHeard, guarded, happened] = [new Map(), 0, true, new Set(), []];
     veils = new Veils(tabs, {
-        cover: (tabId, details) => covered.set(tabId, details),
+        cover: (tabId, details) => ++covers && covered.set(tabId, details),
+        shows: () => isHeard,
         uncover: tabId => covered.delete(tabId),
         guard: sites => guarded = sites,
     });
@@ -60,6 +61,15 @@ test("what changes while the tab is looked up counts", async () => {
     assert.equal(covered.get(1).mode, "Chat");
 });
 
+test("what is put again as it is costs a page nothing that shows it", async () => {
+    const rows = [[message, true, 1], [message, true, 1], [message, false, 2], [{ ...message, mode: "Chat" }, true, 3], [{ ...message, mode: "Chat", color: "#000000" }, true, 4]];
+    for (const [put, isThere, count] of rows) {
+        isHeard = isThere;
+        await veils.put(put);
+        assert.equal(covers, count, JSON.stringify([put, isThere]));
+    }
+});
+
 test("a veil follows its tab inside the site, and no further", async () => {
     const steps = [
         ["a reload", () => update({ status: "loading" }, "https://social.example/page"), true],
@@ -81,6 +91,28 @@ test("a page of the browser's own ends a veil as soon as it is there", async () 
     await veils.put(message);
     update({ status: "complete" }, undefined);
     assert.equal(isVeiled(), false);
+});
+
+test("what Fendrel lets be stays under no veil", async () => {
+    const mode = { name: "Social", color: "#f0644f" };
+    const page = { tabId: 1, site, state: "judged", mode, isCurrent: false, certainty: "certain", isAllowed: false };
+    const rows = [
+        [{ focus: true, page }, true],
+        [{ focus: true, page: null }, true],
+        [{ focus: true, page: { tabId: 1, site, state: "asking" } }, true],
+        [{ focus: true, page: { ...page, site: "other.example", isCurrent: true } }, true],
+        [{ focus: true, page: { ...page, tabId: 2, isCurrent: true } }, true],
+        [{ focus: true, page: { ...page, isCurrent: true } }, false],
+        [{ focus: true, page: { ...page, isAllowed: true } }, false],
+        [{ focus: true, page: { ...page, mode: null } }, false],
+        [{ focus: true, page: { ...page, certainty: "likely" } }, false],
+        [{ focus: false, page: null }, false],
+    ];
+    for (const [state, isKept] of rows) {
+        await veils.put(message);
+        veils.review(state);
+        assert.equal(isVeiled(), isKept, JSON.stringify(state));
+    }
 });
 
 test("when Fendrel is lost, nothing stays veiled or guarded", async () => {
