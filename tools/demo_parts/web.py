@@ -1,5 +1,6 @@
 """The web of the story: a handbook that belongs to the work, and a chat that does not."""
 
+import os
 import pathlib
 
 from demo_parts.chat import ROOM, TALK
@@ -21,8 +22,6 @@ PAGE = """<!doctype html><html lang="en"><meta charset="utf-8"><title>{title}</t
 <nav><b>{name}</b>{rooms}</nav><main><h1>{heading}</h1>{content}</main></html>"""
 
 COLOURS = ("#c2410c", "#0f766e", "#7c3aed", "#b45309")
-
-
 EXTENSION = pathlib.Path(__file__).resolve().parents[2] / "extension"
 
 
@@ -37,7 +36,9 @@ class Web(Site):
 
     def browser(self, host):
         """What starts a browser, with the extension, on a page of ours. It is quiet about how it is started."""
-        return ["chromium", f"--user-data-dir={self.data}", f"--load-extension={EXTENSION}", "--no-first-run", "--test-type",
+        # The browser refuses to start as root with its sandbox.
+        as_root = ["--no-sandbox"] if os.geteuid() == 0 else []
+        return ["chromium", *as_root, f"--user-data-dir={self.data}", f"--load-extension={EXTENSION}", "--no-first-run", "--test-type",
                 "--password-store=basic", "--disable-background-networking", "--disable-component-update", "--disable-sync",
                 "--window-position=420,130", "--window-size=1180,740",
                 f"--host-resolver-rules=MAP *.example 127.0.0.1:{self.server_address[1]}", f"http://{host}/"]
