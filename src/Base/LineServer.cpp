@@ -93,7 +93,7 @@ QString LineServer::listen(const QString& path) {
         ::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0)
         return reason();
     if (::chmod(bytes.constData(), S_IRUSR | S_IWUSR) != 0 || ::listen(socket.get(), SOMAXCONN) != 0) {
-        const QString problem = reason();
+        QString problem = reason();
         ::unlink(bytes.constData());
         return problem;
     }

@@ -37,8 +37,8 @@ struct BrowserHome {
 /// One adapter of every port. Members are destroyed in reverse order; adapters may use the ones before them.
 struct Platform {
     Folders folders{};
-    QString relay{};                ///< path of the program that browsers start to reach us
-    QList<BrowserHome> browsers{};  ///< all that this system may have
+    QString relay{};               ///< path of the program that browsers start to reach us
+    QList<BrowserHome> browsers{}; ///< all that this system may have
     /// Whether the process at the other end of a connected local socket is this user's.
     std::function<bool(int socket)> isPeerOwnUser = [](int) { return false; };
     std::unique_ptr<Worker> disk{}; ///< writes what the services save, off the main thread
