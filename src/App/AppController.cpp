@@ -21,6 +21,7 @@ AppController::AppController(Platform& platform)
       m_budget(*platform.settings, *platform.clock, *platform.idleTime),
       m_preferences(*platform.settings, *platform.look),
       m_focus(*platform.settings, *platform.clock),
+      m_messages(*platform.notificationLog, *platform.languageModel, *platform.clock, m_engine.catalog().sharedApps),
       m_titles(*platform.accessibility),
       m_bridge(*platform.applications, platform.isPeerOwnUser),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),

@@ -16,6 +16,7 @@
 #include "Focus/FocusSession.h"
 #include "Focus/Gate.h"
 #include "Focus/WindowTitles.h"
+#include "Messages/HeldMessages.h"
 #include "Modes/ModeEngine.h"
 #include "Modes/ModeStore.h"
 #include "Ports/Platform.h"
@@ -73,6 +74,7 @@ public:
     DriftBudget& budget() { return m_budget; }
     Preferences& preferences() { return m_preferences; }
     FocusSession& focus() { return m_focus; }
+    HeldMessages& messages() { return m_messages; }
     WindowTitles& titles() { return m_titles; }
     BrowserBridge& bridge() { return m_bridge; }
     Workspace& workspace() { return m_workspace; }
@@ -92,6 +94,8 @@ private:
     void scheduleDockTimer();
     void changeAutoHide(const QString& displayID, const std::function<void(AutoHide&, ContinuousTime)>& change);
     void updateActiveDisplay();
+    void updateBanners();
+    void chooseModel();
     void modeDidChange(const Mode& mode);
     void focusDidChange(bool isOn);
     std::optional<Mode> spendingMode() const;
@@ -102,6 +106,7 @@ private:
     DriftBudget m_budget;
     Preferences m_preferences;
     FocusSession m_focus;
+    HeldMessages m_messages;
     WindowTitles m_titles;
     BrowserBridge m_bridge;
     Workspace m_workspace;

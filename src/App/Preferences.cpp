@@ -67,6 +67,10 @@ Preferences::Preferences(SettingsStore& store, SystemLook& look)
       m_darkAppearance{u"dockAppearanceDark"_s,
                        readAppearance(store, u"dockAppearanceDark"_s, DockAppearance::preset(u"Midnight"_s).value())},
       m_matchSystem{u"matchSystemAppearance"_s, store.flag(u"matchSystemAppearance"_s)},
+      m_modelServer{u"modelServer"_s, store.read<QString>(u"modelServer"_s).value_or(QString())},
+      m_modelName{u"modelName"_s, store.read<QString>(u"modelName"_s).value_or(QString())},
+      m_quietBanners{u"quietBanners"_s, store.flag(u"quietBanners"_s)},
+      m_passCritical{u"passCritical"_s, store.flag(u"passCritical"_s)},
       m_systemIsDark(look.isDark()) {
     Q_ASSERT(QThread::currentThread() == thread());
     look.onChanged = [this] {
@@ -77,6 +81,15 @@ Preferences::Preferences(SettingsStore& store, SystemLook& look)
 
 Preferences::~Preferences() {
     m_look.onChanged = [] {};
+}
+
+QStringList Preferences::breakThroughWords() const {
+    QStringList words;
+    for (const QString& word : breakThrough().split(u',')) {
+        if (const QString trimmed = word.trimmed(); !trimmed.isEmpty())
+            words.append(trimmed);
+    }
+    return words;
 }
 
 void Preferences::setEditingDark(std::optional<bool> editing) {

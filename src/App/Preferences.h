@@ -32,6 +32,10 @@ class Preferences : public QObject {
     Q_PROPERTY(fendrel::preferences::Strictness strictness READ strictness WRITE setStrictness NOTIFY changed)
     Q_PROPERTY(fendrel::preferences::DockPosition dockPosition READ dockPosition WRITE setDockPosition NOTIFY changed)
     Q_PROPERTY(fendrel::preferences::DockDisplay dockDisplay READ dockDisplay WRITE setDockDisplay NOTIFY changed)
+    Q_PROPERTY(QString modelServer READ modelServer WRITE setModelServer NOTIFY changed)
+    Q_PROPERTY(QString modelName READ modelName WRITE setModelName NOTIFY changed)
+    Q_PROPERTY(bool quietBanners READ quietBanners WRITE setQuietBanners NOTIFY changed)
+    Q_PROPERTY(bool passCritical READ passCritical WRITE setPassCritical NOTIFY changed)
     Q_PROPERTY(bool matchSystem READ matchSystem WRITE setMatchSystem NOTIFY changed)
     Q_PROPERTY(bool showsDark READ showsDark NOTIFY changed)
     Q_PROPERTY(fendrel::DockAppearance appearance READ appearance WRITE setAppearance NOTIFY changed)
@@ -66,6 +70,7 @@ public:
     void setCrashReports(bool on) { change(m_crashReports, on); }
     const QString& breakThrough() const { return m_breakThrough.value; }
     void setBreakThrough(const QString& words) { change(m_breakThrough, words); }
+    QStringList breakThroughWords() const; ///< without spaces around them; none of them empty
     Strictness strictness() const { return m_strictness.value; }
     void setStrictness(Strictness strictness) { change(m_strictness, strictness); }
     DockPosition dockPosition() const { return m_dockPosition.value; }
@@ -76,6 +81,18 @@ public:
     const DockAppearance& darkAppearance() const { return m_darkAppearance.value; }
     bool matchSystem() const { return m_matchSystem.value; }
     void setMatchSystem(bool on) { change(m_matchSystem, on); }
+
+    /// Which model server on this machine to ask, and which of its models; empty: the first that is found.
+    const QString& modelServer() const { return m_modelServer.value; }
+    void setModelServer(const QString& address) { change(m_modelServer, address); }
+    const QString& modelName() const { return m_modelName.value; }
+    void setModelName(const QString& name) { change(m_modelName, name); }
+    /// While messages are held, the desktop shows no banners.
+    bool quietBanners() const { return m_quietBanners.value; }
+    void setQuietBanners(bool on) { change(m_quietBanners, on); }
+    /// What the system calls critical (battery, disk) is never held.
+    bool passCritical() const { return m_passCritical.value; }
+    void setPassCritical(bool on) { change(m_passCritical, on); }
 
     bool systemIsDark() const { return m_systemIsDark; }
     /// Which of the two looks is shown and edited while the user edits one; not stored.
@@ -140,6 +157,10 @@ private:
     Setting<DockAppearance> m_lightAppearance;
     Setting<DockAppearance> m_darkAppearance;
     Setting<bool> m_matchSystem;
+    Setting<QString> m_modelServer;
+    Setting<QString> m_modelName;
+    Setting<bool> m_quietBanners;
+    Setting<bool> m_passCritical;
     bool m_systemIsDark = false;
     std::optional<bool> m_editingDark;
 };

@@ -3,6 +3,8 @@
 #include "App/AppController.h"
 #include "Modes/EntryDelay.h"
 
+#include <QStringList>
+
 namespace fendrel {
 
 void AppController::wire() {
@@ -26,6 +28,20 @@ void AppController::wire() {
         updateActiveDisplay();
     };
 
+    m_messages.current = [this] { return std::optional(m_engine.current()); };
+    m_messages.modes = [this] { return m_engine.modes(); };
+    m_messages.isQuiet = [this] { return !isOnboardingDone(); };
+    m_messages.entryDelay = [this](const Mode& mode) { return m_engine.entryDelay(mode); };
+    m_messages.onSwitch = [this](const Mode& mode) { m_engine.requestSwitch(mode); };
+    m_messages.onOpen = [this](const QString& bundleID) { m_workspace.open(bundleID); };
+    m_messages.breakThrough = [this] { return m_preferences.breakThroughWords(); };
+    m_messages.passCritical = [this] { return m_preferences.passCritical(); };
+    connect(&m_messages, &HeldMessages::changed, this, &AppController::updateBanners);
+    connect(&m_engine, &ModeEngine::changed, this, [this] {
+        const auto& pending = m_engine.pending();
+        m_messages.headingFor(pending ? pending->target.id : m_engine.current().id);
+    });
+
     m_bridge.onTab = [this](const BrowserTab& tab) { m_router.tabDidChange(tab); };
     m_bridge.onAsk = [this](BrowserID browser, TabID tab) { m_router.pageAskedFor({.browser = browser, .tab = tab}); };
     m_bridge.onClosed = [this](BrowserID browser, TabID tab) {
@@ -36,12 +52,17 @@ void AppController::wire() {
     m_platform.displays->onChanged = [this] { layoutDocks(); };
     m_platform.displays->onSpaceChanged = [this] { updateAutoHide(); };
     connect(&m_preferences, &Preferences::changed, this, &AppController::layoutDocks);
+    connect(&m_preferences, &Preferences::changed, this, &AppController::updateBanners);
+    connect(&m_preferences, &Preferences::changed, this, &AppController::chooseModel);
+    connect(this, &AppController::onboardingChanged, this, &AppController::updateBanners);
+    chooseModel();
 
     m_engine.entryDelay = [this](const Mode& target) {
         return entryDelay(target, m_budget.isUsedUp(target), m_focus.isOn(), m_preferences.strictness());
     };
     m_engine.onCommit = [this](const Mode& mode) { modeDidChange(mode); };
     m_engine.onEdit = [this] {
+        m_classifier.checkModel(); // the model is told of the modes
         m_drift.modesChanged();
         m_router.judgeFrontAgain();
     };
@@ -64,8 +85,19 @@ AppController::~AppController() {
     m_platform.languageModel->onAvailabilityChanged = [] {};
 }
 
+/// While messages are held, so that what is held makes no noise either.
+void AppController::updateBanners() {
+    const bool isHolding = m_messages.canRead() && isOnboardingDone();
+    m_platform.notificationBanners->setQuiet(isHolding && m_preferences.quietBanners());
+}
+
+void AppController::chooseModel() {
+    m_platform.languageModel->choose({.server = m_preferences.modelServer(), .model = m_preferences.modelName()});
+}
+
 /// After every committed switch.
 void AppController::modeDidChange(const Mode& mode) {
+    m_messages.modeChanged(mode);
     if (m_preferences.tidyOnSwitch())
         m_tidyUp.tidy(mode);
     m_drift.modesChanged();

@@ -32,6 +32,11 @@ void Statement::bind(int parameter, qint64 number) {
     sqlite3_bind_int64(m_statement.get(), parameter, number);
 }
 
+void Statement::bind(int parameter, const QByteArray& bytes) {
+    sqlite3_bind_blob64(m_statement.get(), parameter, bytes.constData(), static_cast<sqlite3_uint64>(bytes.size()),
+                        SQLITE_TRANSIENT);
+}
+
 Statement::Step Statement::step() {
     switch (sqlite3_step(m_statement.get())) {
     case SQLITE_ROW:
@@ -61,19 +66,35 @@ qint64 Statement::integer(int column) const {
     return sqlite3_column_int64(m_statement.get(), column);
 }
 
+bool Statement::isNull(int column) const {
+    return sqlite3_column_type(m_statement.get(), column) == SQLITE_NULL;
+}
+
+QByteArrayView Statement::bytes(int column) const {
+    const void* bytes = sqlite3_column_blob(m_statement.get(), column);
+    return {static_cast<const char*>(bytes), sqlite3_column_bytes(m_statement.get(), column)};
+}
+
 void Database::Close::operator()(sqlite3* database) const {
     sqlite3_close_v2(database);
 }
 
 Result<std::shared_ptr<Database>, Error> Database::open(const QString& path) {
+    return open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX, busyTimeout);
+}
+
+Result<std::shared_ptr<Database>, Error> Database::openReadOnly(const QString& path, std::chrono::milliseconds wait) {
+    return open(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, static_cast<int>(wait.count()));
+}
+
+Result<std::shared_ptr<Database>, Error> Database::open(const QString& path, int flags, int wait) {
     auto database = std::make_shared<Database>();
     sqlite3* handle = nullptr;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle,
-                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX, nullptr);
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
     database->m_database.reset(handle); // SQLite gives a handle even for a failed opening
     if (code != SQLITE_OK)
         return Result<std::shared_ptr<Database>, Error>::failure(database->lastError());
-    sqlite3_busy_timeout(handle, busyTimeout);
+    sqlite3_busy_timeout(handle, wait);
     return database;
 }
 

@@ -2,8 +2,11 @@
 
 #include "Base/Result.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 
 struct sqlite3;
@@ -26,12 +29,15 @@ public:
     void bind(int parameter, const QString& text);
     void bind(int parameter, double number);
     void bind(int parameter, qint64 number);
+    void bind(int parameter, const QByteArray& bytes);
     Step step();
     void reset(); ///< ready for new parameters and another run
 
     QString text(int column) const;
     double number(int column) const;
     qint64 integer(int column) const;
+    bool isNull(int column) const;
+    QByteArrayView bytes(int column) const; ///< valid until the next step
 
 private:
     friend class Database;
@@ -46,12 +52,15 @@ class Database {
 public:
     /// Opens or makes the file; ":memory:" keeps everything in memory.
     static Result<std::shared_ptr<Database>, Error> open(const QString& path);
+    /// Opens a database that others write, for reading alone. Statements fail when they had to wait longer.
+    static Result<std::shared_ptr<Database>, Error> openReadOnly(const QString& path, std::chrono::milliseconds wait);
 
     Result<Statement, Error> prepare(const QString& sql);
     bool run(const QString& sql); ///< for statements without parameters or results
     Error lastError() const;
 
 private:
+    static Result<std::shared_ptr<Database>, Error> open(const QString& path, int flags, int wait);
     struct Close {
         void operator()(sqlite3* database) const;
     };

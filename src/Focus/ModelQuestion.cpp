@@ -1,22 +1,12 @@
 #include "Focus/ModelQuestion.h"
 
-#include <QTextBoundaryFinder>
+#include "Base/PromptText.h"
 
 namespace fendrel::ModelQuestion {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The first characters as a person counts them; one may take several code units.
-QString firstCharacters(const QString& text, int count) {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (int passed = 0; passed < count; ++passed) {
-        if (finder.toNextBoundary() < 0)
-            return text;
-    }
-    return text.left(finder.position());
-}
 
 constexpr int titleLength = 120;
 constexpr qsizetype namesPerMode = 8;
@@ -44,13 +34,13 @@ QString instructions(const QList<Mode>& modes, const std::function<QString(const
 
 QString prompt(const Subject& subject) {
     if (const auto* app = std::get_if<AppSubject>(&subject)) {
-        QString text = u"App: "_s + app->name;
+        QString text = u"App: "_s + promptText::line(app->name);
         if (app->title)
-            text += u"\nWindow: "_s + firstCharacters(*app->title, titleLength);
+            text += u"\nWindow: "_s + promptText::line(promptText::first(*app->title, titleLength));
         return text;
     }
     const auto& site = std::get<SiteSubject>(subject);
-    return u"Site: "_s + site.host + u"\nTitle: "_s + firstCharacters(site.title, titleLength);
+    return u"Site: "_s + site.host + u"\nTitle: "_s + promptText::line(promptText::first(site.title, titleLength));
 }
 
 QList<SchemaProperty> schema(const QStringList& modeIDs) {
@@ -59,10 +49,12 @@ QList<SchemaProperty> schema(const QStringList& modeIDs) {
          .description = u"The kind of thing on screen in 2 to 4 words, not the title itself. Examples: API docs, Video "
                         "feed, Music player, Online shopping, Essay draft"_s},
         {.name = u"mode"_s,
+         .kind = SchemaProperty::Kind::choice,
          .typeName = u"ModeID"_s,
          .description = u"The id of the mode it belongs to, or none"_s,
          .choices = modeIDs + QStringList{u"none"_s}},
         {.name = u"certainty"_s,
+         .kind = SchemaProperty::Kind::choice,
          .typeName = u"Certainty"_s,
          .description = u"certain: clearly belongs. likely: probably. unsure: could be several modes, or the title "
                         "doesn't say"_s,

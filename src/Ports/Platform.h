@@ -8,6 +8,8 @@
 #include "Ports/HttpClient.h"
 #include "Ports/IdleTime.h"
 #include "Ports/LanguageModel.h"
+#include "Ports/NotificationBanners.h"
+#include "Ports/NotificationLog.h"
 #include "Ports/Panels.h"
 #include "Ports/SettingsStore.h"
 #include "Ports/Shell.h"
@@ -53,6 +55,8 @@ struct Platform {
     std::unique_ptr<IdleTime> idleTime{};
     std::unique_ptr<Shell> shell{};
     std::unique_ptr<LanguageModel> languageModel{};
+    std::unique_ptr<NotificationLog> notificationLog{};
+    std::unique_ptr<NotificationBanners> notificationBanners{};
     std::unique_ptr<HttpClient> http{};
 };
 

@@ -7,6 +7,8 @@
 #include "Platform/Null/NullHttpClient.h"
 #include "Platform/Null/NullIdleTime.h"
 #include "Platform/Null/NullLanguageModel.h"
+#include "Platform/Null/NullNotificationBanners.h"
+#include "Platform/Null/NullNotificationLog.h"
 #include "Platform/Null/NullPanels.h"
 #include "Platform/Null/NullSettingsStore.h"
 #include "Platform/Null/NullShell.h"
@@ -33,6 +35,8 @@ inline Platform nullPlatform() {
         .idleTime = std::make_unique<NullIdleTime>(),
         .shell = std::make_unique<NullShell>(),
         .languageModel = std::make_unique<NullLanguageModel>(),
+        .notificationLog = std::make_unique<NullNotificationLog>(),
+        .notificationBanners = std::make_unique<NullNotificationBanners>(),
         .http = std::make_unique<NullHttpClient>(),
     };
 }

@@ -1,0 +1,45 @@
+#include "Messages/NotificationKeys.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+
+#include <algorithm>
+
+namespace fendrel {
+
+NotificationKey::NotificationKey(QByteArrayView uuid) {
+    QByteArray hash;
+    if (uuid.size() > static_cast<qsizetype>(size)) {
+        hash = QCryptographicHash::hash(uuid.toByteArray(), QCryptographicHash::Sha256);
+        uuid = hash;
+        m_length = size + 1; // so that no key of its own is taken for the hash
+    } else {
+        m_length = static_cast<quint8>(uuid.size());
+    }
+    std::ranges::copy(uuid, m_bytes.begin());
+}
+
+NotificationKey NotificationKey::ofRecord(qint64 id) {
+    return NotificationKey(QByteArray("rec-" + QByteArray::number(id)));
+}
+
+bool NotificationKeys::Comparison::contains(const NotificationKey& key) {
+    // What was removed or replaced since leaves a gap before the next key.
+    constexpr std::size_t gap = 64;
+    const auto end = std::min(m_before.size(), m_next + gap);
+    for (std::size_t index = m_next; index < end; ++index) {
+        if (m_before[index] == key) {
+            m_next = index + 1;
+            return true;
+        }
+    }
+    if (m_next == m_before.size())
+        return false; // records are added at the end, and each key stands for one
+    if (m_sorted.empty()) {
+        m_sorted = m_before;
+        std::ranges::sort(m_sorted);
+    }
+    return std::ranges::binary_search(m_sorted, key);
+}
+
+} // namespace fendrel

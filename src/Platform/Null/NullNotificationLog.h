@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Ports/NotificationLog.h"
+
+namespace fendrel {
+
+class NullNotificationLog final : public NotificationLog {
+public:
+    QString databasePath() const override { return {}; }
+    QString unavailableReason() const override {
+        return QStringLiteral("This system doesn't tell which notifications were shown.");
+    }
+};
+
+} // namespace fendrel
