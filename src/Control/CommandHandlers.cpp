@@ -2,6 +2,7 @@
 
 #include "App/AppController.h"
 #include "Control/Duration.h"
+#include "Control/MessageStatus.h"
 #include "Control/SettingsAccess.h"
 #include "Control/Status.h"
 #include "Modes/SiteName.h"
@@ -41,6 +42,12 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
         {u"gate"_s, [this](const Request& request) { return answerGate(request.arguments[0]); }},
         {u"correct"_s, [this](const Request& request) { return correct(request.arguments[0]); }},
         {u"explain"_s, [&](const Request&) -> Answer { return QJsonValue(explanation(controller)); }},
+        {u"held"_s,
+         [this](const Request& request) {
+             return editMode(request.arguments[0],
+                             [&](const QString& id) { return Answer(QJsonValue(heldFor(m_controller, id))); });
+         }},
+        {u"alert"_s, [this](const Request& request) { return answerAlert(request.arguments[0]); }},
         {u"mode add-app"_s,
          [this, &engine](const Request& request) {
              return editMode(request.arguments[0], [&](const QString& id) {
@@ -175,6 +182,18 @@ Answer CommandHandlers::answerGate(const QString& answer) {
         drift.allowOnce();
     else
         drift.addToMode();
+    return done();
+}
+
+Answer CommandHandlers::answerAlert(const QString& answer) {
+    if (answer != "open"_L1 && answer != "dismiss"_L1)
+        return Answer::failure(u"'%1' is no answer: one of open, dismiss is expected"_s.arg(answer));
+    if (!m_controller.messages().alert())
+        return Answer::failure(u"there is no alert"_s);
+    if (answer == "open"_L1)
+        m_controller.messages().go();
+    else
+        m_controller.messages().dismissAlert();
     return done();
 }
 

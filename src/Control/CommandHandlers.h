@@ -30,6 +30,7 @@ private:
     Answer switchMode(const QString& id);
     Answer startFocus(const Request& request);
     Answer answerGate(const QString& answer);
+    Answer answerAlert(const QString& answer);
     Answer correct(const QString& mode);
     Answer editMode(const QString& id, const std::function<Answer(const QString& id)>& edit);
     Answer getSetting(const QString& name) const;

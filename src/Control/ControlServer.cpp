@@ -29,6 +29,7 @@ ControlServer::ControlServer(AppController& controller, const QString& dataFolde
     connect(&controller.bridge(), &BrowserBridge::changed, this, &ControlServer::scheduleReport);
     connect(&controller.drift().sites(), &SiteDrift::changed, this, &ControlServer::scheduleReport);
     connect(&controller.gate(), &Gate::changed, this, &ControlServer::scheduleReport);
+    connect(&controller.messages(), &HeldMessages::changed, this, &ControlServer::scheduleReport);
     connect(&controller.budget(), &DriftBudget::changed, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::dockVisibilityChanged, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::onboardingChanged, this, &ControlServer::scheduleReport);

@@ -3,6 +3,7 @@
 #include "App/AppController.h"
 #include "Base/EnumNames.h"
 #include "Base/Overloaded.h"
+#include "Control/MessageStatus.h"
 
 #include <QJsonArray>
 
@@ -146,6 +147,12 @@ QJsonArray veils(AppController& controller) {
     return list;
 }
 
+QJsonObject model(AppController& controller) {
+    const QString reason = controller.platform().languageModel->unavailableReason();
+    return {{u"available"_s, controller.classifier().isModelAvailable()},
+            {u"problem"_s, reason.isEmpty() ? QJsonValue() : QJsonValue(reason)}};
+}
+
 QJsonObject dock(AppController& controller) {
     QJsonArray displays;
     for (const Display& display : controller.dockScreens())
@@ -167,6 +174,8 @@ QJsonObject status(AppController& controller, StatusForm form) {
         {u"browsers"_s, browsers(controller)},
         {u"veils"_s, veils(controller)},
         {u"budgets"_s, budgets(controller)},
+        {u"messages"_s, messagesObject(controller)},
+        {u"model"_s, model(controller)},
         {u"dock"_s, dock(controller)},
         {u"onboarding"_s, QJsonObject{{u"done"_s, controller.isOnboardingDone()}}},
     };

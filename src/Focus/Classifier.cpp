@@ -29,6 +29,7 @@ Classifier::Classifier(ModeEngine& engine, LanguageModel& model, const Clock& cl
 
 void Classifier::checkModel() {
     m_isModelAvailable = m_model.isAvailable();
+    Q_EMIT changed(); // for who shows why it is not
     if (m_isModelAvailable)
         m_model.prewarm(ModelQuestion::instructions(m_engine.modes(), m_appName));
 }
