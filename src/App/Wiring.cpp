@@ -30,7 +30,7 @@ void AppController::wire() {
 
     m_messages.current = [this] { return std::optional(m_engine.current()); };
     m_messages.modes = [this] { return m_engine.modes(); };
-    m_messages.isQuiet = [this] { return !isOnboardingDone(); };
+    m_messages.isQuiet = [this] { return m_engine.startedWithoutModes() && !isOnboardingDone(); };
     m_messages.entryDelay = [this](const Mode& mode) { return m_engine.entryDelay(mode); };
     m_messages.onSwitch = [this](const Mode& mode) { m_engine.requestSwitch(mode); };
     m_messages.onOpen = [this](const QString& bundleID) { m_workspace.open(bundleID); };
@@ -87,7 +87,7 @@ AppController::~AppController() {
 
 /// While messages are held, so that what is held makes no noise either.
 void AppController::updateBanners() {
-    const bool isHolding = m_messages.canRead() && isOnboardingDone();
+    const bool isHolding = m_messages.canRead() && !m_messages.isQuiet();
     m_platform.notificationBanners->setQuiet(isHolding && m_preferences.quietBanners());
 }
 

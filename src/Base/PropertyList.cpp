@@ -57,7 +57,7 @@ public:
         const auto end = static_cast<quint64>(trailer);
         const bool isSane = m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8 &&
                             m_count >= 1 && table >= static_cast<quint64>(magic.size()) && table <= end &&
-                            m_count <= (end - table) / m_offsetSize;
+                            m_count <= (end - table) / static_cast<quint64>(m_offsetSize);
         if (!isSane)
             return {};
         m_table = static_cast<qsizetype>(table);

@@ -4,19 +4,19 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <cstring>
 
 namespace fendrel {
 
 NotificationKey::NotificationKey(QByteArrayView uuid) {
+    constexpr qsizetype size = sizeof m_words;
     QByteArray hash;
-    if (uuid.size() > static_cast<qsizetype>(size)) {
+    if (uuid.size() > size) {
         hash = QCryptographicHash::hash(uuid.toByteArray(), QCryptographicHash::Sha256);
-        uuid = hash;
-        m_length = size + 1; // so that no key of its own is taken for the hash
-    } else {
-        m_length = static_cast<quint8>(uuid.size());
+        uuid = QByteArrayView(hash).first(size);
     }
-    std::ranges::copy(uuid, m_bytes.begin());
+    if (!uuid.isEmpty())
+        std::memcpy(m_words.data(), uuid.data(), static_cast<std::size_t>(uuid.size()));
 }
 
 NotificationKey NotificationKey::ofRecord(qint64 id) {

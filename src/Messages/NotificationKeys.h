@@ -8,8 +8,8 @@
 
 namespace fendrel {
 
-/// What tells one record of the log from all others, in a fixed size, so that tens of thousands are compared without
-/// following a pointer. A key that is too long is stood for by its hash.
+/// What tells one record of the log from all others, in the size of a uuid, so that tens of thousands are compared
+/// without following a pointer. A key that is longer is stood for by its hash.
 class NotificationKey {
 public:
     explicit NotificationKey(QByteArrayView uuid);
@@ -17,9 +17,7 @@ public:
     auto operator<=>(const NotificationKey&) const = default;
 
 private:
-    static constexpr std::size_t size = 32; ///< of a uuid, "rec-" with any number, or a SHA-256 hash
-    std::array<char, size> m_bytes{};
-    quint8 m_length{};
+    std::array<quint64, 2> m_words{};
 };
 
 /// The keys of all records at one moment, in the order in which the log gave them.

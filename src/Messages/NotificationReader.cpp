@@ -75,8 +75,9 @@ std::optional<QList<NotificationRow>> NotificationReader::readAll() {
     QList<qint64> added;
     Statement::Step step{};
     while ((step = statement.step()) == Statement::Step::row) {
-        const NotificationKey key = statement.isNull(1) ? NotificationKey::ofRecord(statement.integer(0))
-                                                         : NotificationKey(statement.bytes(1));
+        const QByteArrayView uuid = statement.bytes(1);
+        const bool isMissing = uuid.isEmpty() && statement.isNull(1);
+        const NotificationKey key = isMissing ? NotificationKey::ofRecord(statement.integer(0)) : NotificationKey(uuid);
         if (m_seen && !before.contains(key))
             added.append(statement.integer(0));
         keys.append(key);

@@ -33,8 +33,9 @@ ModeEngine::ModeEngine(ModeStore& store, SettingsStore& settings, Clock& clock, 
       m_clock(clock),
       m_catalog(std::move(catalog)),
       m_isInstalled(std::move(isInstalled)),
-      m_modes(store.load()) {
-    if (m_modes.isEmpty()) {
+      m_modes(store.load()),
+      m_startedWithoutModes(m_modes.isEmpty()) {
+    if (m_startedWithoutModes) {
         for (const Mode& starter : m_catalog.starterTemplates())
             m_modes.append(seeded(starter));
     }

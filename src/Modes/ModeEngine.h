@@ -33,6 +33,7 @@ public:
     std::function<void(const Mode& mode)> onCommit = [](const Mode&) {};
     std::function<void()> onEdit = [] {}; ///< modes came, went or changed; the current one is still the same
 
+    bool startedWithoutModes() const { return m_startedWithoutModes; } ///< none were stored
     const ModeCatalog& catalog() const { return m_catalog; }
     const QList<Mode>& modes() const { return m_modes; }
     const Mode& current() const { return m_current; }
@@ -80,6 +81,7 @@ private:
     ModeCatalog m_catalog;
     std::function<bool(const QString&)> m_isInstalled;
     QList<Mode> m_modes;
+    bool m_startedWithoutModes;
     ModeIndex m_index;
     Mode m_current;
     qsizetype m_currentPosition = -1;

@@ -83,6 +83,23 @@ def verdict_cache(cases):
     ]
 
 
+def held(cases):
+    def microseconds(name):
+        return cases[name]["ns"] / 1e3
+    rows = []
+    for count in (500, 5_000, 50_000):
+        floor = microseconds(f"bareScan/{count}")
+        rows += [
+            Row(f"Look at a log of {count:,} messages, unchanged", microseconds(f"unchanged/{count}"), "us", 10),
+            Row("  with five new ones", microseconds(f"fiveNew/{count}"), "us", 1.3 * floor, floor, "bare scan"),
+        ]
+    return rows + [
+        Row("Message against 20 words", microseconds("twentyWords"), "us", None, microseconds("twentySearches"),
+            "searches without borders"),
+        Row("Decoding a record", microseconds("decode"), "us", None, microseconds("decodeByLibrary"), "libplist"),
+    ]
+
+
 def front(answer):
     def both(what, name, goal):
         ours, floor = answer[name], answer[f"{name}Floor"]
