@@ -62,6 +62,7 @@ void AppController::wire() {
     };
     m_engine.onCommit = [this](const Mode& mode) { modeDidChange(mode); };
     m_engine.onEdit = [this] {
+        m_messages.modesEdited();
         m_classifier.checkModel(); // the model is told of the modes
         m_drift.modesChanged();
         m_router.judgeFrontAgain();

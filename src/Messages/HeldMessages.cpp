@@ -177,6 +177,19 @@ void HeldMessages::modeChanged(const Mode& mode) {
         open(entry->message);
 }
 
+void HeldMessages::modesEdited() {
+    const QList<Mode> all = modes();
+    const auto find = [&](const QString& id) { return std::ranges::find(all, id, &Mode::id); };
+    m_held.removeIf([&](const auto& entry) { return find(entry.key()) == all.end(); });
+    if (m_alert) {
+        if (const auto mode = find(m_alert->mode.id); mode != all.end())
+            m_alert->mode = *mode;
+        else
+            m_alert.reset();
+    }
+    Q_EMIT changed();
+}
+
 /// Of the stretch that ends now.
 void HeldMessages::showDigest() {
     if (!m_stretchMode)

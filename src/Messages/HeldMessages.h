@@ -54,6 +54,7 @@ public:
 
     void refresh();
     void modeChanged(const Mode& mode); ///< after every switch
+    void modesEdited();              ///< forgets what was held for modes that are gone
     void go();                          ///< to the alert's mode, and once there to the message's application
     void dismissAlert();
     void dismissDigest();

@@ -210,6 +210,16 @@ private Q_SLOTS:
         QCOMPARE(world.held(u"social"_s), {u"2 new"_s});
     }
 
+    void modesThatAreGone() {
+        World world;
+        QVERIFY(world.begin());
+        world.arrive({{.app = u"chat.app"_s, .title = u"urgent"_s}});
+        world.modes.removeAt(1);
+        world.messages->modesEdited();
+        QVERIFY(!world.messages->alert());
+        QVERIFY(world.held(u"social"_s).isEmpty());
+    }
+
     void saysWhyItCannotRead() {
         World world;
         QVERIFY(world.begin());
