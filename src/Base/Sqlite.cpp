@@ -1,5 +1,7 @@
 #include "Base/Sqlite.h"
 
+#include <QFile>
+
 #include <sqlite3.h>
 
 namespace fendrel::sqlite {
@@ -80,6 +82,13 @@ void Database::Close::operator()(sqlite3* database) const {
 }
 
 Result<std::shared_ptr<Database>, Error> Database::open(const QString& path) {
+    // SQLite would make the file readable by others, and its journals copy the file's permissions. A file that is there
+    // is not opened for that: closing it would drop the locks that this process holds on it.
+    if (QFile file(path); path != ":memory:"_L1) {
+        constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+        file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly);
+        file.setPermissions(ownerOnly);
+    }
     return open(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_FULLMUTEX, busyTimeout);
 }
 

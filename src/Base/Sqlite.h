@@ -50,7 +50,7 @@ private:
 
 class Database {
 public:
-    /// Opens or makes the file; ":memory:" keeps everything in memory.
+    /// Opens or makes the file, readable by its owner only; ":memory:" keeps everything in memory.
     static Result<std::shared_ptr<Database>, Error> open(const QString& path);
     /// Opens a database that others write, for reading alone. Statements fail when they had to wait longer.
     static Result<std::shared_ptr<Database>, Error> openReadOnly(const QString& path, std::chrono::milliseconds wait);

@@ -83,9 +83,6 @@ ModeStore::ModeStore(const std::optional<QString>& folder, Worker& disk)
 }
 
 void ModeStore::open() {
-    // SQLite would make the file readable by others, and its journals copy the file's permissions.
-    if (QFile file(m_path); m_path != inMemory && file.open(QIODevice::ReadWrite))
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     auto opened = sqlite::Database::open(m_path);
     if (!opened) {
         qCWarning(logModes).noquote() << "Couldn't open the modes:" << opened.error().text;

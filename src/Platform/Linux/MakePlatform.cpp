@@ -1,7 +1,10 @@
 #include "Platform/MakePlatform.h"
 
 #include "Platform/Linux/BrowserHomes.h"
+#include "Platform/Linux/DesktopBanners.h"
 #include "Platform/Linux/DesktopShell.h"
+#include "Platform/Linux/NotificationRecorder.h"
+#include "Platform/Linux/ModelServer.h"
 #include "Platform/Linux/PeerCredentials.h"
 #include "Platform/Linux/PortalLook.h"
 #include "Platform/Linux/StatusNotifierArea.h"
@@ -10,7 +13,6 @@
 #include "Platform/Linux/X11Displays.h"
 #include "Platform/Linux/X11IdleTime.h"
 #include "Platform/Linux/X11Panels.h"
-#include "Platform/Null/NullLanguageModel.h"
 #include "Platform/Shared/NetworkClient.h"
 #include "Platform/Shared/SettingsFile.h"
 #include "Platform/Shared/SystemClock.h"
@@ -75,7 +77,9 @@ Platform makePlatform() {
     platform.statusArea = std::make_unique<StatusNotifierArea>();
     platform.idleTime = std::make_unique<X11IdleTime>(connection);
     platform.shell = std::make_unique<DesktopShell>(catalog, clock);
-    platform.languageModel = std::make_unique<NullLanguageModel>();
+    platform.languageModel = std::make_unique<ModelServer>(clock);
+    platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
+    platform.notificationBanners = std::make_unique<DesktopBanners>(*platform.settings);
     platform.http = std::make_unique<NetworkClient>(clock);
     return platform;
 }
