@@ -1,4 +1,4 @@
-#include "Platform/Linux/X11Connection.h"
+#include "Platform/Linux/X11/X11Connection.h"
 #include "Platform/MakePlatform.h"
 
 #include <QString>

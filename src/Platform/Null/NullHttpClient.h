@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Null/AtNextTurn.h"
+#include "Platform/Shared/AtNextTurn.h"
 #include "Ports/HttpClient.h"
 
 #include <utility>

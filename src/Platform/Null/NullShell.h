@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Null/AtNextTurn.h"
+#include "Platform/Shared/AtNextTurn.h"
 #include "Ports/Shell.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
-#include "Platform/Linux/ApplicationIdentity.h"
-#include "Platform/Linux/ExecLine.h"
-#include "Platform/Linux/WindowIdentity.h"
+#include "Platform/Linux/Applications/ApplicationIdentity.h"
+#include "Platform/Linux/Applications/ExecLine.h"
+#include "Platform/Linux/Applications/WindowIdentity.h"
 #include "Table.h"
 
 #include <QtTest>

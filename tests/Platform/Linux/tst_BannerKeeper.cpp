@@ -1,4 +1,4 @@
-#include "Platform/Linux/BannerKeeper.h"
+#include "Platform/Linux/Banners/BannerKeeper.h"
 #include "Table.h"
 #include "fakes/FakeSettings.h"
 

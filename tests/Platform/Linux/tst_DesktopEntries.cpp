@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Platform/Linux/DesktopEntries.h"
+#include "Platform/Linux/Applications/DesktopEntries.h"
 #include "fakes/FakeClock.h"
 
 #include <QtTest>

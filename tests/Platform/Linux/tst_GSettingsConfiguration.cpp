@@ -1,4 +1,4 @@
-#include "Platform/Linux/GSettingsConfiguration.h"
+#include "Platform/Linux/Desktop/GSettingsConfiguration.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/ModelServer.h"
+#include "Platform/Linux/ModelServer/ModelServer.h"
 #include "Table.h"
 #include "fakes/FakeClock.h"
 

@@ -1,7 +1,7 @@
 #include "Files.h"
-#include "Platform/Linux/LocalHttpAddress.h"
-#include "Platform/Linux/ModelServerList.h"
-#include "Platform/Linux/ModelServerReply.h"
+#include "Platform/Linux/ModelServer/LocalHttpAddress.h"
+#include "Platform/Linux/ModelServer/ModelServerList.h"
+#include "Platform/Linux/ModelServer/ModelServerReply.h"
 #include "Table.h"
 
 #include <QtTest>

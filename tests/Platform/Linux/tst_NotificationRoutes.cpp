@@ -1,5 +1,5 @@
-#include "Platform/Linux/NotificationRoutes.h"
-#include "Platform/Linux/NotificationText.h"
+#include "Platform/Linux/Notifications/NotificationRoutes.h"
+#include "Platform/Linux/Notifications/NotificationText.h"
 #include "Table.h"
 
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "Base/PropertyList.h"
 #include "Base/Sqlite.h"
 #include "Files.h"
-#include "Platform/Linux/NotificationStore.h"
+#include "Platform/Linux/Notifications/NotificationStore.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Platform/Linux/X11Accessibility.h"
-#include "Platform/Linux/X11Applications.h"
-#include "Platform/Linux/X11Displays.h"
+#include "Platform/Linux/X11/X11Accessibility.h"
+#include "Platform/Linux/X11/X11Applications.h"
+#include "Platform/Linux/X11/X11Displays.h"
 #include "Platform/Shared/SystemClock.h"
 
 #include <QProcess>

@@ -1,0 +1,83 @@
+#include "Platform/Linux/Desktop/PortalLook.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QMap>
+#include <QVariantMap>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString service = u"org.freedesktop.portal.Desktop"_s;
+const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString interface = u"org.freedesktop.portal.Settings"_s;
+const QString appearance = u"org.freedesktop.appearance"_s;
+const QString gnomeInterface = u"org.gnome.desktop.interface"_s;
+
+} // namespace
+
+Look lookFrom(const PortalWishes& portal, const QString& themeName, std::optional<bool> prefersDark,
+              std::optional<bool> animates) {
+    const bool isDarkTheme = themeName.contains("dark"_L1, Qt::CaseInsensitive) || prefersDark.value_or(false);
+    const uint scheme = portal.colorScheme.value_or(0);
+    const bool isAnimated = portal.animates.value_or(true) && animates.value_or(true);
+    return {.isDark = scheme == 0 ? isDarkTheme : scheme == 1,
+            .reducesMotion = portal.reducedMotion == 1U || !isAnimated};
+}
+
+PortalLook::PortalLook(std::shared_ptr<DesktopSettings> settings)
+    : m_settings(std::move(settings)),
+      m_portal(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
+    connect(m_settings.get(), &DesktopSettings::changed, this, &PortalLook::refresh);
+    connect(&m_portal, &QDBusServiceWatcher::serviceRegistered, this, &PortalLook::ask);
+    QDBusConnection::sessionBus().connect(service, path, interface, u"SettingChanged"_s, this,
+                                          SLOT(settingChanged(QString, QString, QDBusVariant)));
+    refresh();
+    ask();
+}
+
+void PortalLook::ask() {
+    auto question = QDBusMessage::createMethodCall(service, path, interface, u"ReadAll"_s);
+    question << QStringList{appearance, gnomeInterface};
+    question.setAutoStartService(false);
+    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusMessage reply = answer->reply();
+        answer->deleteLater();
+        if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != "a{sa{sv}}"_L1)
+            return;
+        const auto groups = qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst());
+        for (auto group = groups.cbegin(); group != groups.cend(); ++group) {
+            for (auto item = group->cbegin(); item != group->cend(); ++item)
+                take(group.key(), item.key(), item.value());
+        }
+        refresh();
+    });
+}
+
+void PortalLook::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+    take(group, key, value.variant());
+    refresh();
+}
+
+void PortalLook::take(const QString& group, const QString& key, const QVariant& value) {
+    if (group == appearance && key == "color-scheme"_L1)
+        m_wishes.colorScheme = value.toUInt();
+    else if (group == appearance && key == "reduced-motion"_L1)
+        m_wishes.reducedMotion = value.toUInt();
+    else if (group == gnomeInterface && key == "enable-animations"_L1)
+        m_wishes.animates = value.toBool();
+}
+
+void PortalLook::refresh() {
+    const Look look = lookFrom(m_wishes, m_settings->themeName(), m_settings->prefersDark(), m_settings->animates());
+    if (std::exchange(m_look, look) != look)
+        onChanged();
+}
+
+} // namespace fendrel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Platform/Linux/Applications/Launcher.h"
+#include "Platform/Linux/X11/ApplicationGroups.h"
+#include "Platform/Linux/X11/ApplicationIcons.h"
+#include "Platform/Linux/X11/QuietRestore.h"
+#include "Platform/Linux/X11/X11Requests.h"
+#include "Ports/Applications.h"
+
+#include <QObject>
+#include <QSet>
+
+#include <memory>
+
+namespace fendrel {
+
+/// Applications as an X11 desktop shows them. "Hiding" is minimising: X11 knows windows only.
+class X11Applications : public QObject, public Applications {
+    Q_OBJECT
+public:
+    X11Applications(std::shared_ptr<ApplicationGroups> groups, std::shared_ptr<DesktopSettings> settings, Clock& clock);
+
+    QList<InstalledApp> installed() const override { return m_groups->catalog().installed(); }
+    QList<RunningApp> running() const override { return m_groups->running(); }
+    std::optional<RunningApp> frontmost() const override { return m_groups->front(); }
+
+    std::optional<QString> location(const QString& bundleID) const override;
+    AppIcon icon(const QString& bundleID) const override;
+    QString fileManager() const override;
+    NativeApps nativeApps() const override;
+
+    void open(const QString& bundleID, bool activates) override;
+    void activate(qint64 pid) override;
+    void hide(qint64 pid) override;
+    void unhide(qint64 pid) override;
+    void quit(qint64 pid) override;
+    void forceQuit(qint64 pid) override;
+
+private:
+    bool bringForward(const QString& bundleID, bool activates);
+    QList<xcb_window_t> regularWindows(qint64 pid) const;
+
+    std::shared_ptr<ApplicationGroups> m_groups;
+    X11Requests m_requests;
+    QuietRestore m_restore;
+    Launcher m_launcher;
+    mutable ApplicationIcons m_icons;
+    QSet<xcb_window_t> m_hidden; ///< those that we minimised, and that are to come back
+};
+
+} // namespace fendrel
