@@ -14,7 +14,11 @@ using namespace Qt::StringLiterals;
 QJsonDocument dataTable(const QString& name) {
     initializeResources();
     QFile file(u":/platform/%1.json"_s.arg(name));
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
+    QJsonParseError error;
+    const auto table = QJsonDocument::fromJson(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), &error);
+    if (table.isNull())
+        qFatal("The built-in table %s can't be read: %s", qUtf8Printable(name), qUtf8Printable(error.errorString()));
+    return table;
 }
 
 } // namespace fendrel
