@@ -18,6 +18,7 @@
 Q_IMPORT_QML_PLUGIN(Fendrel_StylePlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_DockPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_FocusPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_MessagesPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_SetupPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_TrayPlugin)
 
@@ -34,7 +35,8 @@ Interface::Interface(AppController& controller)
       m_focus(controller),
       m_verdict(controller),
       m_gate(controller),
-      m_dock(controller, m_icons),
+      m_messages(controller, m_icons),
+      m_dock(controller, m_icons, m_messages),
       m_firstRun(controller, m_icons),
       m_settings(controller) {
     qml_register_types_Fendrel_Types();
@@ -60,6 +62,7 @@ Interface::Interface(AppController& controller)
         for (const auto& [display, dock] : m_docks)
             dock->transparencyDidChange();
         Q_EMIT m_gatePanel->transparencyChanged();
+        Q_EMIT m_cards->transparencyChanged();
     };
     controller.platform().statusArea->onChanged = [this] { showTray(); };
     QObject::connect(&controller.preferences(), &Preferences::changed, &m_settings, [this] { applyLook(); });
@@ -69,6 +72,12 @@ Interface::Interface(AppController& controller)
         const auto dock = m_docks.find(displayID);
         return dock == m_docks.end() ? QRect() : dock->second->touchable();
     };
+    m_cards = std::make_unique<CardsPanel>(m_engine, controller, m_dock, m_messages);
+    // What the dock says of its items lies over everything.
+    QObject::connect(m_cards.get(), &CardsPanel::shown, &m_settings, [this] {
+        for (const auto& [display, dock] : m_docks)
+            dock->raise();
+    });
     showTray();
 }
 
@@ -95,12 +104,30 @@ void Interface::layoutDocks() {
         if (!dock) {
             dock = std::make_unique<DockPanel>(m_engine, m_controller, m_dock, m_focus, m_verdict);
             QObject::connect(dock.get(), &DockPanel::touchableChanged, m_gatePanel.get(), &GatePanel::leaveOutDock);
+            QObject::connect(dock.get(), &DockPanel::barChanged, m_cards.get(), [this] { placeCards(); });
         }
         dock->place(display);
     }
+    placeCards();
 }
 
+/// Beside one dock: messages are not read on several displays at once.
+void Interface::placeCards() {
+    const QList<Display> displays = m_controller.dockScreens();
+    if (displays.isEmpty())
+        return;
+    const auto dock = m_docks.find(displays.first().id);
+    if (dock != m_docks.end())
+        m_cards->place(displays.first(), dock->second->restingPlace());
+}
+
+/// A card that shows comes first, and the dock after it.
 void Interface::focusDock() {
+    if (m_cards->hasCards() && !m_cards->hasKeyboard()) {
+        m_cards->takeKeyboard();
+        return;
+    }
+    m_cards->releaseKeyboard();
     if (!m_docks.empty())
         m_docks.begin()->second->takeKeyboard();
 }

@@ -7,6 +7,8 @@
 #include "UI/Focus/GatePanel.h"
 #include "UI/Focus/VerdictController.h"
 #include "UI/Images/AppIcons.h"
+#include "UI/Messages/CardsPanel.h"
+#include "UI/Messages/MessagesController.h"
 #include "UI/Setup/FirstRunController.h"
 #include "UI/Setup/SettingsController.h"
 
@@ -33,6 +35,7 @@ public:
 private:
     void whenFree(std::function<void()> show);
     void layoutDocks();
+    void placeCards();
     void focusDock();
     void showFirstRun();
     void showSettings(const QString& pane);
@@ -46,11 +49,13 @@ private:
     FocusController m_focus;
     VerdictController m_verdict;
     GateController m_gate;
+    MessagesController m_messages;
     DockController m_dock;
     FirstRunController m_firstRun;
     SettingsController m_settings;
     std::map<QString, std::unique_ptr<DockPanel>> m_docks; ///< by display
     std::unique_ptr<GatePanel> m_gatePanel;
+    std::unique_ptr<CardsPanel> m_cards;
     std::unique_ptr<Dialog> m_firstRunWindow;
     std::unique_ptr<Dialog> m_settingsWindow;
     std::list<std::unique_ptr<Dialog>> m_alerts;

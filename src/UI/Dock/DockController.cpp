@@ -1,11 +1,12 @@
 #include "UI/Dock/DockController.h"
 
 #include "App/AppController.h"
+#include "UI/Messages/MessagesController.h"
 
 namespace fendrel {
 
-DockController::DockController(AppController& controller, AppIcons& icons)
-    : m_controller(controller), m_modes(controller), m_apps(controller, icons) {
+DockController::DockController(AppController& controller, AppIcons& icons, MessagesController& messages)
+    : m_controller(controller), m_messages(messages), m_modes(controller), m_apps(controller, icons) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockController::modeChanged);
     connect(&controller.preferences(), &Preferences::changed, this, &DockController::lookChanged);
     connect(&controller.gate(), &Gate::changed, this, &DockController::gateChanged);
@@ -65,6 +66,10 @@ bool DockController::isGateOpen() const {
 void DockController::requestMode(const QString& modeID) {
     if (const Mode* mode = m_controller.engine().mode(modeID))
         m_controller.engine().requestSwitch(Mode(*mode));
+}
+
+void DockController::showHeld(const QString& modeID, bool isByKeyboard) {
+    m_messages.showHeld(modeID, isByKeyboard);
 }
 
 void DockController::openApp(const QString& bundleID) {

@@ -12,6 +12,7 @@
 namespace fendrel {
 
 class AppController;
+class MessagesController;
 
 /// What the docks of all displays share: the modes, the applications and the look.
 class DockController : public QObject {
@@ -36,7 +37,7 @@ class DockController : public QObject {
     Q_PROPERTY(bool isGateOpen READ isGateOpen NOTIFY gateChanged)
 
 public:
-    DockController(AppController& controller, AppIcons& icons);
+    DockController(AppController& controller, AppIcons& icons, MessagesController& messages);
 
     ModesModel* modes() { return &m_modes; }
     DockAppsModel* apps() { return &m_apps; }
@@ -56,6 +57,7 @@ public:
     bool isGateOpen() const;
 
     Q_INVOKABLE void requestMode(const QString& modeID);
+    Q_INVOKABLE void showHeld(const QString& modeID, bool isByKeyboard); ///< what is held for the mode
     Q_INVOKABLE void openApp(const QString& bundleID);
     Q_INVOKABLE void hideApp(const QString& bundleID);
     Q_INVOKABLE void showAllWindows(const QString& bundleID);
@@ -74,6 +76,7 @@ private:
     const DockAppearance& look() const;
 
     AppController& m_controller;
+    MessagesController& m_messages;
     ModesModel m_modes;
     DockAppsModel m_apps;
 };

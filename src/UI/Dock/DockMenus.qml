@@ -62,6 +62,24 @@ QtObject {
         }
     }
 
+    function showModeMenu(item: Item, modeID: string, name: string, isCurrent: bool, heldCount: int) {
+        const change = isCurrent ? [] : [{ text: qsTr("Switch to %1").arg(name), value: "switch", symbol: "arrow.right" }]
+        const held = heldCount === 0 ? [] : [{ text: qsTr("Held Messages (%1)…").arg(heldCount), value: "held", symbol: "bell.badge" }]
+        const separator = isCurrent && heldCount === 0 ? [] : [{ separator: true }]
+        const entries = [{ header: name }, ...change, ...held, ...separator,
+                         { text: qsTr("Settings…"), value: "settings", symbol: "gearshape" }]
+        const isByKeyboard = panel.hasKeyboard
+        open(item, entries, choice => runModeChoice(modeID, choice, isByKeyboard))
+    }
+
+    function runModeChoice(modeID: string, choice: string, isByKeyboard: bool) {
+        switch (choice) {
+        case "switch": dock.requestMode(modeID); break
+        case "held": dock.showHeld(modeID, isByKeyboard); break
+        case "settings": dock.openSettings("modes"); break
+        }
+    }
+
     function showDockMenu(item: Item) {
         const entries = [{ text: qsTr("Settings…"), value: "settings", symbol: "gearshape" }, { separator: true },
                          { text: qsTr("Quit Fendrel"), value: "quit", symbol: "stop" }]

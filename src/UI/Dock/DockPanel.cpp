@@ -5,8 +5,6 @@
 #include "UI/Focus/VerdictController.h"
 #include "UI/ScreenSpace.h"
 
-#include <QCoreApplication>
-#include <QFocusEvent>
 #include <QPainterPath>
 
 namespace fendrel {
@@ -23,7 +21,7 @@ constexpr int roomBeside = 300;
 
 DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
                      VerdictController& verdict)
-    : QQuickView(&engine, nullptr), m_controller(controller), m_dock(dock) {
+    : QQuickView(&engine, nullptr), m_controller(controller), m_dock(dock), m_keyboard(*this, controller.titles()) {
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
     setColor(Qt::transparent);
     setTitle(tr("Fendrel dock"));
@@ -33,10 +31,7 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
         Q_EMIT visibilityWanted();
     });
     connect(&controller.preferences(), &Preferences::changed, this, &DockPanel::updateRegions);
-    connect(&controller.titles(), &WindowTitles::changed, this, [this] {
-        if (front() != m_frontAtKeyboard)
-            releaseKeyboard();
-    });
+    connect(&m_keyboard, &BorrowedKeyboard::changed, this, &DockPanel::keyboardChanged);
     setInitialProperties({{u"panel"_s, QVariant::fromValue(this)},
                           {u"dock"_s, QVariant::fromValue(&dock)},
                           {u"focusState"_s, QVariant::fromValue(&focus)},
@@ -72,6 +67,10 @@ void DockPanel::setBar(const QRectF& bar) {
     m_bar = bar;
     updateRegions();
     Q_EMIT barChanged();
+}
+
+QRect DockPanel::restingPlace() const {
+    return m_bar.toAlignedRect().translated(m_frame.topLeft());
 }
 
 bool DockPanel::isShown() const {
@@ -179,37 +178,9 @@ void DockPanel::updateMask() {
     setMask(mask);
 }
 
-QString DockPanel::front() const {
-    const auto& front = m_controller.titles().front();
-    return front ? front->bundleID : QString();
-}
-
-bool DockPanel::grabKeyboard() {
-    if (!setKeyboardGrabEnabled(true))
-        return false;
-    // The window is never the active one, so the toolkit has to be told that keys come here.
-    QFocusEvent event(QEvent::FocusIn, Qt::ShortcutFocusReason);
-    QCoreApplication::sendEvent(this, &event);
-    return true;
-}
-
 void DockPanel::takeKeyboard() {
-    if (!grabKeyboard())
-        return;
-    m_frontAtKeyboard = front();
-    m_hasKeyboard = true;
-    Q_EMIT keyboardChanged();
-    Q_EMIT keyboardTaken();
-}
-
-void DockPanel::releaseKeyboard() {
-    if (!m_hasKeyboard)
-        return;
-    m_hasKeyboard = false;
-    setKeyboardGrabEnabled(false);
-    QFocusEvent event(QEvent::FocusOut, Qt::ShortcutFocusReason);
-    QCoreApplication::sendEvent(this, &event);
-    Q_EMIT keyboardChanged();
+    if (m_keyboard.take())
+        Q_EMIT keyboardTaken();
 }
 
 void DockPanel::openMenu(PopupWindow* menu, const QRectF& item, double gap) {
@@ -217,12 +188,6 @@ void DockPanel::openMenu(PopupWindow* menu, const QRectF& item, double gap) {
                                                           : QRectF(m_bar.x(), item.y(), m_bar.width(), item.height());
     m_controller.platform().panels->prepare(menu->winId(), Panels::Kind::menu);
     menu->openBeside(this, anchor.translated(m_frame.topLeft()), m_dock.edge(), gap);
-}
-
-/// The menu had the keyboard while it was open.
-void DockPanel::menuClosed() {
-    if (m_hasKeyboard && !grabKeyboard())
-        releaseKeyboard();
 }
 
 void DockPanel::transparencyDidChange() {

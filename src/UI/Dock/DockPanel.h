@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ports/Displays.h"
+#include "UI/BorrowedKeyboard.h"
 #include "UI/Dock/DockController.h"
 #include "UI/PopupWindow.h"
 
@@ -37,6 +38,7 @@ public:
 
     void place(const Display& display);                    ///< also takes over a changed edge
     const QRect& touchable() const { return m_touchable; } ///< where it takes input, in device pixels
+    QRect restingPlace() const;                            ///< of the bar, on the desktop; also while it is hidden
 
     QRectF bar() const { return m_bar; } ///< where the bar rests, in the window
     void setBar(const QRectF& bar);
@@ -48,15 +50,14 @@ public:
     void setHeld(bool held);
     void transparencyDidChange(); ///< a compositor came or went
 
-    /// Leads the keyboard to the dock, without taking the front from the active window. It goes back when another
-    /// application comes to the front.
+    /// Leads the keyboard to the dock, without taking the front from the active window.
     void takeKeyboard();
-    bool hasKeyboard() const { return m_hasKeyboard; }
-    Q_INVOKABLE void releaseKeyboard();
+    bool hasKeyboard() const { return m_keyboard.isHere(); }
+    Q_INVOKABLE void releaseKeyboard() { m_keyboard.release(); }
 
     /// Opens a menu beside the bar, at one of its items.
     Q_INVOKABLE void openMenu(fendrel::PopupWindow* menu, const QRectF& item, double gap);
-    Q_INVOKABLE void menuClosed();
+    Q_INVOKABLE void menuClosed() { m_keyboard.resume(); }
 
 Q_SIGNALS:
     void barChanged();
@@ -75,8 +76,6 @@ private:
     void updateInput(const QRect& input);
     void updateReserved();
     void updateMask();
-    bool grabKeyboard();
-    QString front() const;
 
     AppController& m_controller;
     DockController& m_dock;
@@ -90,8 +89,7 @@ private:
     QRegion m_mask;
     bool m_isPointerInside = false;
     bool m_isHeld = false;
-    bool m_hasKeyboard = false;
-    QString m_frontAtKeyboard; ///< bundle identifier
+    BorrowedKeyboard m_keyboard;
 };
 
 } // namespace fendrel

@@ -195,7 +195,9 @@ FocusScope {
                             onNameLengthChanged: root.measurePills()
                             onIsSoughtChanged: if (isSought) pillStrip.reveal(pill)
                             Component.onCompleted: if (isSought) pillStrip.reveal(pill)
+                            background: root.dock.background
                             onPressed: root.dock.requestMode(modeID)
+                            onMenuAsked: menus.showModeMenu(pill, modeID, name, isCurrent, heldCount)
                         }
                     }
                 }

@@ -12,7 +12,9 @@ DockItem {
     required property color tint
     required property bool isCurrent
     required property bool isPending
+    required property int heldCount
 
+    property color background: colors.card // of the bar
     property int pendingSeconds: 0
 
     property int size: 36
@@ -28,7 +30,10 @@ DockItem {
     width: implicitWidth
     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
-    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(shortName.elidedText).arg(pendingSeconds) : name
+    tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(shortName.elidedText).arg(pendingSeconds)
+           : heldCount > 0 ? shortName.elidedText + " · " + heldText : name
+    readonly property string heldText: heldCount === 0 ? "" : heldCount === 1 ? qsTr("1 held message") : qsTr("%1 held messages").arg(heldCount)
+    z: heldCount > 0 ? 1 : 0 // the badge lies over the neighbour
 
     // The hint comes after the name, and is not to be pushed out of the label by it.
     TextMetrics {
@@ -40,7 +45,7 @@ DockItem {
     }
 
     Accessible.role: Accessible.RadioButton
-    Accessible.name: isPending ? qsTr("%1, switching in %2 seconds").arg(name).arg(pendingSeconds) : name
+    Accessible.name: (isPending ? qsTr("%1, switching in %2 seconds").arg(name).arg(pendingSeconds) : name) + (heldText === "" ? "" : ", " + heldText)
     Accessible.description: isPending ? qsTr("Each extra press cuts the wait") : ""
     Accessible.checkable: true
     Accessible.checked: isCurrent
@@ -91,5 +96,13 @@ DockItem {
             font.weight: pill.isBare ? Font.DemiBold : Font.Normal
             anchors.verticalCenter: parent.verticalCenter
         }
+    }
+
+    HeldBadge {
+        anchors { right: parent.right; top: parent.top; rightMargin: -3; topMargin: -3 }
+        colors: pill.colors
+        tint: pill.tint
+        ring: pill.background
+        count: pill.heldCount
     }
 }

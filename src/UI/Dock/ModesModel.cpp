@@ -8,11 +8,20 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 namespace {
-enum Role { modeIDRole = Qt::UserRole + 1, nameRole, symbolRole, tintRole, isCurrentRole, isPendingRole };
+enum Role {
+    modeIDRole = Qt::UserRole + 1,
+    nameRole,
+    symbolRole,
+    tintRole,
+    isCurrentRole,
+    isPendingRole,
+    heldCountRole
+};
 }
 
 ModesModel::ModesModel(AppController& controller) : m_controller(controller) {
     connect(&controller.engine(), &ModeEngine::changed, this, &ModesModel::refresh);
+    connect(&controller.messages(), &HeldMessages::changed, this, &ModesModel::refresh);
     refresh();
 }
 
@@ -38,14 +47,16 @@ QVariant ModesModel::data(const QModelIndex& index, int role) const {
         return row.isCurrent;
     case isPendingRole:
         return row.isPending;
+    case heldCountRole:
+        return row.heldCount;
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> ModesModel::roleNames() const {
-    return {{modeIDRole, "modeID"}, {nameRole, "name"},           {symbolRole, "symbol"},
-            {tintRole, "tint"},     {isCurrentRole, "isCurrent"}, {isPendingRole, "isPending"}};
+    return {{modeIDRole, "modeID"},       {nameRole, "name"},           {symbolRole, "symbol"},      {tintRole, "tint"},
+            {isCurrentRole, "isCurrent"}, {isPendingRole, "isPending"}, {heldCountRole, "heldCount"}};
 }
 
 QVariantList ModesModel::menuEntries(const QString& checkedID) const {
@@ -69,7 +80,8 @@ void ModesModel::refresh() {
                           .symbol = mode.symbol,
                           .tint = color(mode.tint),
                           .isCurrent = mode.id == engine.current().id,
-                          .isPending = engine.pending() && mode.id == engine.pending()->target.id});
+                          .isPending = engine.pending() && mode.id == engine.pending()->target.id,
+                          .heldCount = static_cast<int>(m_controller.messages().count(mode))});
     }
     RowSync<ModesModel, Row>::sync(*this, m_rows, wanted);
 }

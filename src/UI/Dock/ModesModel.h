@@ -32,6 +32,7 @@ private:
         QColor tint;
         bool isCurrent = false;
         bool isPending = false;
+        int heldCount = 0;
         bool operator==(const Row&) const = default;
     };
     friend class RowSync<ModesModel, Row>;

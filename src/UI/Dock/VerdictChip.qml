@@ -15,11 +15,12 @@ DockItem {
     implicitHeight: 36
     visible: verdict.isShown
 
-    tipText: isVertical && !verdict.isClassifying ? words.first + " · " + words.second + ". " + help : help
+    tipText: isVertical ? words.first + " · " + said + ". " + help : help
+    readonly property string said: words.second + (verdict.certainty === "" ? "" : ", " + verdict.certainty)
     readonly property string help: qsTr("Not right? Click to tell Fendrel")
 
     Accessible.role: Accessible.Button
-    Accessible.name: verdict.isClassifying ? qsTr("Judging what is in front") : words.first + ", " + words.second
+    Accessible.name: words.first + ", " + said
     Accessible.description: help
 
     Rectangle {
@@ -55,13 +56,13 @@ DockItem {
 
     Column {
         id: words
-        readonly property string first: chip.verdict.isClassifying ? qsTr("Judging…") : chip.verdict.what
-        readonly property string second: chip.verdict.isClassifying ? "" : chip.verdict.modeName === "" ? qsTr("No mode") : chip.verdict.modeName
+        readonly property string first: chip.verdict.what
+        readonly property string second: chip.verdict.isClassifying ? qsTr("Judging…") : chip.verdict.modeName === "" ? qsTr("No mode") : chip.verdict.modeName
 
         visible: !chip.isVertical
         x: dot.x + dot.width + 9
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(chip.wordsRoom, Math.ceil(Math.max(top.implicitWidth, bottom.implicitWidth)))
+        width: Math.min(chip.wordsRoom, Math.ceil(Math.max(top.implicitWidth, bottom.implicitWidth + sureness.implicitWidth)))
 
         Label {
             id: top
@@ -71,14 +72,22 @@ DockItem {
             font.pixelSize: 12
             font.weight: Font.DemiBold
         }
-        Label {
-            id: bottom
-            colors: chip.colors
-            color: chip.verdict.isElsewhere ? chip.colors.tintText(chip.verdict.tint) : chip.colors.secondaryText
-            text: words.second
-            visible: text !== ""
-            width: parent.width
-            font.pixelSize: Theme.textSmall
+        Row {
+            Label {
+                id: bottom
+                colors: chip.colors
+                color: chip.verdict.isElsewhere ? chip.colors.tintText(chip.verdict.tint) : chip.colors.secondaryText
+                text: words.second
+                width: Math.min(Math.ceil(implicitWidth), words.width - sureness.width)
+                font.pixelSize: Theme.textSmall
+            }
+            Label {
+                id: sureness
+                colors: chip.colors
+                color: chip.colors.secondaryText
+                text: chip.verdict.certainty === "" ? "" : " · " + chip.verdict.certainty
+                font.pixelSize: Theme.textSmall
+            }
         }
     }
 }

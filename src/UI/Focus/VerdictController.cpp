@@ -48,8 +48,13 @@ bool VerdictController::isClassifying() const {
 }
 
 QString VerdictController::what() const {
-    const Verdict* verdict = frontVerdict(m_controller);
-    return verdict ? verdict->what : QString();
+    const auto& front = m_controller.classifier().front();
+    if (!front)
+        return {};
+    if (front->verdict)
+        return front->verdict->what;
+    const auto* app = std::get_if<AppSubject>(&front->subject);
+    return app ? app->name : key(front->subject);
 }
 
 QString VerdictController::modeID() const {
@@ -75,6 +80,21 @@ bool VerdictController::isElsewhere() const {
 bool VerdictController::isCertain() const {
     const Verdict* verdict = frontVerdict(m_controller);
     return verdict && verdict->certainty == Certainty::certain;
+}
+
+QString VerdictController::certainty() const {
+    const Verdict* verdict = frontVerdict(m_controller);
+    if (!verdict || verdict->source != Source::model)
+        return {};
+    switch (verdict->certainty) {
+    case Certainty::certain:
+        return tr("certain");
+    case Certainty::likely:
+        return tr("likely");
+    case Certainty::unsure:
+        break;
+    }
+    return tr("unsure");
 }
 
 void VerdictController::holdSubject() {

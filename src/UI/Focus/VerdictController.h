@@ -26,18 +26,20 @@ class VerdictController : public QObject {
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
     Q_PROPERTY(bool isElsewhere READ isElsewhere NOTIFY changed)
     Q_PROPERTY(bool isCertain READ isCertain NOTIFY changed)
+    Q_PROPERTY(QString certainty READ certainty NOTIFY changed)
 
 public:
     explicit VerdictController(AppController& controller);
 
     bool isShown() const;
     bool isClassifying() const;
-    QString what() const;
+    QString what() const;     ///< the name of what is in front while nobody knows more
     QString modeID() const;   ///< empty when it belongs to no mode
     QString modeName() const; ///< empty when it belongs to no mode
     QColor tint() const;
     bool isElsewhere() const; ///< it belongs to a mode other than the current one
     bool isCertain() const;
+    QString certainty() const; ///< how sure the language model is; empty when it was not asked
 
     Q_INVOKABLE void holdSubject();                  ///< what `correct` is going to be about
     Q_INVOKABLE void correct(const QString& modeID); ///< empty: it belongs to no mode

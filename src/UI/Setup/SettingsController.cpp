@@ -8,6 +8,8 @@ using namespace Qt::StringLiterals;
 
 SettingsController::SettingsController(AppController& controller) : m_controller(controller) {
     connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
+    connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
+    connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
 }
 
 Preferences* SettingsController::preferences() {
@@ -23,6 +25,14 @@ void SettingsController::setPane(const QString& pane) {
 
 bool SettingsController::isDark() const {
     return m_controller.preferences().systemIsDark();
+}
+
+QString SettingsController::modelProblem() const {
+    return m_controller.platform().languageModel->unavailableReason();
+}
+
+QString SettingsController::messagesProblem() const {
+    return m_controller.messages().unavailableReason();
 }
 
 QString SettingsController::version() const {

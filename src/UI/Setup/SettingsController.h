@@ -18,6 +18,8 @@ class SettingsController : public QObject {
     Q_PROPERTY(fendrel::Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(QString pane READ pane WRITE setPane NOTIFY paneChanged)
     Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
+    Q_PROPERTY(QString modelProblem READ modelProblem NOTIFY stateChanged)
+    Q_PROPERTY(QString messagesProblem READ messagesProblem NOTIFY stateChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
     /// The built-in looks: name, background, isDark and isChosen.
     Q_PROPERTY(QVariantList presets READ presets NOTIFY looksChanged)
@@ -29,6 +31,8 @@ public:
     const QString& pane() const { return m_pane; }
     void setPane(const QString& pane);
     bool isDark() const;
+    QString modelProblem() const;    ///< why no language model can be asked; empty while all is well
+    QString messagesProblem() const; ///< why no messages are held; empty while all is well
     QString version() const;
     QVariantList presets() const;
 
@@ -37,6 +41,7 @@ public:
 Q_SIGNALS:
     void paneChanged();
     void looksChanged();
+    void stateChanged();
 
 private:
     AppController& m_controller;

@@ -92,6 +92,21 @@ FocusScope {
     }
 
     Flickable {
+        id: scroller
+
+        // What the keyboard goes to is to be seen.
+        readonly property Item focused: Window.activeFocusItem
+        onFocusedChanged: {
+            let parent = focused
+            while (parent && parent !== page)
+                parent = parent.parent
+            if (!parent)
+                return
+            const top = focused.mapToItem(contentItem, 0, 0).y
+            const wanted = Math.max(top + focused.height + 40 - height, Math.min(top - 40, contentY))
+            contentY = Math.max(0, Math.min(contentHeight - height, wanted))
+        }
+
         anchors { left: sidebar.right; right: parent.right; top: parent.top; bottom: parent.bottom }
         contentHeight: page.height + 56
         boundsBehavior: Flickable.StopAtBounds
@@ -121,31 +136,39 @@ FocusScope {
 
     Component {
         id: general
-        SettingsGroup {
-            colors: viewColors
-            SettingRow {
+        Column {
+            width: parent?.width ?? 0
+            spacing: 18
+            SettingsGroup {
                 colors: viewColors
-                label: qsTr("Strictness")
-                help: [qsTr("Switching modes during focus never waits."), qsTr("Switching modes during focus waits as long as the mode says."), qsTr("Modes with a wait take at least half a minute to enter during focus.")][root.preferences.strictness]
-                Choice {
+                SettingRow {
                     colors: viewColors
-                    name: qsTr("Strictness")
-                    labels: [qsTr("Gentle"), qsTr("Balanced"), qsTr("Strict")]
-                    current: root.preferences.strictness
-                    onChosen: index => root.preferences.strictness = index
+                    label: qsTr("Strictness")
+                    help: [qsTr("Switching modes during focus never waits."), qsTr("Switching modes during focus waits as long as the mode says."), qsTr("Modes with a wait take at least half a minute to enter during focus.")][root.preferences.strictness]
+                    Choice {
+                        colors: viewColors
+                        name: qsTr("Strictness")
+                        labels: [qsTr("Gentle"), qsTr("Balanced"), qsTr("Strict")]
+                        current: root.preferences.strictness
+                        onChosen: index => root.preferences.strictness = index
+                    }
+                }
+                SettingRow {
+                    colors: viewColors
+                    label: qsTr("Tidy up when switching")
+                    help: qsTr("Hides the applications that don't belong to the new mode.")
+                    Toggle { colors: viewColors; name: qsTr("Tidy up when switching"); isOn: root.preferences.tidyOnSwitch; onToggled: on => root.preferences.tidyOnSwitch = on }
+                }
+                SettingRow {
+                    colors: viewColors
+                    label: qsTr("Offer to send crash reports")
+                    help: qsTr("Asks after a crash, and opens your mail app with the report for you to read first.")
+                    Toggle { colors: viewColors; name: qsTr("Offer to send crash reports"); isOn: root.preferences.crashReports; onToggled: on => root.preferences.crashReports = on }
                 }
             }
-            SettingRow {
+            MessageSettings {
                 colors: viewColors
-                label: qsTr("Tidy up when switching")
-                help: qsTr("Hides the applications that don't belong to the new mode.")
-                Toggle { colors: viewColors; name: qsTr("Tidy up when switching"); isOn: root.preferences.tidyOnSwitch; onToggled: on => root.preferences.tidyOnSwitch = on }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Offer to send crash reports")
-                help: qsTr("Asks after a crash, and opens your mail app with the report for you to read first.")
-                Toggle { colors: viewColors; name: qsTr("Offer to send crash reports"); isOn: root.preferences.crashReports; onToggled: on => root.preferences.crashReports = on }
+                settings: root.settings
             }
         }
     }

@@ -6,9 +6,11 @@ FocusScope {
 
     required property Colors colors
     property string placeholder: ""
+    property string name: placeholder
     property alias text: input.text
 
     signal edited(text: string)
+    signal committed(text: string) // with Return, or by leaving the field
 
     implicitHeight: 40
     implicitWidth: 240
@@ -45,7 +47,8 @@ FocusScope {
         focus: true
         maximumLength: 280
         onTextEdited: field.edited(text)
+        onEditingFinished: field.committed(text)
         Accessible.role: Accessible.EditableText
-        Accessible.name: field.placeholder
+        Accessible.name: field.name
     }
 }

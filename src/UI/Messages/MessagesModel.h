@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Messages/HeldMessage.h"
+
+#include <QAbstractListModel>
+#include <QtQmlIntegration>
+
+namespace fendrel {
+
+template<class Model, class Row>
+class RowSync;
+
+/// Messages as a card shows them: plain text that fits, whatever was in them.
+class MessagesModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+public:
+    struct Row {
+        QString id;
+        QString icon;
+        QString appName;
+        QString title;
+        QString text;
+        QString time;
+        QString why; ///< it is urgent; empty when it is not
+        bool operator==(const Row&) const = default;
+    };
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    void show(const QList<Row>& rows);
+
+private:
+    friend class RowSync<MessagesModel, Row>;
+    QList<Row> m_rows;
+};
+
+/// What a message says by itself. The title is never empty: the first text that there is takes its place.
+MessagesModel::Row messageRow(const HeldMessage& message, WallTime now);
+
+} // namespace fendrel
