@@ -8,9 +8,8 @@
 #include "Messages/NotificationReader.h"
 #include "fakes/FakeNotificationLog.h"
 
-#include <plist/plist.h>
-
 #include <benchmark/benchmark.h>
+#include <plist/plist.h>
 
 #include <cstdlib>
 

@@ -98,11 +98,17 @@ void AppController::chooseModel() {
 
 /// After every committed switch.
 void AppController::modeDidChange(const Mode& mode) {
-    m_messages.modeChanged(mode);
+    const auto destination = m_messages.modeChanged(mode);
     if (m_preferences.tidyOnSwitch())
         m_tidyUp.tidy(mode);
     m_drift.modesChanged();
-    m_router.judgeFrontAgain();
+    if (destination)
+        m_workspace.open(*destination);
+    // A running application that was opened comes to the front in a moment, and is judged then. A gate over what is
+    // still there would stand in its way.
+    const auto& front = m_titles.front();
+    if (!destination || !m_workspace.running().contains(*destination) || (front && front->bundleID == *destination))
+        m_router.judgeFrontAgain();
 }
 
 void AppController::focusDidChange(bool isOn) {

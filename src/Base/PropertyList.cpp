@@ -142,9 +142,8 @@ private:
         const int power = marker & 0xf;
         if ((power != 2 && power != 3) || !holds(at, quint64{1} << power))
             return {};
-        const double value = power == 2
-                                 ? static_cast<double>(std::bit_cast<float>(static_cast<quint32>(number(at, 4))))
-                                 : std::bit_cast<double>(number(at, 8));
+        const double value = power == 2 ? static_cast<double>(std::bit_cast<float>(static_cast<quint32>(number(at, 4))))
+                                        : std::bit_cast<double>(number(at, 8));
         return marker == date ? dateAt(value) : (marker & 0xf0) == real ? std::optional(QVariant(value)) : std::nullopt;
     }
 

@@ -10,10 +10,9 @@ BreakThrough::BreakThrough(const QStringList& words) {
     for (const QString& word : words) {
         if (word.isEmpty())
             continue;
-        m_words.emplace_back(word,
-                             QRegularExpression(u"(?<!\\w)"_s + QRegularExpression::escape(word) + u"(?!\\w)"_s,
-                                                QRegularExpression::CaseInsensitiveOption |
-                                                    QRegularExpression::UseUnicodePropertiesOption));
+        m_words.emplace_back(word, QRegularExpression(u"(?<!\\w)"_s + QRegularExpression::escape(word) + u"(?!\\w)"_s,
+                                                      QRegularExpression::CaseInsensitiveOption |
+                                                          QRegularExpression::UseUnicodePropertiesOption));
     }
 }
 

@@ -34,8 +34,8 @@ struct MessageAlert {
 /// What was held during a stretch of work, shown when it ends.
 struct MessageDigest {
     QUuid id{};
-    Mode mode{};                    ///< of the stretch that ended
-    QList<HeldMessage> messages{};  ///< newest first
+    Mode mode{};                     ///< of the stretch that ended
+    QList<HeldMessage> messages{};   ///< newest first
     QHash<qint64, QString> urgent{}; ///< message -> why it was urgent
 };
 

@@ -63,12 +63,15 @@ void HeldMessages::refresh() {
         return;
     m_isReading = true;
     m_worker.post({}, [this, reader = m_reader] {
-        QMetaObject::invokeMethod(this, [this, rows = reader->read()] {
-            received(rows);
-            m_isReading = false;
-            if (std::exchange(m_isReadWanted, false))
-                refresh();
-        }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this, rows = reader->read()] {
+                received(rows);
+                m_isReading = false;
+                if (std::exchange(m_isReadWanted, false))
+                    refresh();
+            },
+            Qt::QueuedConnection);
     });
 }
 
@@ -119,8 +122,7 @@ void HeldMessages::hold(const NotificationRow& row, const Mode& work, const QLis
 
 void HeldMessages::raise(const Message& message, const Mode& mode, const QString& why) {
     m_urgent[message.id] = why;
-    m_alert = Alert{
-        .id = QUuid::createUuid(), .message = message, .mode = mode, .why = why, .wait = entryDelay(mode)};
+    m_alert = Alert{.id = QUuid::createUuid(), .message = message, .mode = mode, .why = why, .wait = entryDelay(mode)};
 }
 
 void HeldMessages::judge(const Message& message, const Mode& mode) {
@@ -158,7 +160,7 @@ void HeldMessages::judged(const Message& message, const Mode& mode,
     judgeNext();
 }
 
-void HeldMessages::modeChanged(const Mode& mode) {
+std::optional<QString> HeldMessages::modeChanged(const Mode& mode) {
     showDigest();
     m_stretchMode = mode;
     m_heldInStretch.clear();
@@ -173,8 +175,7 @@ void HeldMessages::modeChanged(const Mode& mode) {
     m_urgent.removeIf([&](const auto& entry) { return !stillHeld.contains(entry.key()); });
     const auto entry = std::exchange(m_entry, {});
     Q_EMIT changed();
-    if (entry && entry->modeID == mode.id)
-        open(entry->message);
+    return entry && entry->modeID == mode.id ? std::optional(entry->bundleID) : std::nullopt;
 }
 
 void HeldMessages::modesEdited() {
@@ -231,7 +232,7 @@ void HeldMessages::go() {
         return;
     const Alert alert = *std::exchange(m_alert, std::nullopt);
     setHovered(false);
-    m_entry = Entry{.modeID = alert.mode.id, .message = alert.message};
+    m_entry = Entry{.modeID = alert.mode.id, .bundleID = alert.message.bundleID};
     Q_EMIT changed();
     onSwitch(alert.mode);
 }

@@ -53,13 +53,14 @@ public:
     bool isHovered() const { return m_isHovered; }
 
     void refresh();
-    void modeChanged(const Mode& mode); ///< after every switch
-    void modesEdited();              ///< forgets what was held for modes that are gone
-    void go();                          ///< to the alert's mode, and once there to the message's application
+    /// After every switch. Returns the application that `go` led to, which is to come to the front now.
+    std::optional<QString> modeChanged(const Mode& mode);
+    void modesEdited(); ///< forgets what was held for modes that are gone
+    void go();          ///< to the alert's mode, and once there to the message's application
     void dismissAlert();
     void dismissDigest();
-    void open(const Message& message);    ///< brings its application to the front
-    void setHovered(bool isHovered);      ///< the pointer is over the digest's card
+    void open(const Message& message); ///< brings its application to the front
+    void setHovered(bool isHovered);   ///< the pointer is over the digest's card
     /// The mode that the user is on the way to, or in: what `go` began and somebody took back is forgotten.
     void headingFor(const QString& modeID);
 
@@ -90,7 +91,7 @@ private:
     bool m_canRead = false;
     bool m_isHovered = false;
     bool m_isReading = false;
-    bool m_isReadWanted = false; ///< the log told of news while it was being read
+    bool m_isReadWanted = false;       ///< the log told of news while it was being read
     std::optional<Mode> m_stretchMode; ///< the mode since the last switch
     QSet<qint64> m_heldInStretch;
     QHash<qint64, QString> m_urgent;
@@ -102,7 +103,7 @@ private:
     /// What is opened once its mode is entered.
     struct Entry {
         QString modeID{};
-        Message message{};
+        QString bundleID{};
     };
     std::optional<Entry> m_entry;
     std::shared_ptr<NotificationReader> m_reader;

@@ -43,7 +43,7 @@ public:
 
 private:
     const std::vector<NotificationKey>& m_before;
-    std::size_t m_next = 0;                 ///< where the next key is expected
+    std::size_t m_next = 0;                  ///< where the next key is expected
     std::vector<NotificationKey> m_sorted{}; ///< made when one is not where it was expected
 };
 

@@ -26,7 +26,7 @@ struct SchemaProperty {
 struct Question {
     QString instructions{};
     QString prompt{};
-    QString schemaName{}; ///< says what the question is for: one is asked at a time for each purpose
+    QString schemaName{};           ///< says what the question is for: one is asked at a time for each purpose
     QList<SchemaProperty> schema{}; ///< empty: the answer is one text, under ""
     bool operator==(const Question&) const = default;
 };

@@ -41,8 +41,9 @@ public:
         const qint64 id = entry.replaces.value_or(m_lastID + 1);
         m_lastID = qMax(m_lastID, id);
         run(QStringLiteral("INSERT OR IGNORE INTO app (identifier) VALUES ('%1')").arg(entry.app));
-        run(QStringLiteral("INSERT OR REPLACE INTO record VALUES (%1, (SELECT app_id FROM app WHERE identifier = '%2'), "
-                           "randomblob(16), x'%3', NULL, %4)")
+        run(QStringLiteral(
+                "INSERT OR REPLACE INTO record VALUES (%1, (SELECT app_id FROM app WHERE identifier = '%2'), "
+                "randomblob(16), x'%3', NULL, %4)")
                 .arg(id)
                 .arg(entry.app, QString::fromLatin1(data(entry).toHex()))
                 .arg(entry.date));
