@@ -200,10 +200,10 @@ private:
             const auto key = referenced(at, index);
             if (!key || key->typeId() != QMetaType::QString)
                 return {};
-            auto value = referenced(at, size + index);
+            const auto value = referenced(at, size + index);
             if (!value)
                 return {};
-            values.insert(key->toString(), std::move(*value));
+            values.insert(key->toString(), *value);
         }
         return values;
     }

@@ -2,7 +2,7 @@
 
 #include "App/AppController.h"
 
-#include <algorithm>
+#include <ranges>
 
 namespace fendrel::control {
 
@@ -64,8 +64,8 @@ QJsonArray heldFor(AppController& controller, const QString& modeID) {
     const HeldMessages& messages = controller.messages();
     QJsonArray list;
     const auto held = messages.held().value(modeID);
-    for (auto message = held.crbegin(); message != held.crend(); ++message)
-        list.append(messageObject(*message, messages.urgent(), controller.workspace()));
+    for (const HeldMessages::Message& message : held | std::views::reverse)
+        list.append(messageObject(message, messages.urgent(), controller.workspace()));
     return list;
 }
 

@@ -116,7 +116,9 @@ private Q_SLOTS:
         Peer peer(world), other(world);
         const auto change = [&] { return peer.nextObject().keys().join(u' '); };
         peer.say(watch);
-        QCOMPARE(change(), u"browsers budgets dock focus front gate judgement messages mode model onboarding pending time veils"_s);
+        QCOMPARE(
+            change(),
+            u"browsers budgets dock focus front gate judgement messages mode model onboarding pending time veils"_s);
         controller.focus().start();
         QCOMPARE(change(), u"focus time"_s);
         other.say(watch);
