@@ -104,10 +104,10 @@ void AppController::modeDidChange(const Mode& mode) {
     m_drift.modesChanged();
     if (destination)
         m_workspace.open(*destination);
-    // A running application that was opened comes to the front in a moment, and is judged then. A gate over what is
-    // still there would stand in its way.
+    // What was opened comes to the front and is judged then. A gate over what is still there would stand in its way.
     const auto& front = m_titles.front();
-    if (!destination || !m_workspace.running().contains(*destination) || (front && front->bundleID == *destination))
+    const bool isComing = destination && m_workspace.url(*destination) && (!front || front->bundleID != *destination);
+    if (!isComing)
         m_router.judgeFrontAgain();
 }
 

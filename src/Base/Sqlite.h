@@ -74,6 +74,7 @@ public:
     ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
+    bool isOpen() const { return m_isOpen; } ///< false when it could not begin
     bool commit();
 
 private:

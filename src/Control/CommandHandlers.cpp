@@ -44,20 +44,20 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
         {u"explain"_s, [&](const Request&) -> Answer { return QJsonValue(explanation(controller)); }},
         {u"held"_s,
          [this](const Request& request) {
-             return editMode(request.arguments[0],
+             return withMode(request.arguments[0],
                              [&](const QString& id) { return Answer(QJsonValue(heldFor(m_controller, id))); });
          }},
         {u"alert"_s, [this](const Request& request) { return answerAlert(request.arguments[0]); }},
         {u"mode add-app"_s,
          [this, &engine](const Request& request) {
-             return editMode(request.arguments[0], [&](const QString& id) {
+             return withMode(request.arguments[0], [&](const QString& id) {
                  engine.addApp(request.arguments[1], id);
                  return done();
              });
          }},
         {u"mode remove-app"_s,
          [this, &engine](const Request& request) {
-             return editMode(request.arguments[0], [&](const QString& id) {
+             return withMode(request.arguments[0], [&](const QString& id) {
                  if (!engine.mode(id)->apps.contains(request.arguments[1]))
                      return Answer::failure(u"%1 has no application %2"_s.arg(id, request.arguments[1]));
                  engine.removeApp(request.arguments[1], id);
@@ -66,7 +66,7 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
          }},
         {u"mode add-site"_s,
          [this, &engine](const Request& request) {
-             return editMode(request.arguments[0], [&](const QString& id) {
+             return withMode(request.arguments[0], [&](const QString& id) {
                  const auto site = siteName(request.arguments[1]);
                  if (!site)
                      return Answer::failure(u"'%1' names no web site"_s.arg(request.arguments[1]));
@@ -76,7 +76,7 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
          }},
         {u"mode remove-site"_s,
          [this, &engine](const Request& request) {
-             return editMode(request.arguments[0], [&](const QString& id) {
+             return withMode(request.arguments[0], [&](const QString& id) {
                  const QString site = siteName(request.arguments[1]).value_or(request.arguments[1]);
                  if (!engine.mode(id)->sites.contains(site))
                      return Answer::failure(u"%1 has no site %2"_s.arg(id, site));
@@ -141,14 +141,14 @@ Answer CommandHandlers::modes() const {
     return QJsonValue(list);
 }
 
-Answer CommandHandlers::editMode(const QString& id, const std::function<Answer(const QString&)>& edit) {
+Answer CommandHandlers::withMode(const QString& id, const std::function<Answer(const QString&)>& edit) {
     if (!m_controller.engine().mode(id))
         return Answer::failure(u"unknown mode '%1'"_s.arg(id));
     return edit(id);
 }
 
 Answer CommandHandlers::switchMode(const QString& id) {
-    return editMode(id, [this](const QString& known) {
+    return withMode(id, [this](const QString& known) {
         ModeEngine& engine = m_controller.engine();
         engine.requestSwitch(Mode(*engine.mode(known)));
         return done();
@@ -204,7 +204,7 @@ Answer CommandHandlers::correct(const QString& mode) {
         m_controller.drift().correctFront({});
         return done();
     }
-    return editMode(mode, [this](const QString& id) {
+    return withMode(mode, [this](const QString& id) {
         m_controller.drift().correctFront(id);
         return done();
     });

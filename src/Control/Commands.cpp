@@ -32,7 +32,7 @@ const QList<Command>& commands() {
          .parameters = {{.name = u"MODE|none"_s, .takes = Takes::mode}},
          .help = u"Tell which mode the thing in front belongs to."_s},
         {.name = u"explain"_s, .help = u"Say why the thing in front was judged as it was."_s},
-        {.name = u"held"_s, .parameters = {mode}, .help = u"Show the messages that are held for a mode."_s},
+        {.name = u"held"_s, .parameters = {mode}, .help = u"Show the newest messages that are held for a mode."_s},
         {.name = u"alert"_s,
          .parameters = {{.name = u"ANSWER"_s, .takes = Takes::text}},
          .help = u"Answer the alert of an urgent message: open or dismiss."_s},

@@ -12,14 +12,19 @@ namespace {
 
 using Urgent = QHash<qint64, QString>;
 
+// An answer is one line, which has to stay below what a line may have.
+constexpr qsizetype longestText = 500;
+constexpr qsizetype mostListed = 100;
+constexpr qsizetype mostInDigest = 20;
+
 QJsonObject messageObject(const HeldMessages::Message& message, const Urgent& urgent, const Workspace& workspace) {
     const auto why = urgent.constFind(message.id);
     return {{u"id"_s, message.id},
             {u"app"_s, message.bundleID},
             {u"appName"_s, workspace.displayName(message.bundleID)},
-            {u"title"_s, message.title},
-            {u"subtitle"_s, message.subtitle},
-            {u"body"_s, message.body},
+            {u"title"_s, message.title.left(longestText)},
+            {u"subtitle"_s, message.subtitle.left(longestText)},
+            {u"body"_s, message.body.left(longestText)},
             {u"date"_s, toDateTime(message.date).toString(Qt::ISODateWithMs)},
             {u"urgent"_s, why == urgent.cend() ? QJsonValue() : QJsonValue(*why)}};
 }
@@ -40,9 +45,9 @@ QJsonValue digestObject(AppController& controller) {
     if (!digest)
         return {};
     QJsonArray messages;
-    for (const auto& message : digest->messages)
+    for (const auto& message : digest->messages | std::views::take(mostInDigest))
         messages.append(messageObject(message, digest->urgent, controller.workspace()));
-    return QJsonObject{{u"mode"_s, digest->mode.id}, {u"messages"_s, messages}};
+    return QJsonObject{{u"mode"_s, digest->mode.id}, {u"count"_s, digest->messages.size()}, {u"messages"_s, messages}};
 }
 
 } // namespace
@@ -64,7 +69,7 @@ QJsonArray heldFor(AppController& controller, const QString& modeID) {
     const HeldMessages& messages = controller.messages();
     QJsonArray list;
     const auto held = messages.held().value(modeID);
-    for (const HeldMessages::Message& message : held | std::views::reverse)
+    for (const HeldMessages::Message& message : held | std::views::reverse | std::views::take(mostListed))
         list.append(messageObject(message, messages.urgent(), controller.workspace()));
     return list;
 }

@@ -13,7 +13,7 @@ namespace control {
 /// What the status says of messages: how many are held for each mode, the alert, the digest, why nothing can be read.
 QJsonObject messagesObject(AppController& controller);
 
-/// The messages that are held for a mode, newest first.
+/// The newest messages that are held for a mode, newest first; long texts are cut.
 QJsonArray heldFor(AppController& controller, const QString& modeID);
 
 } // namespace control

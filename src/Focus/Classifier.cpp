@@ -31,7 +31,7 @@ void Classifier::checkModel() {
     m_isModelAvailable = m_model.isAvailable();
     Q_EMIT changed(); // for who shows why it is not
     if (m_isModelAvailable)
-        m_model.prewarm(ModelQuestion::instructions(m_engine.modes(), m_appName));
+        m_model.prewarm(question());
 }
 
 void Classifier::setFront(std::optional<Judgement> front) {
@@ -98,16 +98,24 @@ Handle Classifier::judge(const Subject& subject, Judged judged) {
     return Handle([waiting] { *waiting = {}; });
 }
 
-void Classifier::ask(const Subject& subject) {
-    QStringList modeIDs;
+QStringList Classifier::modeIDs() const {
+    QStringList ids;
     for (const Mode& mode : m_engine.modes())
-        modeIDs.append(mode.id);
-    const Question question{.instructions = ModelQuestion::instructions(m_engine.modes(), m_appName),
-                            .prompt = ModelQuestion::prompt(subject),
-                            .schemaName = QStringLiteral("Verdict"),
-                            .schema = ModelQuestion::schema(modeIDs)};
+        ids.append(mode.id);
+    return ids;
+}
+
+Question Classifier::question() const {
+    return {.instructions = ModelQuestion::instructions(m_engine.modes(), m_appName),
+            .schemaName = QStringLiteral("Verdict"),
+            .schema = ModelQuestion::schema(modeIDs())};
+}
+
+void Classifier::ask(const Subject& subject) {
+    Question asked = question();
+    asked.prompt = ModelQuestion::prompt(subject);
     m_inFlight[key(subject)].question =
-        m_model.ask(question, [this, subject, modeIDs, start = m_clock.continuousNow()](const auto& answer) {
+        m_model.ask(asked, [this, subject, modeIDs = modeIDs(), start = m_clock.continuousNow()](const auto& answer) {
             if (!answer) {
                 qCWarning(logFocus).noquote().nospace()
                     << "Model couldn't judge " << Private{plainName(subject)} << ": " << answer.error();

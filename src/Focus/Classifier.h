@@ -66,6 +66,8 @@ private:
     };
 
     void setFront(std::optional<Judgement> front);
+    QStringList modeIDs() const;
+    Question question() const; ///< without a prompt
     void ask(const Subject& subject);
     void answered(const Subject& subject, std::optional<Verdict> verdict);
 

@@ -20,22 +20,22 @@ constexpr auto readTolerance = 400ms;
 constexpr auto digestStays = 15s;
 constexpr auto digestStaysAfterHover = 4s;
 
+// A mode that is never entered would collect for ever, and a model that is slower than what comes never catch up.
+constexpr qsizetype mostHeld = 500; // for each mode
+constexpr std::size_t mostToJudge = 100;
+
 WallTime deliveryTime(double date) {
-    using namespace std::chrono;
     constexpr double farthest = 1e11; // some thousand years
     const double since = std::abs(date) < farthest ? date : 0;
-    return sys_days(January / 1 / 2001) + milliseconds(std::llround(since * 1000));
+    return referenceDate + std::chrono::milliseconds(std::llround(since * 1000));
 }
 
 } // namespace
 
-HeldMessages::HeldMessages(NotificationLog& log, LanguageModel& model, Clock& clock, QSet<QString> sharedApps)
-    : m_log(log),
-      m_model(model),
-      m_clock(clock),
-      m_sharedApps(std::move(sharedApps)),
-      m_reader(std::make_shared<NotificationReader>(log.databasePath())),
-      m_worker(u"heldmessages"_s) {
+HeldMessages::HeldMessages(NotificationLog& log, LanguageModel& model, Clock& clock, const QSet<QString>& sharedApps)
+    : m_log(log), m_model(model), m_clock(clock), m_reader(log.databasePath()), m_worker(u"heldmessages"_s) {
+    for (const QString& app : sharedApps)
+        m_sharedApps.insert(app.toLower());
     m_log.onChanged = [this] {
         m_isReadWanted = m_isReading;
         refresh();
@@ -62,10 +62,10 @@ void HeldMessages::refresh() {
     if (m_isReading)
         return;
     m_isReading = true;
-    m_worker.post({}, [this, reader = m_reader] {
+    m_worker.post({}, [this] {
         QMetaObject::invokeMethod(
             this,
-            [this, rows = reader->read()] {
+            [this, rows = m_reader.read()] {
                 received(rows);
                 m_isReading = false;
                 if (std::exchange(m_isReadWanted, false))
@@ -110,14 +110,23 @@ void HeldMessages::hold(const NotificationRow& row, const Mode& work, const QLis
     auto& messages = m_held[mode->id];
     messages.removeIf([&](const Message& other) { return other.id == message.id; });
     messages.append(message);
+    if (messages.size() > mostHeld)
+        forget(messages.takeFirst().id);
+    forget(message.id); // what was said of the one that it replaces
     m_heldInStretch.insert(message.id);
-    m_urgent.remove(message.id);
     if (const auto reason = words.reason(message)) {
         raise(message, *mode, *reason);
         onShow();
     } else {
         judge(message, *mode);
     }
+}
+
+void HeldMessages::forget(qint64 id) {
+    m_heldInStretch.remove(id);
+    m_urgent.remove(id);
+    if (m_alert && m_alert->message.id == id)
+        m_alert.reset();
 }
 
 void HeldMessages::raise(const Message& message, const Mode& mode, const QString& why) {
@@ -129,6 +138,8 @@ void HeldMessages::judge(const Message& message, const Mode& mode) {
     if (!m_model.isAvailable())
         return;
     m_toJudge.emplace_back(message, mode);
+    if (m_toJudge.size() > mostToJudge)
+        m_toJudge.erase(m_toJudge.begin());
     judgeNext();
 }
 
@@ -138,7 +149,8 @@ bool HeldMessages::isHeld(const Message& message, const Mode& mode) const {
 
 void HeldMessages::judgeNext() {
     while (!m_isJudging && !m_toJudge.empty()) {
-        const auto [message, mode] = m_toJudge.back();
+        const Message message = m_toJudge.back().first;
+        const Mode mode = m_toJudge.back().second;
         m_toJudge.pop_back();
         if (!isHeld(message, mode))
             continue;
@@ -210,7 +222,7 @@ void HeldMessages::showDigest() {
     std::ranges::sort(digest.messages, std::ranges::greater{},
                       [](const Message& message) { return std::pair(message.date, message.id); });
     m_digest = std::move(digest);
-    if (!m_isHovered)
+    if (!m_isHovered && !m_isHidden)
         hideDigest(digestStays);
 }
 
@@ -223,8 +235,17 @@ void HeldMessages::setHovered(bool isHovered) {
         return;
     if (isHovered)
         m_digestHide.reset();
-    else
+    else if (!m_isHidden)
         hideDigest(digestStaysAfterHover);
+}
+
+void HeldMessages::setHidden(bool isHidden) {
+    if (std::exchange(m_isHidden, isHidden) == isHidden || !m_digest)
+        return;
+    if (isHidden)
+        m_digestHide.reset();
+    else if (!m_isHovered)
+        hideDigest(digestStays);
 }
 
 void HeldMessages::go() {

@@ -28,8 +28,8 @@ public:
     using Alert = MessageAlert;
     using Digest = MessageDigest;
 
-    /// `sharedApps` are the identifiers, in lower case, of what belongs to every mode.
-    HeldMessages(NotificationLog& log, LanguageModel& model, Clock& clock, QSet<QString> sharedApps);
+    /// `sharedApps` are the identifiers of what belongs to every mode.
+    HeldMessages(NotificationLog& log, LanguageModel& model, Clock& clock, const QSet<QString>& sharedApps);
     ~HeldMessages() override;
 
     std::function<std::optional<Mode>()> current = [] { return std::optional<Mode>(); };
@@ -61,6 +61,7 @@ public:
     void dismissDigest();
     void open(const Message& message); ///< brings its application to the front
     void setHovered(bool isHovered);   ///< the pointer is over the digest's card
+    void setHidden(bool isHidden);      ///< no card is seen now, so that no time of a digest runs
     /// The mode that the user is on the way to, or in: what `go` began and somebody took back is forgotten.
     void headingFor(const QString& modeID);
 
@@ -73,6 +74,7 @@ private:
     void received(const std::optional<Rows>& rows);
     void hold(const NotificationRow& row, const Mode& work, const QList<Mode>& all, const BreakThrough& words);
     void setCanRead(bool canRead);
+    void forget(qint64 id);
     void raise(const Message& message, const Mode& mode, const QString& why);
     void judge(const Message& message, const Mode& mode);
     void judgeNext();
@@ -90,6 +92,7 @@ private:
     std::optional<Digest> m_digest;
     bool m_canRead = false;
     bool m_isHovered = false;
+    bool m_isHidden = false;
     bool m_isReading = false;
     bool m_isReadWanted = false;       ///< the log told of news while it was being read
     std::optional<Mode> m_stretchMode; ///< the mode since the last switch
@@ -106,8 +109,8 @@ private:
         QString bundleID{};
     };
     std::optional<Entry> m_entry;
-    std::shared_ptr<NotificationReader> m_reader;
-    Worker m_worker; ///< the last: nothing it posts arrives once it has ended
+    NotificationReader m_reader; ///< the worker's alone
+    Worker m_worker;             ///< the last: nothing it posts arrives once it has ended
 };
 
 } // namespace fendrel

@@ -13,8 +13,8 @@ namespace fendrel {
 class NotificationKey {
 public:
     explicit NotificationKey(QByteArrayView uuid);
-    static NotificationKey ofRecord(qint64 id); ///< for a record without a uuid
-    auto operator<=>(const NotificationKey&) const = default;
+    static NotificationKey ofRecord(qint64 id);               ///< for a record without a uuid
+    auto operator<=>(const NotificationKey&) const = default; // NOLINT(modernize-use-nullptr): of the generated code
 
 private:
     std::array<quint64, 2> m_words{};

@@ -50,8 +50,8 @@ public:
     virtual void choose(const ModelChoice&) {}
     virtual bool isAvailable() const = 0;
     virtual QString unavailableReason() const = 0; ///< for the user; empty while available
-    /// Makes ready for questions with these instructions; a later call replaces one that is under way.
-    virtual void prewarm(const QString& instructions) = 0;
+    /// Makes ready for questions like this one, whatever their prompt; a later call replaces one that is under way.
+    virtual void prewarm(const Question& question) = 0;
     /// Greedy: the same question gives the same answer. An error is text for the log.
     virtual Handle ask(const Question& question, Answered answered) = 0;
 

@@ -16,6 +16,8 @@ public:
         dock, ///< on every virtual desktop, never takes the keyboard
         gate, ///< on the virtual desktop where it opens, above full-screen windows; docks stay above it where they can
         menu, ///< open for a moment, over everything; draws its own shadow
+        card, ///< on every virtual desktop, above full-screen windows, under docks where it can; never takes the
+              ///< keyboard
     };
 
     virtual ~Panels() = default;

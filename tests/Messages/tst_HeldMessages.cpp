@@ -20,7 +20,7 @@ struct World {
     World() {
         model.setUnavailable(u"none"_s);
         log.add({.app = u"chat.app"_s, .title = u"from yesterday"_s});
-        messages.emplace(log, model, clock, QSet<QString>{u"shared.app"_s});
+        messages.emplace(log, model, clock, QSet<QString>{u"Shared.App"_s});
         messages->modes = [this] { return modes; };
         messages->current = [this] { return std::optional(current); };
         messages->entryDelay = [](const Mode& mode) { return mode.id == "social"_L1 ? Seconds(20) : Seconds(0); };
@@ -166,6 +166,10 @@ private Q_SLOTS:
         QCOMPARE(world.messages->digest()->messages[1].title, u"newer"_s);
         QCOMPARE(world.messages->digest()->urgent.values(), {u"from older, urgent"_s});
         world.clock.advance(14s);
+        world.messages->setHidden(true); // under a gate
+        world.clock.advance(60s);
+        world.messages->setHidden(false);
+        world.clock.advance(14s);
         world.messages->setHovered(true);
         world.clock.advance(60s);
         QVERIFY(world.messages->digest());
@@ -207,9 +211,12 @@ private Q_SLOTS:
         World world;
         QVERIFY(world.begin());
         world.model.setUnavailable({});
-        const auto ids = world.arrive({{.app = u"chat.app"_s, .title = u"1 new"_s}});
+        const auto ids = world.arrive({{.app = u"chat.app"_s, .title = u"1 urgent"_s}});
+        QVERIFY(world.messages->alert());
         world.arrive({{.app = u"chat.app"_s, .title = u"2 new"_s, .replaces = ids[0]}});
         QCOMPARE(world.held(u"social"_s), {u"2 new"_s});
+        QVERIFY(!world.messages->alert());
+        QVERIFY(world.messages->urgent().isEmpty());
     }
 
     void modesThatAreGone() {

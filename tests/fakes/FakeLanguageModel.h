@@ -15,7 +15,7 @@ public:
 
     bool isAvailable() const override { return m_reason.isEmpty(); }
     QString unavailableReason() const override { return m_reason; }
-    void prewarm(const QString& instructions) override { prewarmed.append(instructions); }
+    void prewarm(const Question& question) override { prewarmed.append(question.instructions); }
     Handle ask(const Question& question, Answered answered) override {
         questions.append(question);
         m_waiting->emplace(questions.size(), std::move(answered));

@@ -13,7 +13,7 @@ public:
     QString unavailableReason() const override {
         return QStringLiteral("There is no language model on this computer.");
     }
-    void prewarm(const QString&) override {}
+    void prewarm(const Question&) override {}
     Handle ask(const Question&, Answered answered) override {
         return atNextTurn([answered = std::move(answered)] {
             answered(Result<Answer, QString>::failure(QStringLiteral("there is no language model")));

@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(world.answerTo(u"App: Pen\nWindow: Ode"_s), u"Poem draft/none"_s);
         QCOMPARE(world.answerTo(u"App: Pen"_s), u"something/writing"_s);
         QCOMPARE(world.changes, 1);
-        world.model.prewarm(u"You sort."_s);
+        world.model.prewarm({.instructions = u"You sort."_s});
         QCOMPARE(world.requests(3).size(), 3);
     }
 

@@ -54,7 +54,7 @@ class NotificationStoreTest : public QObject {
 private Q_SLOTS:
     void replacesByNumber() {
         Home home;
-        QCOMPARE(home.store.open(), QString());
+        QCOMPARE(home.store.open(today), QString());
         QCOMPARE(home.store.write({record(1), record(2)}), QString());
         const auto before = home.rows();
         QCOMPARE(home.store.write({{.number = 1,
@@ -90,6 +90,24 @@ private Q_SLOTS:
         QCOMPARE(home.store.write({record(11), record(5)}), QString()); // replaced, and come back
         QCOMPARE(home.rows().size(), 2000);
         QCOMPARE(home.rows().last().content[u"req"_s].toMap()[u"titl"_s], u"5"_s);
+    }
+
+    void lockedReplacedAndOld() {
+        Home home;
+        QCOMPARE(home.store.write({record(1)}), QString());
+        const qint64 first = home.rows().last().id;
+        const auto other = *sqlite::Database::open(home.store.path());
+        QVERIFY(other->run(u"BEGIN IMMEDIATE"_s));
+        QVERIFY(home.store.write({record(2), record(3)}).contains(u"locked"_s));
+        QVERIFY(other->run(u"ROLLBACK"_s));
+        QCOMPARE(home.rows().size(), 1);
+        QVERIFY(QFile::remove(home.store.path())); // numbers of another file
+        QCOMPARE(home.store.write({record(2, today + 1s)}), QString());
+        QVERIFY(home.rows().last().id > first);
+
+        NotificationStore later(home.folder);
+        QCOMPARE(later.open(today + std::chrono::days(8)), QString());
+        QVERIFY(home.rows().isEmpty());
     }
 
     void keepsADamagedFileAside() {

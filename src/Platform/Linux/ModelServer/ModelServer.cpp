@@ -97,17 +97,16 @@ void ModelServer::setUnavailable(const QString& reason) {
     onAvailabilityChanged();
 }
 
-void ModelServer::prewarm(const QString& instructions) {
+void ModelServer::prewarm(const Question& question) {
     m_prewarming.reset();
     if (!m_server)
         return;
-    m_prewarmed = instructions;
-    m_prewarming =
-        m_http.send({.endpoint = m_server->address.endpoints.first(),
-                     .path = ModelServerRequest::path(m_server->protocol),
-                     .body = ModelServerRequest::prewarming(m_server->protocol, m_server->model, instructions),
-                     .timeout = 120s}, // the model may have to be read from the disk first
-                    [](const auto&) {});
+    m_prewarmed = question.instructions;
+    m_prewarming = m_http.send({.endpoint = m_server->address.endpoints.first(),
+                                .path = ModelServerRequest::path(m_server->protocol),
+                                .body = ModelServerRequest::prewarming(m_server->protocol, m_server->model, question),
+                                .timeout = 120s}, // the model may have to be read from the disk first
+                               [](const auto&) {});
 }
 
 Handle ModelServer::ask(const Question& question, Answered answered) {

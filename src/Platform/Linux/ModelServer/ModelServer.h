@@ -23,7 +23,7 @@ public:
     void choose(const ModelChoice& choice) override;
     bool isAvailable() const override { return m_server.has_value(); }
     QString unavailableReason() const override { return m_reason; }
-    void prewarm(const QString& instructions) override;
+    void prewarm(const Question& question) override;
     Handle ask(const Question& question, Answered answered) override;
 
 private:

@@ -134,9 +134,9 @@ QByteArray question(ModelProtocol protocol, const QString& model, const Question
     return body(protocol, model, question, tokenLimit);
 }
 
-QByteArray prewarming(ModelProtocol protocol, const QString& model, const QString& instructions) {
-    // Some chat templates want somebody to speak.
-    return body(protocol, model, {.instructions = instructions, .prompt = u"Hello"_s}, 1);
+QByteArray prewarming(ModelProtocol protocol, const QString& model, Question question) {
+    question.prompt = u"Hello"_s; // some chat templates want somebody to speak
+    return body(protocol, model, question, 1);
 }
 
 } // namespace fendrel::ModelServerRequest

@@ -19,7 +19,7 @@ QByteArray path(ModelProtocol protocol);
 QByteArray question(ModelProtocol protocol, const QString& model, const Question& question);
 
 /// Has the server read the beginning of every question with these instructions, for which it keeps the work done.
-QByteArray prewarming(ModelProtocol protocol, const QString& model, const QString& instructions);
+QByteArray prewarming(ModelProtocol protocol, const QString& model, Question question);
 
 } // namespace ModelServerRequest
 

@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr qsizetype mostProcesses = 500;
-}
+constexpr auto retryDelay = std::chrono::seconds(5);
+} // namespace
 
 NotificationRecorder::NotificationRecorder(const QString& folder, std::shared_ptr<const ApplicationCatalog> catalog,
                                            Clock& clock)
@@ -24,10 +25,10 @@ NotificationRecorder::NotificationRecorder(const QString& folder, std::shared_pt
       m_worker(u"notifications"_s) {
     m_monitor.onMessage = [this](const NotificationMessage& message) { heard(message); };
     m_monitor.onUnavailable = [this] { onChanged(); };
-    m_worker.post({}, [this] {
-        const QString problem = m_store.open();
+    m_worker.post({}, [this, now = m_clock.now()] {
+        const QString problem = m_store.open(now);
         QMetaObject::invokeMethod(
-            this, [this, problem] { written(problem); }, Qt::QueuedConnection);
+            this, [this, problem] { written(problem, {}); }, Qt::QueuedConnection);
     });
 }
 
@@ -106,16 +107,23 @@ void NotificationRecorder::write() {
     m_worker.post({}, [this, records = std::exchange(m_unwritten, {})] {
         const QString problem = m_store.write(records);
         QMetaObject::invokeMethod(
-            this, [this, problem] { written(problem); }, Qt::QueuedConnection);
+            this, [this, problem, records] { written(problem, records); }, Qt::QueuedConnection);
     });
 }
 
-void NotificationRecorder::written(const QString& problem) {
+void NotificationRecorder::written(const QString& problem, const QList<NotificationRecord>& records) {
     m_isWriting = false;
     if (problem != m_storeProblem && !problem.isEmpty())
         qCWarning(logDesktop).noquote() << "Couldn't keep notifications:" << problem;
     m_storeProblem = problem;
-    write(); // what came meanwhile
+    if (problem.isEmpty()) {
+        write(); // what came meanwhile
+    } else {
+        m_unwritten = records + m_unwritten;
+        if (m_unwritten.size() > NotificationStore::mostRecords)
+            m_unwritten.remove(0, m_unwritten.size() - NotificationStore::mostRecords);
+        m_retry = m_clock.after(retryDelay, [this] { write(); });
+    }
     onChanged();
 }
 

@@ -35,7 +35,7 @@ private:
     void learned(const QString& sender, const ProcessFacts& process);
     void name();
     void write();
-    void written(const QString& problem);
+    void written(const QString& problem, const QList<NotificationRecord>& records);
 
     Clock& m_clock;
     NotificationSenders m_senders;
@@ -46,6 +46,7 @@ private:
     QList<NotificationRecord> m_unwritten;
     bool m_isWriting = true; ///< or opening
     QString m_storeProblem;
+    Handle m_retry;
     NotificationMonitor m_monitor;
     NotificationStore m_store; ///< the worker's alone
     Worker m_worker;

@@ -3,6 +3,7 @@
 #include "Base/JsonFile.h"
 #include "Base/Log.h"
 #include "Base/PropertyList.h"
+#include "Base/Seconds.h"
 #include "Base/Sqlite.h"
 
 #include <QDir>
@@ -19,13 +20,11 @@ using sqlite::Statement;
 
 namespace {
 
-constexpr qint64 mostRecords = 2000;
 constexpr auto longestKept = std::chrono::days(7);
 
 /// Seconds since 2001-01-01 00:00 UTC.
 double storedDate(WallTime time) {
-    using namespace std::chrono;
-    return duration<double>(time - sys_days(2001y / January / 1)).count();
+    return Seconds(time - referenceDate).count();
 }
 
 QByteArray contentOf(const NotificationRecord& record) {
@@ -60,7 +59,7 @@ NotificationStore::NotificationStore(const QString& folder)
 
 NotificationStore::~NotificationStore() = default;
 
-QString NotificationStore::open() {
+QString NotificationStore::open(WallTime now) {
     QDir().mkpath(m_folder);
     QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_ids.clear();
@@ -69,7 +68,7 @@ QString NotificationStore::open() {
         if (!opened)
             return opened.error().text;
         m_database = *std::move(opened);
-        if (arrange())
+        if (arrange(now))
             break;
         const sqlite::Error error = m_database->lastError();
         m_database.reset();
@@ -80,9 +79,9 @@ QString NotificationStore::open() {
     return {};
 }
 
-bool NotificationStore::arrange() {
+bool NotificationStore::arrange(WallTime now) {
     // In WAL mode readers never keep the writer waiting, and a commit does not wait for the disk.
-    return m_database->run(uR"(
+    const bool isThere = m_database->run(uR"(
         PRAGMA journal_mode = WAL;
         PRAGMA synchronous = NORMAL;
         CREATE TABLE IF NOT EXISTS app (app_id INTEGER PRIMARY KEY, identifier TEXT UNIQUE);
@@ -90,19 +89,27 @@ bool NotificationStore::arrange() {
             data BLOB, request_date REAL, delivered_date REAL);
         CREATE INDEX IF NOT EXISTS record_date ON record (delivered_date);
         DELETE FROM app WHERE app_id NOT IN (SELECT app_id FROM record);)"_s);
+    // A log that is made anew does not begin with the numbers of the one before: messages of it may still be held.
+    return isThere &&
+           run(*m_database, uR"(
+               INSERT INTO sqlite_sequence (name, seq) SELECT 'record', ?
+                   WHERE NOT EXISTS (SELECT 1 FROM sqlite_sequence WHERE name = 'record'))"_s,
+               qint64{now.time_since_epoch().count()}) &&
+           prune(now);
 }
 
 QString NotificationStore::write(const QList<NotificationRecord>& records) {
     // Somebody may have emptied the folder; SQLite would go on writing into a file without a name.
+    const WallTime now = records.last().date;
     if (!m_database || !QFile::exists(m_path)) {
         m_database.reset();
-        if (const QString wrong = open(); !wrong.isEmpty())
+        if (const QString wrong = open(now); !wrong.isEmpty())
             return wrong;
     }
     auto error = put(records);
     if (error && error->isDamage()) {
         startAnew();
-        if (const QString wrong = open(); !wrong.isEmpty())
+        if (const QString wrong = open(now); !wrong.isEmpty())
             return wrong;
         error = put(records);
     }
@@ -111,6 +118,8 @@ QString NotificationStore::write(const QList<NotificationRecord>& records) {
 
 std::optional<sqlite::Error> NotificationStore::put(const QList<NotificationRecord>& records) {
     sqlite::Transaction transaction(*m_database);
+    if (!transaction.isOpen())
+        return m_database->lastError();
     QHash<qint64, qint64> written;
     for (const NotificationRecord& record : records) {
         const auto id = put(record, written.value(record.number, m_ids.value(record.number)));

@@ -29,18 +29,20 @@ struct NotificationRecord {
 /// begun. Blocks on the disk; one thread at a time.
 class NotificationStore {
 public:
+    static constexpr qint64 mostRecords = 2000;
+
     explicit NotificationStore(const QString& folder);
     ~NotificationStore();
 
     const QString& path() const { return m_path; }
 
-    /// Makes what is missing. Returns what went wrong; empty when nothing did.
-    QString open();
-    /// All of them in one step. Returns what went wrong.
+    /// Makes what is missing, and forgets what is too old. Returns what went wrong; empty when nothing did.
+    QString open(WallTime now);
+    /// All of them in one step, or none. Returns what went wrong.
     QString write(const QList<NotificationRecord>& records);
 
 private:
-    bool arrange();
+    bool arrange(WallTime now);
     std::optional<sqlite::Error> put(const QList<NotificationRecord>& records);
     std::optional<qint64> put(const NotificationRecord& record, qint64 id);
     bool prune(WallTime now);

@@ -30,6 +30,11 @@ void awaitToolkit() {
         xcb_get_input_focus_reply(toolkit, xcb_get_input_focus(toolkit), nullptr));
 }
 
+/// Whether the window manager has to do with such windows.
+bool isManaged(Panels::Kind kind) {
+    return kind == Panels::Kind::dock || kind == Panels::Kind::gate;
+}
+
 } // namespace
 
 X11Panels::X11Panels(std::shared_ptr<X11Windows> windows, std::shared_ptr<X11Monitors> monitors,
@@ -129,6 +134,8 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
         const auto& atoms = m_connection->atoms();
         const std::array<xcb_atom_t, 5> ours{atoms.netWmWindowType, atoms.netWmState, atoms.netWmDesktop,
                                              atoms.wmProtocols, XCB_ATOM_WM_HINTS};
+        if (change.window == m_connection->root() && change.atom == atoms.netClientListStacking)
+            stackCards();
         const auto panel = m_panels.constFind(change.window);
         if (panel != m_panels.constEnd() && std::ranges::find(ours, change.atom) != ours.end())
             setUp(change.window, *panel);
@@ -145,8 +152,10 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
 void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
     const auto& atoms = m_connection->atoms();
     panel.isMapped = true;
-    if (panel.kind == Kind::menu)
-        return; // the window manager has nothing to do with it
+    if (panel.kind == Kind::card)
+        stackCards();
+    if (!isManaged(panel.kind))
+        return;
     m_requests.addStates(window, atoms.netWmStateAbove, XCB_ATOM_NONE);
     m_requests.addStates(window, atoms.netWmStateSkipTaskbar, atoms.netWmStateSkipPager);
     if (panel.kind == Kind::dock) {
@@ -157,10 +166,40 @@ void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
         bringToFront(window);
 }
 
+/// Above the highest window that the window manager stacks, docks left out, and no higher: what covers everything for a
+/// reason of its own, as a locked screen does, covers messages too.
+void X11Panels::stackCards() {
+    const auto isCard = [](const Panel& panel) { return panel.kind == Kind::card && panel.isMapped; };
+    if (std::ranges::none_of(m_panels, isCard))
+        return;
+    auto stack = m_connection->property(m_connection->root(), m_connection->atoms().netClientListStacking).numbers();
+    std::erase_if(stack, [this](xcb_window_t id) {
+        const X11Window* window = m_windows->find(id);
+        return window == nullptr || window->role == X11Window::Role::dock;
+    });
+    if (stack.isEmpty())
+        return;
+    const std::array<std::uint32_t, 2> place{frameOf(stack.last()), XCB_STACK_MODE_ABOVE};
+    for (auto panel = m_panels.cbegin(); panel != m_panels.cend(); ++panel) {
+        if (isCard(*panel))
+            xcb_configure_window(m_connection->xcb(), panel.key(),
+                                 XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, place.data());
+    }
+    m_connection->flush();
+}
+
+/// The window's ancestor among those that are stacked on the screen.
+xcb_window_t X11Panels::frameOf(xcb_window_t window) const {
+    const auto tree = m_connection->reply<xcb_query_tree_reply>(xcb_query_tree(m_connection->xcb(), window));
+    const bool isTop = !tree || tree->parent == m_connection->root() || tree->parent == XCB_WINDOW_NONE;
+    return isTop ? window : frameOf(tree->parent);
+}
+
 xcb_atom_t X11Panels::typeOf(Kind kind) const {
     const auto& atoms = m_connection->atoms();
     switch (kind) {
     case Kind::dock:
+    case Kind::card: // compositors draw no shadow around these
         return atoms.netWmWindowTypeDock;
     case Kind::menu:
         return atoms.netWmWindowTypePopupMenu;
@@ -178,7 +217,7 @@ void X11Panels::setUp(xcb_window_t window, const Panel& panel) {
     if (panel.kind == Kind::dock)
         refuseFocus(window);
     // Once a window is mapped, its state is the window manager's to write.
-    if (panel.kind != Kind::menu && !panel.isMapped)
+    if (isManaged(panel.kind) && !panel.isMapped)
         setUpStates(window, panel.kind);
     m_connection->flush();
 }

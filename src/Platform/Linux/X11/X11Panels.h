@@ -41,6 +41,8 @@ private:
     void refuseFocus(xcb_window_t window);
     void handleMapped(xcb_window_t window, Panel& panel);
     void bringToFront(xcb_window_t window);
+    void stackCards();
+    xcb_window_t frameOf(xcb_window_t window) const;
 
     std::shared_ptr<X11Windows> m_windows;
     std::shared_ptr<X11Monitors> m_monitors;
