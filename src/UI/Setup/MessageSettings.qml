@@ -56,7 +56,7 @@ Column {
         SettingRow {
             colors: page.colors
             label: qsTr("Quiet the desktop's banners")
-            help: qsTr("While messages are held, the desktop shows none of them itself.")
+            help: qsTr("While messages are held, the desktop shows none at all, those of the current mode neither.")
             Toggle { colors: page.colors; name: qsTr("Quiet the desktop's banners"); isOn: page.preferences.quietBanners; onToggled: on => page.preferences.quietBanners = on }
         }
         SettingRow {
