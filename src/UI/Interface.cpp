@@ -73,11 +73,6 @@ Interface::Interface(AppController& controller)
         return dock == m_docks.end() ? QRect() : dock->second->touchable();
     };
     m_cards = std::make_unique<CardsPanel>(m_engine, controller, m_dock, m_messages);
-    // What the dock says of its items lies over everything.
-    QObject::connect(m_cards.get(), &CardsPanel::shown, &m_settings, [this] {
-        for (const auto& [display, dock] : m_docks)
-            dock->raise();
-    });
     showTray();
 }
 

@@ -7,7 +7,7 @@ import sys
 import urllib.request
 
 import harness
-from windows import EAR, SECONDS, Lines, numbers, press, titled, wait_active, wait_window
+from windows import EAR, SECONDS, Lines, press, prop, stacking, wait_active
 
 CARDS = "Fendrel messages"
 MODEL = pathlib.Path(__file__).with_name("model_server.py")
@@ -80,15 +80,43 @@ class Messages(harness.DesktopTest):
         fendrel.gate_is_on(self.chat)
         self.notify("Ben", "This is urgent.")
         fendrel.expect("an alert", lambda state: state["messages"]["alert"])
-        self.assertIsNone(titled(numbers("_NET_CLIENT_LIST"), CARDS))
+        self.assertFalse(stacking(CARDS))
         press("Escape")
         fendrel.gate_is_closed()
-        wait_window(CARDS)
+        EAR.expect("the card", lambda: stacking(CARDS))
         wait_active("Editor")  # which keeps the keyboard until the card is asked for
+        fendrel.front_is(self.editor)
         fendrel.do("dock", "focus")
         press("Return")
         fendrel.expect("the way to social", lambda state: state["pending"] and state["pending"]["id"] == "social")
-        EAR.expect("no card", lambda: not titled(numbers("_NET_CLIENT_LIST"), CARDS))
+        EAR.expect("no card", lambda: not stacking(CARDS))
+
+    def test_the_alert_is_seen_over_a_full_screen_window(self):
+        self.open(self.editor)
+        window = wait_active("Editor")
+        subprocess.run(["wmctrl", "-r", "Editor", "-b", "add,fullscreen"], check=True)
+        EAR.expect("full screen", lambda: "FULLSCREEN" in prop("_NET_WM_STATE", window), window)
+        self.notify("Ben", "This is urgent.")
+        EAR.expect("the card above it", lambda: stacking(CARDS, "Editor") == [CARDS, "Editor"])
+        self.open(self.chat)
+        wait_active("Chat")
+        EAR.expect("the card above the next one", lambda: stacking(CARDS, "Chat") == [CARDS, "Chat"])
+
+    def test_what_is_held_is_read_and_opened_from_the_keyboard(self):
+        fendrel = self.fendrel
+        self.open(self.chat)
+        fendrel.front_is(self.open(self.editor))
+        for title in ("Anna", "Ben"):
+            self.notify(title)
+        self.held_are(social=2)
+        fendrel.do("dock", "focus")
+        press("Right", "Right", "Menu")
+        fendrel.do("status")  # answered once the menu has the keyboard
+        press("End", "Up", "Return")
+        EAR.expect("the list", lambda: stacking(CARDS))
+        fendrel.do("status")  # and now the list has it
+        press("End", "Return")
+        fendrel.front_is(self.chat)
 
     def test_what_the_model_knows(self):
         fendrel = self.fendrel

@@ -42,7 +42,7 @@ class Lines:
 
 
 class Ear:
-    """Hears every change of a property, on a connection of its own; what has changed is then asked for."""
+    """Hears changes of properties and of the stack of windows, on a connection of its own; what is new is asked for."""
 
     def __init__(self):
         self.x11 = ctypes.CDLL("libX11.so.6")
@@ -53,7 +53,8 @@ class Ear:
     def expect(self, what, find, window=None):
         """What is found, once it is there: on the root window, or on the one that is given."""
         window = window or self.x11.XDefaultRootWindow(self.display)
-        self.x11.XSelectInput(self.display, ctypes.c_ulong(window), ctypes.c_long(1 << 22))  # PropertyChangeMask
+        masks = 1 << 22 | 1 << 19  # PropertyChangeMask, SubstructureNotifyMask
+        self.x11.XSelectInput(self.display, ctypes.c_ulong(window), ctypes.c_long(masks))
         self.x11.XSync(self.display, 0)
         deadline = time.monotonic() + SECONDS
         while True:
@@ -103,3 +104,12 @@ def geometry(window):
         return None
     return tuple(int(re.search(rf"{name}: +(-?\d+)", text)[1])
                  for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+
+def stacking(*titles):
+    """The titles of those windows that are seen, the highest first."""
+    def told(*where):
+        return subprocess.run(["xwininfo", *where], capture_output=True, text=True).stdout
+    tree = told("-root", "-tree")
+    return sorted((title for title in titles if "IsViewable" in told("-name", title)),
+                  key=lambda title: tree.index(f'"{title}"'))

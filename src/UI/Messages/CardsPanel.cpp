@@ -26,14 +26,15 @@ CardsPanel::CardsPanel(QQmlEngine& engine, AppController& controller, DockContro
       m_dock(dock),
       m_messages(messages),
       m_keyboard(*this, controller.titles()) {
-    setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
+    // An alert is to be seen over a full-screen window too, and no window manager puts a panel there.
+    setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::X11BypassWindowManagerHint);
     setColor(Qt::transparent);
     setTitle(tr("Fendrel messages"));
     setResizeMode(SizeRootObjectToView);
     setInitialProperties({{u"panel"_s, QVariant::fromValue(this)},
                           {u"dock"_s, QVariant::fromValue(&dock)},
                           {u"messages"_s, QVariant::fromValue(&messages)}});
-    controller.platform().panels->prepare(winId(), Panels::Kind::dock);
+    controller.platform().panels->prepare(winId(), Panels::Kind::card);
     setSource(QUrl(u"qrc:/qml/Fendrel/Messages/CardsView.qml"_s));
     connect(&m_keyboard, &BorrowedKeyboard::changed, this, &CardsPanel::keyboardChanged);
     connect(&messages, &MessagesController::changed, this, &CardsPanel::update);
@@ -60,26 +61,7 @@ void CardsPanel::place(const Display& display, const QRect& bar) {
         window.setWidth(windowWidth);
         break;
     }
-    m_frame = window;
-    m_correctionsLeft = 3;
     setGeometry(window);
-}
-
-/// A place that was asked for while the one before was still on its way to the window system is lost. It insists, but
-/// not for ever.
-void CardsPanel::insist() {
-    if (geometry() != m_frame && m_correctionsLeft-- > 0)
-        setGeometry(m_frame);
-}
-
-void CardsPanel::moveEvent(QMoveEvent* event) {
-    QQuickView::moveEvent(event);
-    insist();
-}
-
-void CardsPanel::resizeEvent(QResizeEvent* event) {
-    QQuickView::resizeEvent(event);
-    insist();
 }
 
 bool CardsPanel::isTransparent() const {
@@ -99,7 +81,6 @@ void CardsPanel::update() {
         m_input = QRegion();
         show();
         updateRegions();
-        Q_EMIT shown();
     }
 }
 

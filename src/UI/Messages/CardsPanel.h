@@ -49,14 +49,8 @@ Q_SIGNALS:
     void keyboardChanged();
     void keyboardTaken(bool isForList);
     void areasChanged();
-    void shown();
-
-protected:
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void insist();
     void update();
     void updateRegions();
 
@@ -64,8 +58,6 @@ private:
     DockController& m_dock;
     MessagesController& m_messages;
     BorrowedKeyboard m_keyboard;
-    QRect m_frame; ///< where the window is to be
-    int m_correctionsLeft = 0;
     QRectF m_alertArea;
     QRectF m_listArea;
     QRegion m_input; ///< what the window system was told last

@@ -79,6 +79,15 @@ Card {
         highlightMoveDuration: Theme.quick
         cacheBuffer: 200
         model: card.messages.list
+        Keys.onPressed: event => {
+            const page = Math.max(1, Math.floor(height * count / contentHeight) - 1)
+            const steps = new Map([[Qt.Key_Home, -count], [Qt.Key_End, count], [Qt.Key_PageUp, -page], [Qt.Key_PageDown, page]])
+            if (!steps.has(event.key))
+                return
+            currentIndex = Math.max(0, Math.min(count - 1, currentIndex + steps.get(event.key)))
+            event.accepted = true
+        }
+
         Accessible.role: Accessible.List
         Accessible.name: card.messages.listTitle
 

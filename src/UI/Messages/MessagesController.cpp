@@ -11,6 +11,11 @@ namespace fendrel {
 MessagesController::MessagesController(AppController& controller, AppIcons& icons)
     : m_controller(controller), m_icons(icons) {
     connect(&controller.messages(), &HeldMessages::changed, this, &MessagesController::update);
+    connect(&controller.engine(), &ModeEngine::changed, this, &MessagesController::updateWait);
+    connect(&controller.focus(), &FocusSession::changed, this, &MessagesController::updateWait);
+    connect(&controller.preferences(), &Preferences::changed, this, &MessagesController::updateWait);
+    connect(&controller.gate(), &Gate::changed, this,
+            [this] { m_controller.messages().setHidden(m_controller.gate().blocked().has_value()); });
 }
 
 bool MessagesController::hasAlert() const {
@@ -81,7 +86,23 @@ void MessagesController::takeAlert() {
         return;
     m_alert = row(alert->message, alert->why);
     m_alertMode = alert->mode;
-    m_alertWait = alert->wait > Seconds{} ? tr("%1 wait").arg(remainingText(alert->wait)) : tr("at once");
+    m_alertWait = waitText(alert->mode);
+}
+
+/// What going there costs now, which need not be what it was when the message came.
+QString MessagesController::waitText(const Mode& mode) const {
+    const ModeEngine& engine = m_controller.engine();
+    const Mode* freshest = engine.mode(mode.id);
+    const Seconds wait = engine.entryDelay(freshest ? *freshest : mode);
+    return wait > Seconds{} ? tr("%1 wait").arg(remainingText(wait)) : tr("at once");
+}
+
+void MessagesController::updateWait() {
+    const auto& alert = m_controller.messages().alert();
+    if (!alert || waitText(alert->mode) == m_alertWait)
+        return;
+    takeAlert();
+    Q_EMIT changed();
 }
 
 /// What is held for the mode that the user looks at, newest first.

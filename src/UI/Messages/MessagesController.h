@@ -76,7 +76,9 @@ Q_SIGNALS:
 
 private:
     void update();
+    void updateWait();
     void takeAlert();
+    QString waitText(const Mode& mode) const;
     std::optional<MessageDigest> heldList() const;
     void takeList();
     MessagesModel::Row row(const HeldMessage& message, const std::optional<QString>& why) const;

@@ -173,9 +173,9 @@ void X11Panels::stackCards() {
     if (std::ranges::none_of(m_panels, isCard))
         return;
     auto stack = m_connection->property(m_connection->root(), m_connection->atoms().netClientListStacking).numbers();
-    std::erase_if(stack, [this](xcb_window_t id) {
+    stack.removeIf([this](xcb_window_t id) {
         const X11Window* window = m_windows->find(id);
-        return window == nullptr || window->role == X11Window::Role::dock;
+        return window != nullptr && window->role == X11Window::Role::dock;
     });
     if (stack.isEmpty())
         return;
