@@ -3,8 +3,6 @@
 #include "App/AppController.h"
 #include "Modes/EntryDelay.h"
 
-#include <QStringList>
-
 namespace fendrel {
 
 void AppController::wire() {

@@ -81,7 +81,7 @@ void HeldMessages::setCanRead(bool canRead) {
 }
 
 void HeldMessages::received(const std::optional<Rows>& rows) {
-    setCanRead(rows.has_value());
+    setCanRead(rows && m_log.unavailableReason().isEmpty()); // which may have changed during the read
     const auto mode = current();
     if (!rows || rows->isEmpty() || isQuiet() || !mode)
         return;

@@ -12,7 +12,6 @@
 #include <QSet>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>

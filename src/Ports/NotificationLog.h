@@ -18,8 +18,6 @@ public:
     virtual QString databasePath() const = 0; ///< the file need not exist; empty where there is no log
     /// Why nothing is recorded, or may be read; for the user, and empty while all is well.
     virtual QString unavailableReason() const = 0;
-    /// Where the user can change that; nothing happens on a system without such a place.
-    virtual void openSettings() {}
 
     /// Something was recorded a moment ago, or `unavailableReason` changed. A system that cannot tell never calls it.
     std::function<void()> onChanged = [] {};
