@@ -39,15 +39,16 @@ function(fendrel_library name)
     target_precompile_headers(${name} REUSE_FROM fendrel_headers)
 endfunction()
 
-# fendrel_test(<name> [LINKS <targets>]): one test program from <name>.cpp, run without a display.
+# fendrel_test(<name> [LINKS <targets>] [COMMAND <what runs it>]): one test program from <name>.cpp, run without a
+# display.
 function(fendrel_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;COMMAND")
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE fendrel_rules Qt6::Test ${arg_LINKS})
     target_precompile_headers(${name} REUSE_FROM fendrel_headers)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_compile_definitions(${name} PRIVATE TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND ${arg_COMMAND} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 120
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=Europe/Berlin;LC_ALL=C.UTF-8;${FENDREL_SANITIZER_OPTIONS}")

@@ -13,8 +13,9 @@
 #include <QDeadlineTimer>
 #include <QFont>
 #include <QGuiApplication>
-#include <QIcon>
+#include <QLocale>
 #include <QThread>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -30,6 +31,15 @@ struct Options {
     QString settingsPane;
     bool uninstalls = false;
 };
+
+/// In the user's language; where there is no translation, in English, whose own one holds singulars and plurals.
+void translateTexts(QGuiApplication& application) {
+    for (const QLocale& language : {QLocale(QLocale::English), QLocale()}) {
+        auto* texts = new QTranslator(&application);
+        if (texts->load(language, u"fendrel"_s, u"_"_s, u":/translations"_s))
+            QGuiApplication::installTranslator(texts);
+    }
+}
 
 int fail(const QString& message) {
     std::fprintf(stderr, "fendrel: %s\n", qUtf8Printable(message));
@@ -96,6 +106,7 @@ int main(int argc, char* argv[]) {
 
     QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    translateTexts(application);
     const Options options = readOptions(QGuiApplication::arguments());
 
     const Folders folders = standardFolders();
@@ -107,7 +118,6 @@ int main(int argc, char* argv[]) {
 
     const CrashReporter crashes(folders.crashes);
     QGuiApplication::setFont(QFont(u"Inter"_s));
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.fendrel.Fendrel"_s, QIcon(u":/icons/fendrel.svg"_s)));
 
     Platform platform = makePlatform();
     AppController controller(platform);

@@ -1,8 +1,10 @@
 #include "App/AppController.h"
 
+#include "Base/Log.h"
 #include "Focus/HostManifests.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace fendrel {
 
@@ -15,6 +17,8 @@ const QString onboardingDoneKey = u"onboardingDone"_s;
 
 AppController::AppController(Platform& platform)
     : m_platform(platform),
+      m_replacement(*platform.systemDock, *platform.pointerGuard, *platform.displays, *platform.settings,
+                    *platform.clock),
       m_store(platform.folders.data, *platform.disk),
       m_engine(m_store, *platform.settings, *platform.clock, ModeCatalog::with(platform.applications->nativeApps()),
                [&platform](const QString& bundleID) { return platform.applications->location(bundleID).has_value(); }),
@@ -25,6 +29,9 @@ AppController::AppController(Platform& platform)
       m_titles(*platform.accessibility),
       m_bridge(*platform.applications, platform.isPeerOwnUser),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
+      m_minimized(m_workspace),
+      m_undo(*platform.clock),
+      m_edits(m_engine, m_undo, [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
       m_classifier(m_engine, *platform.languageModel, *platform.clock,
                    VerdictCache(platform.folders.data, *platform.disk),
                    [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
@@ -37,6 +44,7 @@ AppController::AppController(Platform& platform)
 
 void AppController::launch(const QString& settingsPane) {
     wire();
+    m_replacement.settle();
     if (m_store.problem()) {
         onAlert({.message = tr("Fendrel couldn't read your modes"),
                  .informativeText = *m_store.problem(),
@@ -53,9 +61,24 @@ void AppController::start() {
     if (!isOnboardingDone())
         onShowOnboarding();
     layoutDocks();
+    m_minimized.setOn(m_replacement.isOn());
     installHostManifests();
     m_bridge.listen(m_platform.folders.data);
+    registerHotKeys();
     m_router.appDidActivate(m_platform.applications->frontmost());
+}
+
+void AppController::registerHotKeys() {
+    if (std::exchange(m_dockShortcut, m_preferences.dockShortcut()) == m_preferences.dockShortcut())
+        return;
+    m_dockHotKey.reset();
+    if (!m_dockShortcut)
+        return;
+    auto taken = m_platform.hotKeys->grab(m_dockShortcut->modifiers, m_dockShortcut->key, [this] { focusDock(); });
+    if (taken)
+        m_dockHotKey = *std::move(taken);
+    else
+        qCInfo(logDesktop).noquote() << "The hot key" << m_dockShortcut->label() << "is another program's";
 }
 
 void AppController::installHostManifests() {
@@ -63,6 +86,38 @@ void AppController::installHostManifests() {
                           [browsers = m_platform.browsers, relay = m_platform.relay, failed = m_failedManifests] {
                               hostManifests::install(browsers, relay, *failed);
                           });
+}
+
+void AppController::quit() {
+    if (std::exchange(m_isQuitting, true))
+        return;
+    m_replacement.stop([this] { onQuit(); });
+}
+
+void AppController::askToReplaceDock(bool on) {
+    const QString name = m_replacement.dockName();
+    if (!on || name.isEmpty() || on == m_replacement.isOn()) {
+        setReplacesDock(on);
+        return;
+    }
+    const QString first = name.left(1).toUpper() + name.mid(1);
+    onAlert({.message = tr("Replace %1?").arg(name),
+             .informativeText = tr("Fendrel hides %1 and takes its place at the bottom of the screen.\n\nYour Dock "
+                                   "settings are saved. %2 comes back when you turn this off or quit Fendrel.")
+                                    .arg(name, first),
+             .buttons = {tr("Replace Dock"), tr("Cancel")},
+             .answered = [this](int button) {
+                 if (button == 0)
+                     setReplacesDock(true);
+             }});
+}
+
+void AppController::setReplacesDock(bool on) {
+    m_replacement.set(on);
+    if (on && !m_platform.accessibility->isTrusted())
+        m_platform.accessibility->requestPermission();
+    m_minimized.setOn(on);
+    layoutDocks(); // they lie at the edge of the screen itself, or beside the system's own
 }
 
 const QStringList& AppController::settingsPanes() {
@@ -120,11 +175,12 @@ QList<Display> AppController::dockScreens() const {
 void AppController::layoutDocks() {
     const ContinuousTime now = m_platform.clock->continuousNow();
     const QList<Display> displays = dockScreens();
-    std::erase_if(m_autoHide, [&](const auto& entry) {
-        return std::ranges::find(displays, entry.first, &Display::id) == displays.end();
-    });
-    for (const Display& display : displays)
-        m_autoHide[display.id].setEnabled(m_preferences.autoHide(), now);
+    moveToDisplays(m_autoHide, displays);
+    for (const Display& display : displays) {
+        AutoHide& dock = m_autoHide[display.id];
+        dock.setEnabled(m_preferences.autoHide(), now);
+        dock.setCovered(display.isFullScreen);
+    }
     scheduleDockTimer();
     onLayoutDocks();
     Q_EMIT dockVisibilityChanged();

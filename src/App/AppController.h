@@ -7,7 +7,11 @@
 #include "App/TidyUp.h"
 #include "App/Workspace.h"
 #include "Dock/AutoHide.h"
+#include "Dock/DockEdits.h"
 #include "Dock/DockPlacement.h"
+#include "Dock/DockReplacement.h"
+#include "Dock/DockUndo.h"
+#include "Dock/MinimizedWindows.h"
 #include "Focus/BrowserBridge.h"
 #include "Focus/BrowserStates.h"
 #include "Focus/Classifier.h"
@@ -47,7 +51,7 @@ public:
 
     /// Everything that happens once, after the hooks are set. A known pane opens the settings there.
     void launch(const QString& settingsPane = {});
-    void quit() { onQuit(); }
+    void quit(); ///< gives the system's dock back first
 
     static const QStringList& settingsPanes();
     void showSettings(const QString& pane); ///< an unknown pane opens nothing
@@ -66,9 +70,13 @@ public:
     void dockHoldChanged(const QString& displayID, bool isHeld); ///< a menu of the dock opened or closed
     void updateAutoHide();
     void focusDock() { onFocusDock(); }
-    bool isDockTimerRunning() const { return m_dockTimer.has_value(); }
+    /// Replaces the system's dock, after the user agreed to it, or gives it back at once.
+    void askToReplaceDock(bool on);
+    void setReplacesDock(bool on);
 
     Platform& platform() { return m_platform; }
+    DockReplacement& replacement() { return m_replacement; }
+    const DockReplacement& replacement() const { return m_replacement; }
     ModeEngine& engine() { return m_engine; }
     const ModeEngine& engine() const { return m_engine; }
     DriftBudget& budget() { return m_budget; }
@@ -81,14 +89,20 @@ public:
     Classifier& classifier() { return m_classifier; }
     Gate& gate() { return m_gate; }
     DriftHandling& drift() { return m_drift; }
+    MinimizedWindows& minimized() { return m_minimized; }
+    DockUndo& undo() { return m_undo; }
+    DockEdits& edits() { return m_edits; }
 
 Q_SIGNALS:
     void dockVisibilityChanged();
+    void windowsChanged(); ///< some window of another application came, went or changed its state
+    void badgesChanged();
     void onboardingChanged();
 
 private:
     void wire();
     void start();
+    void registerHotKeys();
     void installHostManifests();
     void layoutDocks();
     void scheduleDockTimer();
@@ -101,6 +115,7 @@ private:
     std::optional<Mode> spendingMode() const;
 
     Platform& m_platform;
+    DockReplacement m_replacement;
     ModeStore m_store;
     ModeEngine m_engine;
     DriftBudget m_budget;
@@ -110,6 +125,9 @@ private:
     WindowTitles m_titles;
     BrowserBridge m_bridge;
     Workspace m_workspace;
+    MinimizedWindows m_minimized;
+    DockUndo m_undo;
+    DockEdits m_edits;
     Classifier m_classifier;
     Gate m_gate;
     DriftHandling m_drift;
@@ -122,6 +140,9 @@ private:
     std::map<QString, AutoHide> m_autoHide;                                               ///< by display
     std::optional<QString> m_activeDisplay;
     std::optional<Handle> m_dockTimer;
+    std::optional<Shortcut> m_dockShortcut; ///< the one that is taken
+    Handle m_dockHotKey;
+    bool m_isQuitting = false;
 };
 
 } // namespace fendrel

@@ -34,11 +34,11 @@ void Feedback::offerCrashReport() {
     if (offered && report->date.toMSecsSinceEpoch() <= offered->toMSecsSinceEpoch())
         return;
     m_settings.set(offeredKey, report->date);
-    showAlert({.message = u"Fendrel quit unexpectedly last time"_s,
+    showAlert({.message = tr("Fendrel quit unexpectedly last time"),
                .informativeText =
-                   u"Send the crash report to help fix it? Your mail app opens with it attached, so you can read it "
-                   "first. It has no documents or keystrokes, only what Fendrel was doing."_s,
-               .buttons = {u"Send Report…"_s, u"Not Now"_s},
+                   tr("Send the crash report to help fix it? Your mail app opens with it attached, so you can read it "
+                      "first. It has no documents or keystrokes, only what Fendrel was doing."),
+               .buttons = {tr("Send Report…"), tr("Not Now")},
                .answered = [this, path = report->path](int button) {
                    if (button == 0)
                        send(path);

@@ -2,6 +2,7 @@
 
 #include "App/Alert.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 
 #include <functional>
@@ -14,6 +15,7 @@ class Shell;
 
 /// Offers to send the report of the last crash, each report once.
 class Feedback {
+    Q_DECLARE_TR_FUNCTIONS(fendrel::Feedback)
 public:
     Feedback(SettingsStore& settings, Shell& shell, QString crashFolder);
 

@@ -25,10 +25,10 @@ bool readOnByDefault(const SettingsStore& store, const QString& key) {
     return store.read<bool>(key).value_or(true);
 }
 
-std::optional<Shortcut> readShortcut(const SettingsStore& store, const QString& key) {
+std::optional<Shortcut> readShortcut(const SettingsStore& store, const QString& key, const Shortcut& fallback) {
     // A user who cleared the hot key keeps it off; only a key that was never written yields the default.
     if (!store.value(key))
-        return Shortcut{.keyCode = 3, .modifiers = modifier::option, .key = u"F"_s};
+        return fallback;
     return shortcutFromJson(store.read<QByteArray>(key).value_or(QByteArray()));
 }
 
@@ -52,7 +52,11 @@ Preferences::Preferences(SettingsStore& store, SystemLook& look)
       m_magnify{u"magnify"_s, readOnByDefault(store, u"magnify"_s)},
       m_focusGlow{u"focusGlow"_s, store.flag(u"focusGlow"_s)},
       m_sounds{u"sounds"_s, store.flag(u"sounds"_s)},
-      m_focusShortcut{u"focusShortcut"_s, readShortcut(store, u"focusShortcut"_s)},
+      m_focusShortcut{u"focusShortcut"_s, readShortcut(store, u"focusShortcut"_s,
+                                                     {.keyCode = 3, .modifiers = modifier::option, .key = u"F"_s})},
+      m_dockShortcut{u"dockShortcut"_s,
+                     readShortcut(store, u"dockShortcut"_s,
+                                  {.keyCode = 99, .modifiers = modifier::control, .key = u"F3"_s})},
       m_modeModifiers{u"modeModifiers"_s, readInteger(store, u"modeModifiers"_s, modifier::option)},
       m_appModifiers{u"appModifiers"_s, readInteger(store, u"appModifiers"_s, 0)},
       m_clickToHide{u"clickToHide"_s, store.flag(u"clickToHide"_s)},

@@ -56,6 +56,9 @@ public:
     void setSounds(bool on) { change(m_sounds, on); }
     const std::optional<Shortcut>& focusShortcut() const { return m_focusShortcut.value; }
     void setFocusShortcut(const std::optional<Shortcut>& shortcut) { change(m_focusShortcut, shortcut); }
+    /// The hot key that leads the keyboard to the dock.
+    const std::optional<Shortcut>& dockShortcut() const { return m_dockShortcut.value; }
+    void setDockShortcut(const std::optional<Shortcut>& shortcut) { change(m_dockShortcut, shortcut); }
     int modeModifiers() const { return m_modeModifiers.value; }
     void setModeModifiers(int modifiers) { change(m_modeModifiers, modifiers); }
     int appModifiers() const { return m_appModifiers.value; }
@@ -144,6 +147,7 @@ private:
     Setting<bool> m_focusGlow;
     Setting<bool> m_sounds;
     Setting<std::optional<Shortcut>> m_focusShortcut;
+    Setting<std::optional<Shortcut>> m_dockShortcut;
     Setting<int> m_modeModifiers;
     Setting<int> m_appModifiers;
     Setting<bool> m_clickToHide;

@@ -47,11 +47,22 @@ void AppController::wire() {
     };
     m_bridge.onGone = [this](BrowserID browser) { m_drift.sites().browserGone(browser); };
 
-    m_platform.displays->onChanged = [this] { layoutDocks(); };
+    m_platform.systemDock->onRunningChanged = [this] { m_replacement.settle(); };
+    m_platform.systemDock->onEdgesChanged = [this] { m_replacement.edgeGuard().updateEdges(); };
+    m_platform.accessibility->onWindowsChanged = [this] {
+        m_minimized.refresh();
+        Q_EMIT windowsChanged();
+    };
+    m_platform.badges->onChanged = [this](const QString&) { Q_EMIT badgesChanged(); };
+    m_platform.displays->onChanged = [this] {
+        m_replacement.edgeGuard().updateEdges();
+        layoutDocks();
+    };
     m_platform.displays->onSpaceChanged = [this] { updateAutoHide(); };
     connect(&m_preferences, &Preferences::changed, this, &AppController::layoutDocks);
     connect(&m_preferences, &Preferences::changed, this, &AppController::updateBanners);
     connect(&m_preferences, &Preferences::changed, this, &AppController::chooseModel);
+    connect(&m_preferences, &Preferences::changed, this, &AppController::registerHotKeys);
     connect(this, &AppController::onboardingChanged, this, &AppController::updateBanners);
     chooseModel();
 
@@ -78,6 +89,10 @@ AppController::~AppController() {
     m_platform.applications->onInstalledChanged = [] {};
     m_platform.applications->onRunningChanged = [] {};
     m_platform.applications->onActivated = [](const auto&) {};
+    m_platform.systemDock->onRunningChanged = [] {};
+    m_platform.systemDock->onEdgesChanged = [] {};
+    m_platform.accessibility->onWindowsChanged = [] {};
+    m_platform.badges->onChanged = [](const QString&) {};
     m_platform.displays->onChanged = [] {};
     m_platform.displays->onSpaceChanged = [] {};
     m_platform.accessibility->onTrustChanged = [] {};

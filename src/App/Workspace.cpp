@@ -50,6 +50,18 @@ AppIcon Workspace::icon(const QString& bundleID) const {
     return icon;
 }
 
+QList<AppAction> Workspace::actions(const QString& bundleID) const {
+    return m_applications.actions(bundleID);
+}
+
+std::optional<QString> Workspace::applicationAt(const QUrl& file) const {
+    return m_applications.applicationAt(file);
+}
+
+bool Workspace::wantsAttention(const QString& bundleID) const {
+    return std::ranges::any_of(instances(bundleID), &RunningApp::wantsAttention);
+}
+
 QString Workspace::displayName(const QString& bundleID) const {
     const auto& apps = installedApps();
     const auto installed = std::ranges::find(apps, bundleID, &InstalledApp::bundleID);
@@ -81,6 +93,18 @@ bool Workspace::hasVisibleWindow(const QString& bundleID) const {
 
 void Workspace::open(const QString& bundleID, bool activates) {
     m_applications.open(bundleID, activates);
+}
+
+void Workspace::openWindow(const QString& bundleID) {
+    m_applications.openWindow(bundleID);
+}
+
+void Workspace::openFiles(const QString& bundleID, const QList<QUrl>& files) {
+    m_applications.openFiles(bundleID, files);
+}
+
+void Workspace::runAction(const QString& bundleID, const QString& actionID) {
+    m_applications.runAction(bundleID, actionID);
 }
 
 void Workspace::hide(const QString& bundleID) {

@@ -27,6 +27,9 @@ public:
 
     std::optional<QString> url(const QString& bundleID) const; ///< path of its bundle or desktop entry
     AppIcon icon(const QString& bundleID) const;
+    QList<AppAction> actions(const QString& bundleID) const;
+    std::optional<QString> applicationAt(const QUrl& file) const;
+    bool wantsAttention(const QString& bundleID) const;
     QString displayName(const QString& bundleID) const; ///< the bundle identifier when nobody knows a name
 
     /// The running processes of an application, oldest first.
@@ -35,6 +38,9 @@ public:
     bool hasVisibleWindow(const QString& bundleID) const;
 
     void open(const QString& bundleID, bool activates = true);
+    void openWindow(const QString& bundleID); ///< one more
+    void openFiles(const QString& bundleID, const QList<QUrl>& files);
+    void runAction(const QString& bundleID, const QString& actionID);
     void hide(const QString& bundleID);
     void unhide(const QString& bundleID);
     void hideOthers(const QString& bundleID); ///< hides every other regular application

@@ -62,9 +62,11 @@ void Worker::post(const QString& key, std::function<void()> job) {
     {
         const std::lock_guard lock(m_state->mutex);
         auto& queue = m_state->queue;
-        if (!key.isEmpty())
-            std::erase_if(queue, [&](const State::Job& waiting) { return waiting.key == key; });
-        queue.push_back({key, std::move(job)});
+        const auto waiting = key.isEmpty() ? queue.end() : std::ranges::find(queue, key, &State::Job::key);
+        if (waiting != queue.end())
+            waiting->run = std::move(job); // in its place: what was posted after it counts on its being done
+        else
+            queue.push_back({key, std::move(job)});
     }
     m_state->changed.notify_all();
 }

@@ -15,7 +15,7 @@ public:
     ~Worker(); ///< runs what is queued, then ends the thread
 
     /// Queues a job. A queued job of the same key that has not started is replaced: only the newest content of a file
-    /// is worth writing. An empty key replaces nothing.
+    /// is worth writing. The new one runs in its place. An empty key replaces nothing.
     void post(const QString& key, std::function<void()> job);
 
     /// Blocks until every job posted so far has run.

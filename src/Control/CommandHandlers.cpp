@@ -101,6 +101,14 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
              controller.focusDock();
              return done();
          }},
+        {u"dock replace"_s, [this](const Request& request) { return replaceDock(request.arguments[0]); }},
+        {u"undo"_s,
+         [&](const Request&) {
+             if (!controller.undo().offer())
+                 return Answer::failure(u"there is nothing to take back"_s);
+             controller.undo().runUndo();
+             return done();
+         }},
         {u"quit"_s,
          [&](const Request&) {
              controller.quit();
@@ -123,6 +131,13 @@ Answer CommandHandlers::run(const Request& request) {
     if (request.arguments.size() < least)
         return Answer::failure(u"usage: "_s + usage(*known));
     return (*handler)(request);
+}
+
+Answer CommandHandlers::replaceDock(const QString& wish) {
+    if (wish != "on"_L1 && wish != "off"_L1)
+        return Answer::failure(u"'%1' is neither on nor off"_s.arg(wish));
+    m_controller.setReplacesDock(wish == "on"_L1);
+    return done();
 }
 
 Answer CommandHandlers::modes() const {

@@ -32,6 +32,7 @@ private:
     Answer answerGate(const QString& answer);
     Answer answerAlert(const QString& answer);
     Answer correct(const QString& mode);
+    Answer replaceDock(const QString& wish);
     Answer withMode(const QString& id, const std::function<Answer(const QString& id)>& run);
     Answer getSetting(const QString& name) const;
     Answer setSetting(const QString& name, const QString& text);

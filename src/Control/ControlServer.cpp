@@ -31,6 +31,8 @@ ControlServer::ControlServer(AppController& controller, const QString& dataFolde
     connect(&controller.gate(), &Gate::changed, this, &ControlServer::scheduleReport);
     connect(&controller.messages(), &HeldMessages::changed, this, &ControlServer::scheduleReport);
     connect(&controller.budget(), &DriftBudget::changed, this, &ControlServer::scheduleReport);
+    connect(&controller.replacement(), &DockReplacement::changed, this, &ControlServer::scheduleReport);
+    connect(&controller.undo(), &DockUndo::changed, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::dockVisibilityChanged, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::onboardingChanged, this, &ControlServer::scheduleReport);
 }

@@ -157,7 +157,12 @@ QJsonObject dock(AppController& controller) {
     QJsonArray displays;
     for (const Display& display : controller.dockScreens())
         displays.append(QJsonObject{{u"id"_s, display.id}, {u"shown"_s, controller.isDockShown(display.id)}});
-    return {{u"displays"_s, displays}};
+    const DockReplacement& replacement = controller.replacement();
+    const QString system = replacement.dockName();
+    return {{u"displays"_s, displays},
+            {u"replaced"_s, replacement.isOn()},
+            {u"system"_s, system.isEmpty() ? QJsonValue() : QJsonValue(system)},
+            {u"guarded"_s, replacement.edgeGuard().isWorking()}};
 }
 
 } // namespace
@@ -177,6 +182,7 @@ QJsonObject status(AppController& controller, StatusForm form) {
         {u"messages"_s, messagesObject(controller)},
         {u"model"_s, model(controller)},
         {u"dock"_s, dock(controller)},
+        {u"undo"_s, controller.undo().offer() ? QJsonValue(controller.undo().offer()->text) : QJsonValue()},
         {u"onboarding"_s, QJsonObject{{u"done"_s, controller.isOnboardingDone()}}},
     };
 }

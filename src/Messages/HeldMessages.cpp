@@ -41,7 +41,6 @@ HeldMessages::HeldMessages(NotificationLog& log, LanguageModel& model, Clock& cl
         refresh();
     };
     refresh();
-    m_timer = m_clock.every(readInterval, readTolerance, [this] { refresh(); });
 }
 
 HeldMessages::~HeldMessages() {
@@ -55,6 +54,7 @@ QString HeldMessages::unavailableReason() const {
 }
 
 void HeldMessages::refresh() {
+    scheduleReads();
     if (!m_log.unavailableReason().isEmpty()) {
         setCanRead(false);
         return;
@@ -75,6 +75,15 @@ void HeldMessages::refresh() {
     });
 }
 
+/// What says itself when there is something to read is left alone until then, unless the last read failed.
+void HeldMessages::scheduleReads() {
+    const bool hasFailed = !m_canRead && m_log.unavailableReason().isEmpty();
+    if (m_log.tellsChanges() && !hasFailed)
+        m_timer.reset();
+    else if (!m_timer)
+        m_timer = m_clock.every(readInterval, readTolerance, [this] { refresh(); });
+}
+
 void HeldMessages::setCanRead(bool canRead) {
     if (std::exchange(m_canRead, canRead) != canRead)
         Q_EMIT changed();
@@ -82,6 +91,7 @@ void HeldMessages::setCanRead(bool canRead) {
 
 void HeldMessages::received(const std::optional<Rows>& rows) {
     setCanRead(rows && m_log.unavailableReason().isEmpty()); // which may have changed during the read
+    scheduleReads();
     const auto mode = current();
     if (!rows || rows->isEmpty() || isQuiet() || !mode)
         return;

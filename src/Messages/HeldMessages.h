@@ -60,7 +60,7 @@ public:
     void dismissDigest();
     void open(const Message& message); ///< brings its application to the front
     void setHovered(bool isHovered);   ///< the pointer is over the digest's card
-    void setHidden(bool isHidden);      ///< no card is seen now, so that no time of a digest runs
+    void setHidden(bool isHidden);     ///< no card is seen now, so that no time of a digest runs
     /// The mode that the user is on the way to, or in: what `go` began and somebody took back is forgotten.
     void headingFor(const QString& modeID);
 
@@ -71,6 +71,7 @@ private:
     using Rows = QList<NotificationRow>;
 
     void received(const std::optional<Rows>& rows);
+    void scheduleReads();
     void hold(const NotificationRow& row, const Mode& work, const QList<Mode>& all, const BreakThrough& words);
     void setCanRead(bool canRead);
     void forget(qint64 id);
@@ -101,7 +102,7 @@ private:
     bool m_isJudging = false;
     Handle m_question;
     Handle m_digestHide;
-    Handle m_timer;
+    std::optional<Handle> m_timer; ///< while the log has to be looked at again and again
     /// What is opened once its mode is entered.
     struct Entry {
         QString modeID{};

@@ -21,6 +21,7 @@ struct WindowInfo {
     WindowID id{};
     QString title{};
     bool isMinimized{};
+    bool isHidden{}; ///< not minimised by itself: its application was hidden
     std::optional<QString> document{}; ///< address of the document it shows
     bool operator==(const WindowInfo&) const = default;
 };
@@ -41,6 +42,8 @@ public:
     std::function<void()> onTrustChanged = [] {};
 
     virtual QList<WindowInfo> windows(qint64 pid) const = 0;
+    /// Some window came, went, was minimised, restored or renamed. Once for what happens at the same time.
+    std::function<void()> onWindowsChanged = [] {};
     virtual std::optional<WindowID> focusedWindow(qint64 pid) const = 0;
     virtual std::optional<WindowID> mainWindow(qint64 pid) const = 0; ///< a visible one; nothing when all are minimised
     virtual std::optional<QString> title(WindowID window) const = 0;

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QSet>
 #include <QString>
+#include <QUrl>
 
 #include <functional>
 #include <optional>
@@ -23,6 +24,7 @@ struct RunningApp {
     QString name{};       ///< empty when the system knows none
     bool isRegular{};     ///< shows in a dock, as opposed to panels, desktops and background helpers
     qint64 launchOrder{}; ///< grows with the launch date; its unit is the adapter's own
+    bool wantsAttention{}; ///< one of its windows asks for the user
     bool operator==(const RunningApp&) const = default;
 };
 
@@ -30,6 +32,13 @@ struct RunningApp {
 struct AppIcon {
     QString file{};
     QImage image{};
+};
+
+/// Something that an application can be started for, besides itself: a private window, a new message.
+struct AppAction {
+    QString id{};
+    QString name{};
+    bool operator==(const AppAction&) const = default;
 };
 
 /// Applications of this system that the built-in modes should know besides the ones they name themselves.
@@ -52,9 +61,15 @@ public:
     virtual AppIcon icon(const QString& bundleID) const = 0;
     virtual QString fileManager() const = 0; ///< bundle identifier; empty when there is none
     virtual NativeApps nativeApps() const = 0;
+    virtual QList<AppAction> actions(const QString& bundleID) const = 0; ///< in the application's order
+    /// The application that a file stands for, as one that is dragged from a menu or a file manager.
+    virtual std::optional<QString> applicationAt(const QUrl& file) const = 0;
 
     /// Starts the application, or brings the running one forward. Without `activates` it stays behind.
     virtual void open(const QString& bundleID, bool activates) = 0;
+    virtual void openWindow(const QString& bundleID) = 0; ///< one more, in the way that the application has for it
+    virtual void openFiles(const QString& bundleID, const QList<QUrl>& files) = 0; ///< with this application
+    virtual void runAction(const QString& bundleID, const QString& actionID) = 0;
     virtual void activate(qint64 pid) = 0;
     virtual void hide(qint64 pid) = 0;
     virtual void unhide(qint64 pid) = 0;

@@ -13,7 +13,8 @@ struct Display {
     QRect frame{};    ///< device pixels, from the desktop's origin
     QRect workArea{}; ///< the frame without what panels reserve
     bool isMain{};
-    QString space{}; ///< the virtual desktop it shows
+    QString space{};     ///< the virtual desktop it shows
+    bool isFullScreen{}; ///< a window that fills it is in front there
     bool operator==(const Display&) const = default;
 };
 

@@ -19,8 +19,9 @@ public:
     /// Why nothing is recorded, or may be read; for the user, and empty while all is well.
     virtual QString unavailableReason() const = 0;
 
-    /// Something was recorded a moment ago, or `unavailableReason` changed. A system that cannot tell never calls it.
+    /// Something was recorded a moment ago, or `unavailableReason` changed.
     std::function<void()> onChanged = [] {};
+    virtual bool tellsChanges() const = 0; ///< whether every record is followed by `onChanged`
 };
 
 } // namespace fendrel

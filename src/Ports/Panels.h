@@ -16,6 +16,7 @@ public:
         dock, ///< on every virtual desktop, never takes the keyboard
         gate, ///< on the virtual desktop where it opens, above full-screen windows; docks stay above it where they can
         menu, ///< open for a moment, over everything; draws its own shadow
+        glow, ///< lies over everything on every virtual desktop, for the eye alone: takes neither pointer nor keyboard
         card, ///< on every virtual desktop, above full-screen windows, under docks where it can; never takes the
               ///< keyboard
     };

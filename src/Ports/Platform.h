@@ -3,18 +3,24 @@
 #include "Base/Worker.h"
 #include "Ports/Accessibility.h"
 #include "Ports/Applications.h"
+#include "Ports/Badges.h"
 #include "Ports/Clock.h"
 #include "Ports/Displays.h"
+#include "Ports/HotKeys.h"
 #include "Ports/HttpClient.h"
 #include "Ports/IdleTime.h"
 #include "Ports/LanguageModel.h"
 #include "Ports/NotificationBanners.h"
 #include "Ports/NotificationLog.h"
 #include "Ports/Panels.h"
+#include "Ports/PointerGuard.h"
 #include "Ports/SettingsStore.h"
 #include "Ports/Shell.h"
 #include "Ports/StatusArea.h"
+#include "Ports/SystemDock.h"
 #include "Ports/SystemLook.h"
+#include "Ports/Trash.h"
+#include "Ports/WindowPreviews.h"
 
 #include <functional>
 #include <memory>
@@ -50,6 +56,12 @@ struct Platform {
     std::unique_ptr<Accessibility> accessibility{};
     std::unique_ptr<Displays> displays{};
     std::unique_ptr<Panels> panels{};
+    std::unique_ptr<SystemDock> systemDock{};
+    std::unique_ptr<PointerGuard> pointerGuard{};
+    std::unique_ptr<Badges> badges{};
+    std::unique_ptr<WindowPreviews> previews{};
+    std::unique_ptr<Trash> trash{};
+    std::unique_ptr<HotKeys> hotKeys{};
     std::unique_ptr<SystemLook> look{};
     std::unique_ptr<StatusArea> statusArea{};
     std::unique_ptr<IdleTime> idleTime{};

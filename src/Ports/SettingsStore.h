@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Base/Handle.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <variant>
 
@@ -28,6 +31,9 @@ public:
     virtual std::optional<StoredValue> value(const QString& key) const = 0;
     virtual void set(const QString& key, StoredValue value, Urgency urgency = Urgency::atOnce) = 0;
     virtual void remove(const QString& key) = 0;
+    /// Runs when everything that was set so far is on the disk, or with false when it cannot get there. Never from
+    /// inside the call, and not after the handle is dropped.
+    virtual Handle whenStored(std::function<void(bool isStored)> run) = 0;
 
     /// The value if it is stored with exactly this type.
     template<class Type>

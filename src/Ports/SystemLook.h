@@ -10,6 +10,7 @@ public:
     virtual ~SystemLook() = default;
     virtual bool isDark() const = 0;
     virtual bool reducesMotion() const = 0;
+    virtual bool increasesContrast() const = 0;
     std::function<void()> onChanged = [] {};
 };
 

@@ -52,33 +52,51 @@ Interface::Interface(AppController& controller)
     controller.onAlert = [this](const Alert& alert) { whenFree([this, alert] { showAlert(alert); }); };
     controller.onAttention = [this] { whenFree([this] { showSettings(m_settings.pane()); }); };
     QObject::connect(&controller.gate(), &Gate::changed, &m_settings, [this] {
-        if (!m_controller.gate().blocked()) {
+        if (m_controller.gate().blocked()) {
+            makeHidden();
+        } else {
             for (const auto& show : std::exchange(m_waiting, {}))
                 show();
         }
+    });
+    QObject::connect(&m_messages, &MessagesController::changed, &m_settings, [this] {
+        if (m_messages.hasAlert() || m_messages.hasList())
+            makeHidden();
     });
     controller.onFocusDock = [this] { focusDock(); };
     controller.platform().panels->onTransparencyChanged = [this] {
         for (const auto& [display, dock] : m_docks)
             dock->transparencyDidChange();
-        Q_EMIT m_gatePanel->transparencyChanged();
-        Q_EMIT m_cards->transparencyChanged();
+        if (m_gatePanel)
+            Q_EMIT m_gatePanel->transparencyChanged();
+        if (m_cards)
+            Q_EMIT m_cards->transparencyChanged();
+        m_glow->update();
     };
     controller.platform().statusArea->onChanged = [this] { showTray(); };
     QObject::connect(&controller.preferences(), &Preferences::changed, &m_settings, [this] { applyLook(); });
 
-    m_gatePanel = std::make_unique<GatePanel>(m_engine, controller, m_icons, m_dock, m_focus, m_gate);
-    m_gatePanel->dockArea = [this](const QString& displayID) {
-        const auto dock = m_docks.find(displayID);
-        return dock == m_docks.end() ? QRect() : dock->second->touchable();
-    };
-    m_cards = std::make_unique<CardsPanel>(m_engine, controller, m_dock, m_messages);
-    showTray();
+    m_glow = std::make_unique<FocusGlow>(controller);
 }
 
 Interface::~Interface() {
     m_controller.platform().panels->onTransparencyChanged = [] {};
     m_controller.platform().statusArea->onChanged = [] {};
+}
+
+/// What is not seen at the start is made when the dock has been drawn, or earlier where it is needed earlier: a user
+/// who waits, waits for the dock.
+void Interface::makeHidden() {
+    if (m_gatePanel)
+        return;
+    m_gatePanel = std::make_unique<GatePanel>(m_engine, m_controller, m_icons, m_dock, m_focus, m_gate);
+    m_gatePanel->dockArea = [this](const QString& displayID) {
+        const auto dock = m_docks.find(displayID);
+        return dock == m_docks.end() ? QRect() : dock->second->touchable();
+    };
+    m_cards = std::make_unique<CardsPanel>(m_engine, m_controller, m_dock, m_messages);
+    placeCards();
+    showTray();
 }
 
 /// A window that opens under the gate would take its keyboard without being seen.
@@ -91,25 +109,30 @@ void Interface::whenFree(std::function<void()> show) {
 
 void Interface::layoutDocks() {
     const QList<Display> displays = m_controller.dockScreens();
-    std::erase_if(m_docks, [&](const auto& entry) {
-        return std::ranges::find(displays, entry.first, &Display::id) == displays.end();
-    });
+    moveToDisplays(m_docks, displays);
     for (const Display& display : displays) {
         auto& dock = m_docks[display.id];
         if (!dock) {
             dock = std::make_unique<DockPanel>(m_engine, m_controller, m_dock, m_focus, m_verdict);
-            QObject::connect(dock.get(), &DockPanel::touchableChanged, m_gatePanel.get(), &GatePanel::leaveOutDock);
-            QObject::connect(dock.get(), &DockPanel::barChanged, m_cards.get(), [this] { placeCards(); });
+            QObject::connect(dock.get(), &DockPanel::touchableChanged, &m_settings, [this] {
+                if (m_gatePanel)
+                    m_gatePanel->leaveOutDock();
+            });
+            QObject::connect(dock.get(), &DockPanel::barChanged, &m_settings, [this] { placeCards(); });
+            QObject::connect(
+                dock.get(), &DockPanel::frameSwapped, &m_settings, [this] { makeHidden(); },
+                static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
         }
         dock->place(display);
     }
+    m_glow->update();
     placeCards();
 }
 
 /// Beside one dock: messages are not read on several displays at once.
 void Interface::placeCards() {
     const QList<Display> displays = m_controller.dockScreens();
-    if (displays.isEmpty())
+    if (displays.isEmpty() || !m_cards)
         return;
     const auto dock = m_docks.find(displays.first().id);
     if (dock != m_docks.end())
@@ -118,13 +141,15 @@ void Interface::placeCards() {
 
 /// A card that shows comes first, and the dock after it.
 void Interface::focusDock() {
-    if (m_cards->hasCards() && !m_cards->hasKeyboard()) {
+    if (m_cards && m_cards->hasCards() && !m_cards->hasKeyboard()) {
         m_cards->takeKeyboard();
         return;
     }
-    m_cards->releaseKeyboard();
-    if (!m_docks.empty())
-        m_docks.begin()->second->takeKeyboard();
+    if (m_cards)
+        m_cards->releaseKeyboard();
+    const auto dock = std::ranges::find_if(m_docks, [](const auto& entry) { return !entry.second->isCovered(); });
+    if (dock != m_docks.end())
+        dock->second->takeKeyboard();
 }
 
 void Interface::showFirstRun() {
@@ -184,8 +209,10 @@ void Interface::showTray() {
 
 void Interface::applyLook() {
     const int theme = qmlTypeId("Fendrel.Style", 1, 0, "Theme");
-    if (QObject* singleton = m_engine.singletonInstance<QObject*>(theme))
+    if (QObject* singleton = m_engine.singletonInstance<QObject*>(theme)) {
         singleton->setProperty("reducesMotion", m_controller.platform().look->reducesMotion());
+        singleton->setProperty("increasesContrast", m_controller.platform().look->increasesContrast());
+    }
 }
 
 } // namespace fendrel

@@ -3,6 +3,7 @@
 #include "App/Alert.h"
 #include "UI/Dock/DockController.h"
 #include "UI/Focus/FocusController.h"
+#include "UI/Focus/FocusGlow.h"
 #include "UI/Focus/GateController.h"
 #include "UI/Focus/GatePanel.h"
 #include "UI/Focus/VerdictController.h"
@@ -35,6 +36,7 @@ public:
 private:
     void whenFree(std::function<void()> show);
     void layoutDocks();
+    void makeHidden();
     void placeCards();
     void focusDock();
     void showFirstRun();
@@ -56,6 +58,7 @@ private:
     std::map<QString, std::unique_ptr<DockPanel>> m_docks; ///< by display
     std::unique_ptr<GatePanel> m_gatePanel;
     std::unique_ptr<CardsPanel> m_cards;
+    std::unique_ptr<FocusGlow> m_glow;
     std::unique_ptr<Dialog> m_firstRunWindow;
     std::unique_ptr<Dialog> m_settingsWindow;
     std::list<std::unique_ptr<Dialog>> m_alerts;

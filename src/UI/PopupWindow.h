@@ -1,22 +1,19 @@
 #pragma once
 
-#include <QQuickWindow>
-#include <QtQmlIntegration>
+#include "UI/BesideWindow.h"
 
 namespace fendrel {
 
 /// A menu's window beside a dock: takes pointer and keyboard while it is open, and closes on a press outside, on Escape
 /// and when it loses them.
-class PopupWindow : public QQuickWindow {
+class PopupWindow : public BesideWindow {
     Q_OBJECT
     QML_ELEMENT
 
 public:
     explicit PopupWindow(QWindow* parent = nullptr);
 
-    /// Opens beside a rectangle of the desktop that belongs to another window: towards the middle of the screen from
-    /// the edge that it is at, and always whole on that screen: it becomes lower where there is not the height for it.
-    void openBeside(QWindow* window, const QRectF& anchor, Qt::Edge edge, double gap);
+    void openBeside(QWindow* window, const QRectF& anchor, Qt::Edge edge, double gap) override;
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:

@@ -228,7 +228,10 @@ private Q_SLOTS:
         ControllerWorld world;
         AppController& controller = world.launch();
         const QString dock = u"first"_s;
-        const auto state = [&] { return std::pair(controller.isDockShown(dock), controller.isDockTimerRunning()); };
+        const auto others = world.fake.clock->pending();
+        const auto state = [&] {
+            return std::pair(controller.isDockShown(dock), world.fake.clock->pending() > others);
+        };
         constexpr std::pair shown(true, false), waiting(true, true), hidden(false, false);
         QVERIFY(state() == shown);
         controller.preferences().setAutoHide(true);
@@ -242,6 +245,15 @@ private Q_SLOTS:
         controller.dockHoldChanged(dock, false);
         QVERIFY(state() == waiting);
         controller.preferences().setAutoHide(false);
+        QVERIFY(state() == shown);
+        auto& displays = *world.fake.displays;
+        displays.displays.first().isFullScreen = true;
+        displays.setDisplays(displays.displays);
+        QVERIFY(state() == hidden);
+        controller.dockPointerChanged(dock, true);
+        QVERIFY(state() == hidden);
+        displays.displays.first().isFullScreen = false;
+        displays.setDisplays(displays.displays);
         QVERIFY(state() == shown);
     }
 

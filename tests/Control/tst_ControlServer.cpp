@@ -118,7 +118,7 @@ private Q_SLOTS:
         peer.say(watch);
         QCOMPARE(
             change(),
-            u"browsers budgets dock focus front gate judgement messages mode model onboarding pending time veils"_s);
+            u"browsers budgets dock focus front gate judgement messages mode model onboarding pending time undo veils"_s);
         controller.focus().start();
         QCOMPARE(change(), u"focus time"_s);
         other.say(watch);

@@ -245,6 +245,20 @@ private Q_SLOTS:
         world.log.onChanged();
         QVERIFY(world.begin());
     }
+
+    void restsWhileTheLogTells() {
+        World world;
+        world.log.tells = true;
+        QVERIFY(world.begin());
+        QCOMPARE(world.clock.pending(), 0U);
+        world.log.removeFile(); // and nobody tells when it is back
+        world.log.onChanged();
+        QVERIFY(QTest::qWaitFor([&] { return !world.messages->canRead(); }));
+        world.log.replaceFile();
+        world.clock.advance(2s);
+        QVERIFY(world.begin());
+        QCOMPARE(world.clock.pending(), 0U);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestHeldMessages)

@@ -40,10 +40,11 @@ class Dock(harness.DesktopTest):
 
     def test_it_is_on_every_workspace(self):
         subprocess.run(["wmctrl", "-n", "2"], check=True)
+        subprocess.run(["wmctrl", "-i", "-r", hex(self.dock), "-t", "0"], check=True)
         subprocess.run(["wmctrl", "-s", "1"], check=True)
         self.addCleanup(subprocess.run, ["wmctrl", "-s", "0"])
         self.fendrel.expect("the editor left behind", lambda state: not state["front"])
-        self.assertIsNotNone(geometry(self.dock))
+        EAR.expect("the dock followed", lambda: geometry(self.dock), self.dock)
 
     def under(self, x, y):
         return re.search(r"WINDOW=(\d+)", xdotool("mousemove", str(x), str(y), "getmouselocation", "--shell"))[1]

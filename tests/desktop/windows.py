@@ -42,10 +42,11 @@ class Lines:
 
 
 class Ear:
-    """Hears changes of properties and of the stack of windows, on a connection of its own; what is new is asked for."""
+    """Hears changes of properties, of the stack of windows, and of where a window takes input, on a connection of its
+    own; what is new is asked for."""
 
     def __init__(self):
-        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11, self.shapes = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXext.so.6")
         self.x11.XOpenDisplay.restype = ctypes.c_void_p
         self.display = ctypes.c_void_p(self.x11.XOpenDisplay(None))
         self.event = ctypes.create_string_buffer(256)  # a little more than an XEvent
@@ -53,8 +54,9 @@ class Ear:
     def expect(self, what, find, window=None):
         """What is found, once it is there: on the root window, or on the one that is given."""
         window = window or self.x11.XDefaultRootWindow(self.display)
-        masks = 1 << 22 | 1 << 19  # PropertyChangeMask, SubstructureNotifyMask
+        masks = 1 << 22 | 1 << 19 | 1 << 17  # PropertyChangeMask, SubstructureNotifyMask, StructureNotifyMask
         self.x11.XSelectInput(self.display, ctypes.c_ulong(window), ctypes.c_long(masks))
+        self.shapes.XShapeSelectInput(self.display, ctypes.c_ulong(window), ctypes.c_ulong(1))  # ShapeNotifyMask
         self.x11.XSync(self.display, 0)
         deadline = time.monotonic() + SECONDS
         while True:

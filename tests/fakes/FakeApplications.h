@@ -64,6 +64,15 @@ public:
     void open(const QString& bundleID, bool activates) override {
         requests.append(QStringLiteral("open ") + bundleID + (activates ? QString() : QStringLiteral(" behind")));
     }
+    QList<AppAction> actions(const QString&) const override { return {}; }
+    std::optional<QString> applicationAt(const QUrl&) const override { return {}; }
+    void openWindow(const QString& bundleID) override { requests.append(QStringLiteral("window ") + bundleID); }
+    void openFiles(const QString& bundleID, const QList<QUrl>&) override {
+        requests.append(QStringLiteral("files ") + bundleID);
+    }
+    void runAction(const QString& bundleID, const QString& actionID) override {
+        requests.append(QStringLiteral("action ") + bundleID + QLatin1Char(' ') + actionID);
+    }
     void activate(qint64 pid) override { request("activate", pid); }
     void hide(qint64 pid) override { request("hide", pid); }
     void unhide(qint64 pid) override { request("unhide", pid); }

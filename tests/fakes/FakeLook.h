@@ -8,6 +8,7 @@ class FakeLook final : public SystemLook {
 public:
     bool isDark() const override { return m_isDark; }
     bool reducesMotion() const override { return false; }
+    bool increasesContrast() const override { return false; }
 
     void setDark(bool isDark) {
         m_isDark = isDark;

@@ -17,6 +17,7 @@ public:
 
     QString databasePath() const override { return m_folder.filePath(QStringLiteral("log.db")); }
     QString unavailableReason() const override { return reason; }
+    bool tellsChanges() const override { return tells; }
 
     struct Entry {
         QString app{};
@@ -65,6 +66,7 @@ public:
     void removeFile() { QFile::remove(databasePath()); }
 
     QString reason;
+    bool tells = false;
 
 private:
     void begin() {

@@ -12,8 +12,9 @@ class Display:
     def __init__(self):
         self.display = display.Display()
         self.root = self.display.screen().root
-        self.name, self.active, self.clients = map(self.display.intern_atom,
-                                                   ("_NET_WM_NAME", "_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST"))
+        self.name, self.active, self.clients, self.type, self.dock = map(self.display.intern_atom, (
+            "_NET_WM_NAME", "_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST", "_NET_WM_WINDOW_TYPE",
+            "_NET_WM_WINDOW_TYPE_DOCK"))
         self.display.damage_query_version()
         self.root.change_attributes(event_mask=X.SubstructureNotifyMask | X.PropertyChangeMask)
         self.display.sync()
@@ -77,12 +78,22 @@ class Display:
 
     def wait_shown(self, title):
         """The moments at which a window that is yet to come was mapped, and drawn."""
+        return self.wait_new(lambda window: self.title(window) == title)[1:]
+
+    def wait_dock(self):
+        """The dock that is yet to come, and the moments at which it was mapped, and drawn."""
+        def is_dock(window):
+            types = window.get_full_property(self.type, X.AnyPropertyType)
+            return types and self.dock in types.value
+        return self.wait_new(is_dock)
+
+    def wait_new(self, is_meant):
         for happened, moment in self.events():
             if happened.type == X.CreateNotify and happened.parent == self.root:
                 happened.window.change_attributes(event_mask=X.StructureNotifyMask)
                 self.display.flush()
-            elif happened.type == X.MapNotify and self.title(happened.window) == title:
-                return moment, self.wait_drawn(happened.window)
+            elif happened.type == X.MapNotify and is_meant(happened.window):
+                return happened.window, moment, self.wait_drawn(happened.window)
 
     def wait_drawn(self, window):
         """Until its middle is more than plain. The desktop must be plain there."""

@@ -181,3 +181,38 @@ def idle(answer):
             Row("  memory (proportional)", ours["memory"], "MB", None, peer["memory"], "empty window"),
         ]
     return rows
+
+
+def docks(answer):
+    """Goals are those of the dock, beside Plank with its helper; the panel does not magnify."""
+    ours, plank, panel = answer["Fendrel"], answer["Plank"], answer["xfce4-panel"]
+
+    def beside(what, unit, value, goal=None, more=""):
+        return [Row(what, value(ours), unit, goal, value(plank), "Plank", more),
+                Row("  the same", value(ours), unit, None, value(panel), "xfce4-panel")]
+
+    def middle(name):
+        return lambda dock: statistics.median(dock[name])
+
+    def of_core(sweep):
+        return sweep["processor"] / sweep["seconds"] / 10
+
+    def frames(dock):
+        return len(dock["sweep"]["frames"]) / dock["sweep"]["seconds"]
+    seconds = ours["idle"]["seconds"]
+    rows = [
+        *beside("Start to dock mapped, median", "ms", middle("mapped"), middle("mapped")(plank),
+                f"max {number(max(ours['mapped']))}, of {len(ours['mapped'])}"),
+        *beside("Start to dock drawn, median", "ms", middle("drawn")),
+        *beside("  its processor time", "ms", middle("processor")),
+        *beside(f"Dock idle for {seconds:.0f} s: wake-ups", "", lambda dock: dock["idle"]["wakeUps"], seconds),
+        *beside("  processor time", "ms", lambda dock: dock["idle"]["processor"], 0.2 * seconds),
+        *beside("  memory (proportional)", "MB", lambda dock: dock["memory"][0]),
+        *beside("  memory (resident)", "MB", lambda dock: dock["memory"][1], plank["memory"][1] * 4 / 3),
+    ]
+    gaps = [later - earlier for earlier, later in zip(ours["sweep"]["frames"], ours["sweep"]["frames"][1:])]
+    return rows + [
+        Row("Magnifying 20 applications: between frames, mean", 1000 / frames(ours), "ms", 17,
+            1000 / frames(plank), "Plank", f"p95 {number(percentile(gaps, 95))}"),
+        Row("  of one processor", of_core(ours["sweep"]), "%", 20, of_core(plank["sweep"]), "Plank"),
+    ]

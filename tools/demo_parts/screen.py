@@ -41,6 +41,21 @@ class Screen:
                              f"{self.active_title()!r} has it")
             time.sleep(0.02)
 
+    def wait_shown(self, title, seconds=10.0):
+        """Where the window is, once it is on the screen and stands still: one that no window manager knows."""
+        deadline = time.monotonic() + seconds
+        last = None
+        while True:
+            found = xdotool("search", "--onlyvisible", "--name", f"^{title}$", may_fail=True).split()
+            text = xdotool("getwindowgeometry", "--shell", found[0], may_fail=True) if found else ""
+            place = tuple(int(line.split("=")[1]) for line in text.splitlines()[1:5])
+            if place and place == last:
+                return place
+            if time.monotonic() > deadline:
+                raise Failed(f"expected within {seconds:.0f} s: the window {title!r} on the screen")
+            last = place
+            time.sleep(0.05)
+
     def active_title(self):
         return xdotool("getactivewindow", "getwindowname", may_fail=True)
 

@@ -3,16 +3,25 @@
 #include "Platform/Linux/Applications/BrowserHomes.h"
 #include "Platform/Linux/Banners/DesktopBanners.h"
 #include "Platform/Linux/Desktop/DesktopShell.h"
+#include "Platform/Linux/Desktop/GSettingsConfiguration.h"
+#include "Platform/Linux/Desktop/LauncherEntries.h"
 #include "Platform/Linux/Desktop/PortalLook.h"
 #include "Platform/Linux/Desktop/StatusNotifierArea.h"
+#include "Platform/Linux/Desktop/TrashContents.h"
+#include "Platform/Linux/Desktop/TrashFolder.h"
+#include "Platform/Linux/Docks/DockDrivers.h"
 #include "Platform/Linux/ModelServer/ModelServer.h"
 #include "Platform/Linux/Notifications/NotificationRecorder.h"
 #include "Platform/Linux/PeerCredentials.h"
 #include "Platform/Linux/X11/X11Accessibility.h"
 #include "Platform/Linux/X11/X11Applications.h"
 #include "Platform/Linux/X11/X11Displays.h"
+#include "Platform/Linux/X11/X11HotKeys.h"
 #include "Platform/Linux/X11/X11IdleTime.h"
 #include "Platform/Linux/X11/X11Panels.h"
+#include "Platform/Linux/X11/X11WindowPreviews.h"
+#include "Platform/Linux/X11/X11PointerGuard.h"
+#include "Platform/Null/NullPlatform.h"
 #include "Platform/Shared/NetworkClient.h"
 #include "Platform/Shared/SettingsFile.h"
 #include "Platform/Shared/SystemClock.h"
@@ -48,7 +57,7 @@ QList<BrowserHome> standardBrowsers() {
 }
 
 Platform makePlatform() {
-    Platform platform;
+    Platform platform = nullPlatform();
     platform.folders = standardFolders();
     platform.relay = QCoreApplication::applicationDirPath() + u"/fendrel-bridge"_s;
     platform.browsers = standardBrowsers();
@@ -73,6 +82,12 @@ Platform makePlatform() {
     platform.accessibility = std::make_unique<X11Accessibility>(groups, clock);
     platform.displays = std::make_unique<X11Displays>(monitors, windows);
     platform.panels = std::make_unique<X11Panels>(windows, monitors, connection);
+    platform.pointerGuard = std::make_unique<X11PointerGuard>();
+    platform.hotKeys = std::make_unique<X11HotKeys>(connection);
+    platform.previews = std::make_unique<X11WindowPreviews>(windows, connection, clock);
+    platform.badges = std::make_unique<LauncherEntries>(catalog);
+    platform.trash = std::make_unique<TrashFolder>(TrashFolder::standardHome(), trashContents::onMountedDisks,
+                                                   *platform.applications, catalog);
     platform.look = std::make_unique<PortalLook>(settings);
     platform.statusArea = std::make_unique<StatusNotifierArea>();
     platform.idleTime = std::make_unique<X11IdleTime>(connection);
@@ -80,6 +95,7 @@ Platform makePlatform() {
     platform.languageModel = std::make_unique<ModelServer>(clock);
     platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
     platform.notificationBanners = std::make_unique<DesktopBanners>(*platform.settings);
+    platform.systemDock = std::make_unique<DesktopDock>(dockDrivers(std::make_shared<GSettingsConfiguration>()));
     platform.http = std::make_unique<NetworkClient>(clock);
     return platform;
 }

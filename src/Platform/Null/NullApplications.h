@@ -13,7 +13,12 @@ public:
     AppIcon icon(const QString&) const override { return {}; }
     QString fileManager() const override { return {}; }
     NativeApps nativeApps() const override { return {}; }
+    QList<AppAction> actions(const QString&) const override { return {}; }
+    std::optional<QString> applicationAt(const QUrl&) const override { return {}; }
     void open(const QString&, bool) override {}
+    void openWindow(const QString&) override {}
+    void openFiles(const QString&, const QList<QUrl>&) override {}
+    void runAction(const QString&, const QString&) override {}
     void activate(qint64) override {}
     void hide(qint64) override {}
     void unhide(qint64) override {}

@@ -10,6 +10,7 @@ public:
     QString unavailableReason() const override {
         return QStringLiteral("This system doesn't tell which notifications were shown.");
     }
+    bool tellsChanges() const override { return true; }
 };
 
 } // namespace fendrel

@@ -2,18 +2,24 @@
 
 #include "Platform/Null/NullAccessibility.h"
 #include "Platform/Null/NullApplications.h"
+#include "Platform/Null/NullBadges.h"
 #include "Platform/Null/NullClock.h"
 #include "Platform/Null/NullDisplays.h"
+#include "Platform/Null/NullHotKeys.h"
 #include "Platform/Null/NullHttpClient.h"
 #include "Platform/Null/NullIdleTime.h"
 #include "Platform/Null/NullLanguageModel.h"
 #include "Platform/Null/NullNotificationBanners.h"
 #include "Platform/Null/NullNotificationLog.h"
 #include "Platform/Null/NullPanels.h"
+#include "Platform/Null/NullPointerGuard.h"
 #include "Platform/Null/NullSettingsStore.h"
 #include "Platform/Null/NullShell.h"
 #include "Platform/Null/NullStatusArea.h"
+#include "Platform/Null/NullSystemDock.h"
 #include "Platform/Null/NullSystemLook.h"
+#include "Platform/Null/NullTrash.h"
+#include "Platform/Null/NullWindowPreviews.h"
 #include "Ports/Platform.h"
 
 #include <memory>
@@ -30,6 +36,12 @@ inline Platform nullPlatform() {
         .accessibility = std::make_unique<NullAccessibility>(),
         .displays = std::make_unique<NullDisplays>(),
         .panels = std::make_unique<NullPanels>(),
+        .systemDock = std::make_unique<NullSystemDock>(),
+        .pointerGuard = std::make_unique<NullPointerGuard>(),
+        .badges = std::make_unique<NullBadges>(),
+        .previews = std::make_unique<NullWindowPreviews>(),
+        .trash = std::make_unique<NullTrash>(),
+        .hotKeys = std::make_unique<NullHotKeys>(),
         .look = std::make_unique<NullSystemLook>(),
         .statusArea = std::make_unique<NullStatusArea>(),
         .idleTime = std::make_unique<NullIdleTime>(),

@@ -15,6 +15,7 @@ public:
     }
     void set(const QString& key, StoredValue value, Urgency) override { m_values.insert(key, value); }
     void remove(const QString& key) override { m_values.remove(key); }
+    Handle whenStored(std::function<void(bool)>) override { return {}; } // there is no disk
 
 private:
     QHash<QString, StoredValue> m_values;

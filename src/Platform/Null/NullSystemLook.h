@@ -8,6 +8,7 @@ class NullSystemLook final : public SystemLook {
 public:
     bool isDark() const override { return false; }
     bool reducesMotion() const override { return false; }
+    bool increasesContrast() const override { return false; }
 };
 
 } // namespace fendrel

@@ -4,6 +4,7 @@
 #include "Base/Log.h"
 #include "Platform/Shared/StoredValueJson.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -57,6 +58,24 @@ void SettingsFile::remove(const QString& key) {
     m_values.remove(key);
     m_document.remove(key);
     write();
+}
+
+Handle SettingsFile::whenStored(std::function<void(bool isStored)> run) {
+    if (m_isUnwritten)
+        write();
+    const auto waiting = std::make_shared<std::function<void(bool)>>(std::move(run));
+    m_disk.post({}, [waiting, mayWrite = m_mayWrite, hasFailed = m_hasFailed] {
+        const bool isStored = mayWrite && !*hasFailed;
+        // The application object, for this one may be gone when the worker gets here.
+        QMetaObject::invokeMethod(
+            qApp,
+            [waiting, isStored] {
+                if (const auto told = std::exchange(*waiting, {}))
+                    told(isStored);
+            },
+            Qt::QueuedConnection);
+    });
+    return Handle([waiting] { *waiting = nullptr; });
 }
 
 void SettingsFile::write() {

@@ -24,6 +24,7 @@ public:
     std::optional<StoredValue> value(const QString& key) const override;
     void set(const QString& key, StoredValue value, Urgency urgency) override;
     void remove(const QString& key) override;
+    Handle whenStored(std::function<void(bool isStored)> run) override;
 
 private:
     void load();

@@ -12,7 +12,9 @@ QtObject {
     required property int appCount
     required property int fullIconSize // pixels, where there is room
     required property real fullSpacing
+    required property real swelling    // that the applications' row may add to its length under the pointer
 
+    readonly property real free: room - swelling
     readonly property int pillSpacing: 2
     readonly property int iconRoom: 6       // that an application's place is longer than its icon
     readonly property int startOfOthers: 17 // before the first application that is not the mode's
@@ -20,20 +22,22 @@ QtObject {
     readonly property int leastIconSize: Math.ceil(fullIconSize * 0.6)
     readonly property real leastApps: Math.min(appCount, 4) * (leastIconSize + iconRoom)
 
-    readonly property bool isCompact: room - steady - pillsLength(36, nameLength) < leastApps
+    readonly property bool isCompact: free - steady - pillsLength(36, nameLength) < leastApps
     readonly property int pillSize: isCompact ? 30 : 36
 
     readonly property int iconSize: {
-        const left = room - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers
+        const left = free - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers
         const fitting = left / Math.max(1, appCount) - iconRoom - fullSpacing
         // In steps: other windows move when the bar's depth changes.
         return Math.max(leastIconSize, Math.min(fullIconSize, 4 * Math.floor(fitting / 4)))
     }
     readonly property real spacing: iconSize < fullIconSize ? Math.floor(fullSpacing / 2) : fullSpacing
 
-    readonly property real pillsRoom: Math.max(3 * (pillSize + pillSpacing), room - current - leastApps)
+    readonly property real pitch: iconSize + iconRoom + spacing // from one application to the next
+
+    readonly property real pillsRoom: Math.max(3 * (pillSize + pillSpacing), free - current - leastApps)
     function appsRoom(pills: real): real {
-        return Math.max(leastIconSize + iconRoom, room - current - pills)
+        return Math.max(leastIconSize + iconRoom, free - current - pills)
     }
 
     function pillsLength(size: int, name: real): real {

@@ -4,17 +4,26 @@
 #include "UI/Images/AppIcons.h"
 #include "UI/SyncRows.h"
 
+#include <algorithm>
+
 namespace fendrel {
 
 namespace {
 enum Role {
     bundleIDRole = Qt::UserRole + 1,
     nameRole,
+    iconRole,
     isRunningRole,
     isFrontRole,
     isInModeRole,
     startsOthersRole,
-    iconRole,
+    isCarriedRole,
+    isUrgentRole,
+    isHiddenRole,
+    windowCountRole,
+    badgeCountRole,
+    badgeTextRole,
+    progressRole,
 };
 }
 
@@ -23,6 +32,8 @@ DockAppsModel::DockAppsModel(AppController& controller, AppIcons& icons) : m_con
     connect(&controller.workspace(), &Workspace::runningChanged, this, &DockAppsModel::refresh);
     connect(&controller.titles(), &WindowTitles::changed, this, &DockAppsModel::refresh);
     connect(&controller.workspace(), &Workspace::installedChanged, this, &DockAppsModel::refresh);
+    connect(&controller, &AppController::windowsChanged, this, &DockAppsModel::refresh);
+    connect(&controller, &AppController::badgesChanged, this, &DockAppsModel::refresh);
     refresh();
 }
 
@@ -40,6 +51,8 @@ QVariant DockAppsModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case nameRole:
         return row.name;
+    case iconRole:
+        return row.icon;
     case isRunningRole:
         return row.isRunning;
     case isFrontRole:
@@ -48,45 +61,133 @@ QVariant DockAppsModel::data(const QModelIndex& index, int role) const {
         return row.isInMode;
     case startsOthersRole:
         return row.startsOthers;
-    case iconRole:
-        return row.icon;
+    case isCarriedRole:
+        return row.isCarried;
+    case isUrgentRole:
+        return row.isUrgent;
+    case isHiddenRole:
+        return row.isHidden;
+    case windowCountRole:
+        return row.windowCount;
+    case badgeCountRole:
+        return row.badgeCount;
+    case badgeTextRole:
+        return badgeText(row.badgeCount);
+    case progressRole:
+        return row.progress;
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> DockAppsModel::roleNames() const {
-    return {{bundleIDRole, "bundleID"}, {nameRole, "name"},         {isRunningRole, "isRunning"},
-            {isFrontRole, "isFront"},   {isInModeRole, "isInMode"}, {startsOthersRole, "startsOthers"},
-            {iconRole, "icon"}};
+    return {{bundleIDRole, "bundleID"},       {nameRole, "name"},
+            {iconRole, "icon"},               {isRunningRole, "isRunning"},
+            {isFrontRole, "isFront"},         {isInModeRole, "isInMode"},
+            {startsOthersRole, "startsOthers"}, {isCarriedRole, "isCarried"},
+            {isUrgentRole, "isUrgent"},       {isHiddenRole, "isHidden"},
+            {windowCountRole, "windowCount"}, {badgeCountRole, "badgeCount"},
+            {badgeTextRole, "badgeText"},     {progressRole, "progress"}};
+}
+
+QString DockAppsModel::badgeText(qint64 count) {
+    return count <= 0 ? QString() : count > 99 ? tr("99+") : QString::number(count);
+}
+
+void DockAppsModel::carry(const QString& bundleID, int place) {
+    if (m_carried == bundleID && m_place == place)
+        return;
+    m_carried = bundleID;
+    m_place = place;
+    refresh();
+}
+
+void DockAppsModel::letGo() {
+    carry({}, AtHome);
+}
+
+QString DockAppsModel::neighbour(const QString& bundleID, int step) const {
+    const auto at = std::ranges::find(m_rows, bundleID, &Row::id);
+    const qsizetype wanted = at - m_rows.begin() + step;
+    return at == m_rows.end() || wanted < 0 || wanted >= m_modeCount ? QString() : m_rows[wanted].id;
+}
+
+bool DockAppsModel::isInMode(const QString& bundleID) const {
+    return m_controller.engine().current().apps.contains(bundleID);
+}
+
+QString DockAppsModel::icon(const QString& bundleID) const {
+    return m_icons.source(bundleID);
+}
+
+QString DockAppsModel::name(const QString& bundleID) const {
+    return m_controller.workspace().displayName(bundleID);
+}
+
+int DockAppsModel::find(const QString& letters, int from) const {
+    const int count = rowCount();
+    for (int step = 1; step <= count; ++step) {
+        const int index = (from + step) % count;
+        if (m_rows[index].name.startsWith(letters, Qt::CaseInsensitive))
+            return index;
+    }
+    return -1;
+}
+
+/// Of the mode's applications those that are to be had here, with the carried one where it is now.
+QStringList DockAppsModel::shownApps() const {
+    const Workspace& workspace = m_controller.workspace();
+    QStringList shown;
+    for (const QString& bundleID : m_controller.engine().current().apps) {
+        if (workspace.running().contains(bundleID) || workspace.url(bundleID))
+            shown.append(bundleID);
+    }
+    if (m_carried.isEmpty() || m_place == AtHome)
+        return shown;
+    shown.removeAll(m_carried);
+    if (m_place != Nowhere)
+        shown.insert(std::clamp<qsizetype>(m_place, 0, shown.size()), m_carried);
+    return shown;
+}
+
+DockAppsModel::Row DockAppsModel::row(const QString& bundleID) const {
+    const Workspace& workspace = m_controller.workspace();
+    const auto& front = m_controller.titles().front();
+    const auto windows = workspace.windows(bundleID);
+    const AppBadge badge = m_controller.platform().badges->badge(bundleID);
+    return {
+        .id = bundleID,
+        .name = workspace.displayName(bundleID),
+        .icon = m_icons.source(bundleID),
+        .isRunning = workspace.running().contains(bundleID),
+        .isFront = front && front->bundleID == bundleID,
+        .isCarried = bundleID == m_carried,
+        .isUrgent = workspace.wantsAttention(bundleID),
+        .isHidden = !windows.isEmpty() && std::ranges::all_of(windows, &WindowInfo::isHidden),
+        .windowCount = static_cast<int>(windows.size()),
+        .badgeCount = std::max<qint64>(0, badge.count.value_or(0)),
+        .progress = badge.progress ? std::clamp(*badge.progress, 0.0, 1.0) : -1,
+    };
 }
 
 void DockAppsModel::refresh() {
-    const Workspace& workspace = m_controller.workspace();
-    const QStringList& modeApps = m_controller.engine().current().apps;
-    const auto& front = m_controller.titles().front();
+    const QStringList shown = shownApps();
     QList<Row> wanted;
-    const auto append = [&](const QString& bundleID, bool isInMode, bool startsOthers) {
-        wanted.append(Row{
-            .id = bundleID,
-            .name = workspace.displayName(bundleID),
-            .icon = m_icons.source(bundleID),
-            .isRunning = workspace.running().contains(bundleID),
-            .isFront = front && front->bundleID == bundleID,
-            .isInMode = isInMode,
-            .startsOthers = startsOthers,
-        });
-    };
-    for (const QString& bundleID : modeApps) {
-        if (workspace.running().contains(bundleID) || workspace.url(bundleID))
-            append(bundleID, true, false);
+    for (const QString& bundleID : shown) {
+        wanted.append(row(bundleID));
+        wanted.last().isInMode = true;
     }
-    const qsizetype inMode = wanted.size();
-    for (const QString& bundleID : workspace.runningApps()) {
-        if (!modeApps.contains(bundleID))
-            append(bundleID, false, inMode > 0 && wanted.size() == inMode);
+    for (const QString& bundleID : m_controller.workspace().runningApps()) {
+        if (shown.contains(bundleID) || (bundleID == m_carried && m_place == Nowhere))
+            continue;
+        wanted.append(row(bundleID));
+        wanted.last().startsOthers = !shown.isEmpty() && wanted.size() == shown.size() + 1;
     }
     RowSync<DockAppsModel, Row>::sync(*this, m_rows, wanted);
+    if (const int count = static_cast<int>(shown.size()); count != m_modeCount) {
+        m_modeCount = count;
+        Q_EMIT modeCountChanged();
+    }
 }
 
 } // namespace fendrel

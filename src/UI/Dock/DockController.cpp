@@ -1,14 +1,30 @@
 #include "UI/Dock/DockController.h"
 
 #include "App/AppController.h"
+#include "UI/Countdown.h"
 #include "UI/Messages/MessagesController.h"
 
 namespace fendrel {
 
 DockController::DockController(AppController& controller, AppIcons& icons, MessagesController& messages)
-    : m_controller(controller), m_messages(messages), m_modes(controller), m_apps(controller, icons) {
+    : m_controller(controller),
+      m_messages(messages),
+      m_modes(controller),
+      m_apps(controller, icons),
+      m_actions(controller),
+      m_minimized(controller, icons),
+      m_trash(controller),
+      m_undo(controller),
+      m_previews(*controller.platform().previews),
+      m_restingPointer(*controller.platform().clock),
+      m_windows(controller) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockController::modeChanged);
     connect(&controller.preferences(), &Preferences::changed, this, &DockController::lookChanged);
+    connect(&controller.replacement(), &DockReplacement::changed, this, &DockController::replacementChanged);
+    connect(&m_restingPointer, &RestingPointer::changed, this, [this] {
+        const QQuickItem* item = m_restingPointer.item();
+        m_windows.setBundleID(item ? item->property("bundleID").toString() : QString());
+    });
     connect(&controller.gate(), &Gate::changed, this, &DockController::gateChanged);
 }
 
@@ -72,36 +88,29 @@ void DockController::showHeld(const QString& modeID, bool isByKeyboard) {
     m_messages.showHeld(modeID, isByKeyboard);
 }
 
-void DockController::openApp(const QString& bundleID) {
-    const auto& front = m_controller.titles().front();
-    const bool isFront = front && front->bundleID == bundleID && !m_controller.gate().blocked();
-    if (isFront && m_controller.preferences().clickToHide())
-        m_controller.workspace().hide(bundleID);
-    else
-        m_controller.workspace().open(bundleID);
+QString DockController::budgetUsed(const QString& modeID) const {
+    const Mode* mode = m_controller.engine().mode(modeID);
+    if (!mode || mode->dailyBudget <= Seconds{})
+        return {};
+    const DriftBudget& budget = m_controller.budget();
+    const Seconds used = std::min(budget.used(modeID), mode->dailyBudget);
+    return tr("%1 of %2 used today").arg(remainingText(used), remainingText(mode->dailyBudget));
 }
 
-void DockController::hideApp(const QString& bundleID) {
-    m_controller.workspace().hide(bundleID);
+Preferences* DockController::preferences() {
+    return &m_controller.preferences();
 }
 
-void DockController::showAllWindows(const QString& bundleID) {
-    m_controller.workspace().showAllWindows(bundleID);
+QString DockController::systemDock() const {
+    return m_controller.replacement().dockName();
 }
 
-void DockController::quitApp(const QString& bundleID) {
-    m_controller.workspace().quit(bundleID);
+bool DockController::replacesDock() const {
+    return m_controller.replacement().isOn();
 }
 
-void DockController::revealApp(const QString& bundleID) {
-    m_controller.workspace().revealInFinder(bundleID);
-}
-
-void DockController::setInMode(const QString& bundleID, bool isInMode) {
-    if (isInMode)
-        m_controller.engine().addApp(bundleID, modeID());
-    else
-        m_controller.engine().removeApp(bundleID, modeID());
+void DockController::replaceDock(bool on) {
+    m_controller.askToReplaceDock(on);
 }
 
 void DockController::openSettings(const QString& pane) {

@@ -1,9 +1,16 @@
 #pragma once
 
 #include "App/DockAppearance.h"
-#include "App/PreferenceTypes.h"
+#include "App/Preferences.h"
+#include "UI/Dock/AppActions.h"
 #include "UI/Dock/DockAppsModel.h"
+#include "UI/Dock/MinimizedModel.h"
 #include "UI/Dock/ModesModel.h"
+#include "UI/Dock/PreviewSource.h"
+#include "UI/Dock/RestingPointer.h"
+#include "UI/Dock/TrashController.h"
+#include "UI/Dock/UndoController.h"
+#include "UI/Dock/WindowsModel.h"
 
 #include <QColor>
 #include <QObject>
@@ -21,6 +28,16 @@ class DockController : public QObject {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(fendrel::ModesModel* modes READ modes CONSTANT)
     Q_PROPERTY(fendrel::DockAppsModel* apps READ apps CONSTANT)
+    Q_PROPERTY(fendrel::AppActions* actions READ actions CONSTANT)
+    Q_PROPERTY(fendrel::Preferences* preferences READ preferences CONSTANT)
+    Q_PROPERTY(QString systemDock READ systemDock NOTIFY replacementChanged)
+    Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY replacementChanged)
+    Q_PROPERTY(fendrel::MinimizedModel* minimized READ minimized CONSTANT)
+    Q_PROPERTY(fendrel::TrashController* trash READ trash CONSTANT)
+    Q_PROPERTY(fendrel::UndoController* undo READ undo CONSTANT)
+    Q_PROPERTY(fendrel::PreviewSource* previews READ previews CONSTANT)
+    Q_PROPERTY(fendrel::RestingPointer* restingPointer READ restingPointer CONSTANT)
+    Q_PROPERTY(fendrel::WindowsModel* windows READ windows CONSTANT)
     Q_PROPERTY(QString modeID READ modeID NOTIFY modeChanged)
     Q_PROPERTY(QString modeName READ modeName NOTIFY modeChanged)
     Q_PROPERTY(QColor tint READ tint NOTIFY modeChanged)
@@ -41,6 +58,16 @@ public:
 
     ModesModel* modes() { return &m_modes; }
     DockAppsModel* apps() { return &m_apps; }
+    AppActions* actions() { return &m_actions; }
+    Preferences* preferences();
+    QString systemDock() const; ///< what there is to replace; empty when there is nothing
+    bool replacesDock() const;
+    MinimizedModel* minimized() { return &m_minimized; }
+    TrashController* trash() { return &m_trash; }
+    UndoController* undo() { return &m_undo; }
+    PreviewSource* previews() { return &m_previews; }
+    RestingPointer* restingPointer() { return &m_restingPointer; }
+    WindowsModel* windows() { return &m_windows; } ///< of the application that the pointer rests on
     QString modeID() const;
     QString modeName() const;
     QColor tint() const;
@@ -58,17 +85,14 @@ public:
 
     Q_INVOKABLE void requestMode(const QString& modeID);
     Q_INVOKABLE void showHeld(const QString& modeID, bool isByKeyboard); ///< what is held for the mode
-    Q_INVOKABLE void openApp(const QString& bundleID);
-    Q_INVOKABLE void hideApp(const QString& bundleID);
-    Q_INVOKABLE void showAllWindows(const QString& bundleID);
-    Q_INVOKABLE void quitApp(const QString& bundleID);
-    Q_INVOKABLE void revealApp(const QString& bundleID);
-    Q_INVOKABLE void setInMode(const QString& bundleID, bool isInMode);
+    Q_INVOKABLE QString budgetUsed(const QString& modeID) const; ///< of today's; empty for a mode without an allowance
+    Q_INVOKABLE void replaceDock(bool on);                       ///< asks first
     Q_INVOKABLE void openSettings(const QString& pane);
     Q_INVOKABLE void quit();
 
 Q_SIGNALS:
     void modeChanged();
+    void replacementChanged();
     void lookChanged();
     void gateChanged();
 
@@ -79,6 +103,13 @@ private:
     MessagesController& m_messages;
     ModesModel m_modes;
     DockAppsModel m_apps;
+    AppActions m_actions;
+    MinimizedModel m_minimized;
+    TrashController m_trash;
+    UndoController m_undo;
+    PreviewSource m_previews;
+    RestingPointer m_restingPointer;
+    WindowsModel m_windows;
 };
 
 } // namespace fendrel

@@ -15,8 +15,17 @@ Item {
     property bool isTipForced: false // shown without the pointer too
     property bool isButton: true
     property real leading: 0 // room before it, that does not look like a part of it
+    // Where it is drawn may differ from its place, which is what counts for the pointer.
+    property real aside: 0 // of its middle, along the bar
+    property real rise: 0  // pixels by which it stands out of the bar
     readonly property bool isHovered: hover.hovered
     readonly property bool isPressed: tap.pressed
+
+    // What is dragged over it: { app, files }, an application's identifier or the addresses of files.
+    property bool isTarget: false // it is, and would be taken
+    property string targetText: "" // what would be done with it
+    function takes(load: var): bool { return false }
+    signal received(load: var)
 
     signal pressed()
     signal menuAsked()
@@ -25,9 +34,10 @@ Item {
     Accessible.focusable: isButton
     Accessible.onPressAction: pressed()
 
-    readonly property bool wantsTip: isHovered || activeFocus
-    function updateTip() { tip.update(item, tipText, wantsTip, isTipForced) }
-    onTipTextChanged: if (wantsTip || isTipForced) updateTip()
+    readonly property bool wantsTip: isHovered || activeFocus || isTarget
+    readonly property string shownTip: isTarget ? targetText : tipText
+    function updateTip() { tip.update(item, shownTip, wantsTip, isTipForced) }
+    onShownTipChanged: if (wantsTip || isTipForced) updateTip()
     onWantsTipChanged: updateTip()
     onIsTipForcedChanged: updateTip()
     Component.onDestruction: tip.update(item, "", false, false)

@@ -2,31 +2,57 @@ import QtQuick
 import Fendrel.Style
 import Fendrel.Types
 
-// A menu beside the dock. `open` takes a list of entries, { text, value, symbol, tint, isChecked }, { header } or
-// { separator: true }, and a function that is called with the value of the chosen one.
+// A menu beside the dock. `open` takes a list of entries, { text, value, symbol, tint, isChecked, isQuiet, isGrave },
+// { header } or { separator: true }, and a function that is called with the value of the chosen one. An entry with a
+// `page`, a list of entries, leads there; a text without either only says something.
 PopupWindow {
     id: menu
+    title: qsTr("Fendrel menu")
 
     required property Colors colors
     required property bool isTransparent
     property var entries: []
     property var action: null
+    property var trail: [] // the pages that lead here: { entries, current }
+    property DockPanel view: null
+    property Item place: null
 
-    function open(view: DockPanel, item: Item, list: var, chosen: var) {
-        entries = list
+    function open(panel: DockPanel, item: Item, list: var, chosen: var) {
+        view = panel
+        place = item
         action = chosen
+        trail = []
+        show(list, -1)
+        appear.restart()
+    }
+    function turnTo(index: int, isByKeyboard: bool) {
+        const entry = entries[index]
+        trail = [...trail, { entries: entries, current: index }]
+        show([{ text: entry.text, symbol: "chevron.left", isBack: true, value: null }, { separator: true }, ...entry.page], isByKeyboard ? 2 : -1)
+    }
+    function turnBack() {
+        const last = trail[trail.length - 1]
+        trail = trail.slice(0, -1)
+        show(last.entries, last.current)
+    }
+
+    function show(list: var, current: int) {
+        entries = list
         column.forceLayout()
-        const corner = item.mapToItem(null, 0, 0)
+        const corner = place.mapToItem(null, 0, 0)
         let widest = 180
         for (let index = 0; index < rows.count; ++index)
             widest = Math.max(widest, rows.itemAt(index).implicitWidth)
         width = Math.ceil(widest) + 2 * (margin + inset)
         height = Math.ceil(column.implicitHeight) + 2 * (margin + inset)
-        view.openMenu(menu, Qt.rect(corner.x, corner.y, item.width, item.height), 8 - margin)
+        view.openMenu(menu, Qt.rect(corner.x, corner.y, place.width, place.height), 8 - margin)
         scroller.contentY = 0
         column.current = -1
         column.forceActiveFocus()
-        appear.restart()
+        if (current < 0)
+            return
+        column.current = current
+        scroller.reveal(current)
     }
 
     readonly property int margin: isTransparent ? 16 : 0
@@ -98,12 +124,16 @@ PopupWindow {
                 Accessible.role: Accessible.PopupMenu
                 Accessible.name: menu.entries.find(entry => entry.header)?.header ?? qsTr("Menu")
 
+                function leads(index: int): bool {
+                    const entry = menu.entries[index]
+                    return entry !== undefined && (entry.value !== undefined || entry.page !== undefined)
+                }
                 // The next entry from a place in the list, which goes round.
                 function move(from: int, step: int) {
                     const count = menu.entries.length
                     for (let tried = 0, next = from; tried < count; ++tried) {
                         next = (next + step + count) % count
-                        if (menu.entries[next].value !== undefined) {
+                        if (leads(next)) {
                             current = next
                             scroller.reveal(next)
                             return
@@ -112,15 +142,23 @@ PopupWindow {
                 }
                 function pointAt(height: real) {
                     const index = menu.entries.findIndex((entry, row) => height < rows.itemAt(row).y + rows.itemAt(row).height)
-                    current = index >= 0 && menu.entries[index].value !== undefined ? index : -1
+                    current = leads(index) ? index : -1
                 }
-                function run(index: int) {
-                    const value = index >= 0 ? menu.entries[index].value : undefined
-                    if (value === undefined)
+                function run(index: int, isByKeyboard: bool) {
+                    if (!leads(index))
                         return
-                    menu.dismiss()
-                    menu.action.call(null, value)
+                    const entry = menu.entries[index]
+                    if (entry.isBack) {
+                        menu.turnBack()
+                    } else if (entry.page) {
+                        menu.turnTo(index, isByKeyboard)
+                    } else {
+                        menu.dismiss()
+                        menu.action.call(null, entry.value)
+                    }
                 }
+                Keys.onRightPressed: if (menu.entries[current]?.page) run(current, true)
+                Keys.onLeftPressed: if (menu.trail.length > 0) menu.turnBack()
                 Keys.onDownPressed: move(current, 1)
                 Keys.onUpPressed: move(Math.max(0, current), -1)
                 Keys.onPressed: event => {
@@ -129,9 +167,9 @@ PopupWindow {
                     else if (event.key === Qt.Key_End)
                         move(0, -1)
                 }
-                Keys.onReturnPressed: run(current)
-                Keys.onEnterPressed: run(current)
-                Keys.onSpacePressed: run(current)
+                Keys.onReturnPressed: run(current, true)
+                Keys.onEnterPressed: run(current, true)
+                Keys.onSpacePressed: run(current, true)
 
                 Repeater {
                     id: rows
@@ -141,12 +179,13 @@ PopupWindow {
                         id: entry
                         required property var modelData
                         required property int index
-                        readonly property bool isEntry: modelData.value !== undefined
+                        readonly property bool isEntry: column.leads(index)
+                        readonly property bool hasMark: (modelData.isChecked ?? false) || modelData.page !== undefined
                         readonly property bool isCurrent: column.current === index
                         readonly property bool hasSymbols: menu.entries.some(other => other.symbol || other.isChecked !== undefined)
 
                         width: column.width
-                        implicitWidth: label.x + Math.min(label.implicitWidth, 300) + (modelData.isChecked ? 44 : 20)
+                        implicitWidth: label.x + Math.min(label.implicitWidth, 300) + (hasMark ? 44 : 20)
                         implicitHeight: modelData.separator ? 9 : modelData.header ? 26 : 32
 
                         onIsCurrentChanged: if (isCurrent) forceActiveFocus()
@@ -156,7 +195,7 @@ PopupWindow {
                         Accessible.name: modelData.text ?? modelData.header ?? ""
                         Accessible.ignored: modelData.separator ?? false
                         Accessible.checked: modelData.isChecked ?? false
-                        Accessible.onPressAction: column.run(index)
+                        Accessible.onPressAction: column.run(index, true)
 
                         Rectangle {
                             visible: entry.modelData.separator ?? false
@@ -183,7 +222,8 @@ PopupWindow {
                         Label {
                             id: label
                             colors: menu.colors
-                            color: entry.modelData.header ? menu.colors.secondaryText : menu.colors.text
+                            color: entry.modelData.isGrave ? menu.colors.grave
+                                 : entry.isEntry && !entry.modelData.isQuiet ? menu.colors.text : menu.colors.secondaryText
                             text: entry.modelData.text ?? entry.modelData.header ?? ""
                             font.pixelSize: entry.modelData.header ? Theme.textSmall : Theme.text
                             font.weight: entry.modelData.header ? Font.DemiBold : Font.Normal
@@ -192,8 +232,8 @@ PopupWindow {
                             anchors.verticalCenter: parent.verticalCenter
                         }
                         Symbol {
-                            visible: entry.modelData.isChecked ?? false
-                            name: "checkmark"
+                            visible: entry.hasMark
+                            name: entry.modelData.page ? "chevron.right" : "checkmark"
                             size: 15
                             color: menu.colors.text
                             anchors.right: parent.right
@@ -202,7 +242,7 @@ PopupWindow {
                         }
                         TapHandler {
                             enabled: entry.isEntry
-                            onTapped: column.run(entry.index)
+                            onTapped: column.run(entry.index, false)
                         }
                     }
                 }

@@ -37,52 +37,81 @@ QtObject {
         open(item, entries, minutes => minutes < 0 ? focusState.stop() : focusState.start(minutes))
     }
 
-    function showAppMenu(item: Item, bundleID: string, name: string, isRunning: bool, isInMode: bool) {
-        const membership = isInMode ? { text: qsTr("Remove from %1").arg(dock.modeName), value: "remove", symbol: "xmark" }
-                                    : { text: qsTr("Add to %1").arg(dock.modeName), value: "add", symbol: "plus" }
-        const reveal = { text: qsTr("Show in File Manager"), value: "reveal", symbol: "folder" }
-        const entries = isRunning
-            ? [{ header: name }, { text: qsTr("Bring to Front"), value: "open", symbol: "arrow.right" },
-               { text: qsTr("Show All Windows"), value: "showAll", symbol: "app.dashed" },
-               { text: qsTr("Hide"), value: "hide", symbol: "moon" }, membership, reveal,
-               { separator: true }, { text: qsTr("Quit"), value: "quit", symbol: "stop" }]
-            : [{ header: name }, { text: qsTr("Open"), value: "open", symbol: "arrow.right" }, membership, reveal]
-        open(item, entries, choice => runAppChoice(bundleID, choice))
+    // Entries whose values are what is done when they are chosen.
+    function offer(item: Item, entries: var) {
+        open(item, entries, run => run())
+    }
+    // One list out of several, with lines between those that are not empty.
+    function parted(...parts) {
+        return parts.filter(part => part.length > 0).reduce((list, part) => list.length > 0 ? [...list, { separator: true }, ...part] : part, [])
     }
 
-    function runAppChoice(bundleID: string, choice: string) {
-        switch (choice) {
-        case "open": dock.openApp(bundleID); break
-        case "showAll": dock.showAllWindows(bundleID); break
-        case "hide": dock.hideApp(bundleID); break
-        case "add": dock.setInMode(bundleID, true); break
-        case "remove": dock.setInMode(bundleID, false); break
-        case "reveal": dock.revealApp(bundleID); break
-        case "quit": dock.quitApp(bundleID); break
-        }
+    function showAppMenu(item: Item, bundleID: string, name: string, isRunning: bool, isInMode: bool) {
+        const actions = dock.actions
+        const entry = window => ({ text: window.title === "" ? name : window.title, value: () => actions.raiseWindow(window.id),
+                                   isChecked: window.isFront, isQuiet: window.isMinimized })
+        const windows = actions.windows(bundleID).sort((one, other) => one.id - other.id)
+        const own = actions.actions(bundleID)
+        const hasNewWindow = own.some(action => action.id.replace("-", "").toLowerCase() === "newwindow")
+        const start = isRunning ? [] : [{ text: qsTr("Open"), value: () => actions.open(bundleID), symbol: "arrow.right" }]
+        const another = isRunning && !hasNewWindow ? [{ text: qsTr("New Window"), value: () => actions.openWindow(bundleID), symbol: "plus" }] : []
+        const hiding = isRunning ? [{ text: qsTr("Hide"), value: () => actions.hide(bundleID) },
+                                    { text: qsTr("Hide Others"), value: () => actions.hideOthers(bundleID) },
+                                    { text: qsTr("Show All Windows"), value: () => actions.showAllWindows(bundleID) }] : []
+        const ending = isRunning ? [{ text: qsTr("Quit"), value: () => actions.quit(bundleID), symbol: "stop" },
+                                    { text: qsTr("Force Quit"), value: () => actions.forceQuit(bundleID), symbol: "bolt", isGrave: true }] : []
+        offer(item, [{ header: name },
+                     ...parted(windows.filter(window => !window.isMinimized).map(entry),
+                               windows.filter(window => window.isMinimized).map(entry),
+                               [...start, ...another, ...own.map(action => ({ text: action.name, value: () => actions.runAction(bundleID, action.id) }))],
+                               membership(bundleID, isInMode), hiding,
+                               [{ text: qsTr("Show in File Manager"), value: () => actions.reveal(bundleID), symbol: "folder" }],
+                               ending)])
+    }
+
+    // Which modes the application belongs to, and what can be changed about that.
+    function membership(bundleID: string, isInMode: bool): var {
+        const actions = dock.actions
+        const modes = actions.modes(bundleID)
+        const entry = (mode, run) => ({ text: mode.name, symbol: mode.symbol, tint: mode.tint, isChecked: mode.hasApp, value: run })
+        const add = modes.map(mode => entry(mode, () => mode.hasApp ? actions.remove(bundleID, mode.id) : actions.add(bundleID, mode.id)))
+        const move = modes.filter(mode => mode.id !== dock.modeID).map(mode => entry(mode, () => actions.move(bundleID, dock.modeID, mode.id)))
+        return [{ text: qsTr("Add to"), symbol: "square.stack", page: add },
+                ...isInMode && move.length > 0 ? [{ text: qsTr("Move to"), symbol: "arrow.right", page: move }] : [],
+                ...isInMode ? [{ text: qsTr("Remove from %1").arg(dock.modeName), symbol: "xmark", value: () => actions.remove(bundleID, dock.modeID) }] : []]
     }
 
     function showModeMenu(item: Item, modeID: string, name: string, isCurrent: bool, heldCount: int) {
-        const change = isCurrent ? [] : [{ text: qsTr("Switch to %1").arg(name), value: "switch", symbol: "arrow.right" }]
-        const held = heldCount === 0 ? [] : [{ text: qsTr("Held Messages (%1)…").arg(heldCount), value: "held", symbol: "bell.badge" }]
-        const separator = isCurrent && heldCount === 0 ? [] : [{ separator: true }]
-        const entries = [{ header: name }, ...change, ...held, ...separator,
-                         { text: qsTr("Settings…"), value: "settings", symbol: "gearshape" }]
         const isByKeyboard = panel.hasKeyboard
-        open(item, entries, choice => runModeChoice(modeID, choice, isByKeyboard))
+        const budget = dock.budgetUsed(modeID)
+        const change = isCurrent ? [] : [{ text: qsTr("Switch to %1").arg(name), value: () => dock.requestMode(modeID), symbol: "arrow.right" }]
+        const held = heldCount === 0 ? [] : [{ text: qsTr("Held Messages (%1)…").arg(heldCount), value: () => dock.showHeld(modeID, isByKeyboard), symbol: "bell.badge" }]
+        offer(item, [{ header: name },
+                     ...parted(budget === "" ? [] : [{ text: budget, symbol: "hourglass" }], [...change, ...held],
+                               [{ text: qsTr("Edit Mode…"), value: () => dock.openSettings("modes"), symbol: "pencil" },
+                                { text: qsTr("Settings…"), value: () => dock.openSettings("general"), symbol: "gearshape" }])])
     }
 
-    function runModeChoice(modeID: string, choice: string, isByKeyboard: bool) {
-        switch (choice) {
-        case "switch": dock.requestMode(modeID); break
-        case "held": dock.showHeld(modeID, isByKeyboard); break
-        case "settings": dock.openSettings("modes"); break
-        }
+    function showWindowMenu(item: Item, window: var, title: string) {
+        offer(item, [{ header: title }, { text: qsTr("Restore"), value: () => dock.actions.raiseWindow(window), symbol: "arrow.uturn.backward" },
+                     { text: qsTr("Close"), value: () => dock.actions.closeWindow(window), symbol: "xmark" }])
+    }
+
+    function showTrashMenu(item: Item) {
+        const empty = dock.trash.isEmpty ? [] : [{ text: qsTr("Empty Trash…"), value: () => dock.trash.askToEmpty(), isGrave: true, symbol: "trash" }]
+        offer(item, [{ header: qsTr("Trash") }, { text: qsTr("Open"), value: () => dock.trash.open(), symbol: "folder" }, ...empty])
     }
 
     function showDockMenu(item: Item) {
-        const entries = [{ text: qsTr("Settings…"), value: "settings", symbol: "gearshape" }, { separator: true },
-                         { text: qsTr("Quit Fendrel"), value: "quit", symbol: "stop" }]
-        open(item, entries, choice => choice === "quit" ? dock.quit() : dock.openSettings("dock"))
+        const settings = dock.preferences
+        const choice = (property, names) => names.map((text, index) => ({ text: text, isChecked: settings[property] === index, value: () => settings[property] = index }))
+        const flag = (property, text) => ({ text: text, isChecked: settings[property], value: () => settings[property] = !settings[property] })
+        const name = dock.systemDock
+        const replace = name === "" ? [] : [{ text: qsTr("Replace %1").arg(name), isChecked: dock.replacesDock, value: () => dock.replaceDock(!dock.replacesDock) }]
+        offer(item, parted([{ text: qsTr("Position"), page: choice("dockPosition", [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]) },
+                            { text: qsTr("Size"), page: choice("dockSize", [qsTr("Small"), qsTr("Medium"), qsTr("Large")]) }],
+                           [flag("autoHide", qsTr("Hide Automatically")), flag("magnify", qsTr("Magnify Icons")), ...replace],
+                           [{ text: qsTr("Settings…"), value: () => dock.openSettings("dock"), symbol: "gearshape" }],
+                           [{ text: qsTr("Quit Fendrel"), value: () => dock.quit(), symbol: "stop" }]))
     }
 }

@@ -1,11 +1,18 @@
 #include "UI/Dock/DockPanel.h"
 
 #include "App/AppController.h"
+#include "Base/GuardedEdge.h"
 #include "UI/Focus/FocusController.h"
 #include "UI/Focus/VerdictController.h"
 #include "UI/ScreenSpace.h"
 
 #include <QPainterPath>
+#include <QQuickItem>
+#include <QtMath>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
 
 namespace fendrel {
 
@@ -17,11 +24,17 @@ namespace {
 constexpr int roomAbove = 64;
 constexpr int roomBeside = 300;
 
+constexpr auto slideOut = std::chrono::milliseconds(320); // as long as DockView takes
+
 } // namespace
 
 DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
                      VerdictController& verdict)
-    : QQuickView(&engine, nullptr), m_controller(controller), m_dock(dock), m_keyboard(*this, controller.titles()) {
+    : QQuickView(&engine, nullptr),
+      m_controller(controller),
+      m_dock(dock),
+      m_edge(dock.edge()),
+      m_keyboard(*this, controller.titles()) {
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
     setColor(Qt::transparent);
     setTitle(tr("Fendrel dock"));
@@ -40,25 +53,58 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
 }
 
 void DockPanel::place(const Display& display) {
-    m_display = display;
-    const QRect screen = ScreenSpace::toLogical(display.frame);
-    const int thickness = m_dock.iconSize() + 40;
-    QRect window = screen;
+    m_destination = display;
+    const bool isElsewhere = display.id != m_display.id || m_dock.edge() != m_edge;
+    if (m_departure)
+        return;
+    if (!isElsewhere || !canSlideAway()) {
+        arrive();
+        return;
+    }
+    m_keyboard.release();
+    m_departure = m_controller.platform().clock->after(slideOut, [this] { arrive(); });
+    updateInput(inputArea());
+    updateMask();
+    Q_EMIT visibilityWanted();
+}
+
+bool DockPanel::canSlideAway() const {
+    const auto displays = m_controller.platform().displays->all();
+    const bool isStillThere = std::ranges::find(displays, m_display.id, &Display::id) != displays.end();
+    return isVisible() && isStillThere && isShown() && !m_controller.platform().look->reducesMotion();
+}
+
+void DockPanel::arrive() {
+    m_display = m_destination;
+    // Where the system's dock is still there, ours stands beside it and beside other panels.
+    const bool hugsEdge = m_controller.replacement().isOn();
+    QRect window = ScreenSpace::toLogical(hugsEdge ? m_display.frame : m_display.workArea);
+    const int thickness = m_dock.iconSize() + 40 + qCeil(m_dock.iconSize() * (m_dock.magnification() - 1));
     if (m_dock.edge() == Qt::BottomEdge)
-        window.setTop(screen.bottom() + 1 - thickness - roomAbove);
+        window.setTop(window.bottom() + 1 - thickness - roomAbove);
     else if (m_dock.edge() == Qt::LeftEdge)
         window.setWidth(thickness + roomBeside);
     else
-        window.setLeft(screen.right() + 1 - thickness - roomBeside);
+        window.setLeft(window.right() + 1 - thickness - roomBeside);
     m_frame = window;
     setGeometry(window);
     m_input.reset(); // what was said holds for the displays as they were
     m_reserved.reset();
+    // The server takes its time to tell of the new size. Until then a bar for the old one would be in wrong places.
+    if (rootObject() != nullptr)
+        rootObject()->setSize(window.size());
+    if (std::exchange(m_edge, m_dock.edge()) != m_dock.edge())
+        Q_EMIT edgeChanged();
+    m_departure.reset();
     if (source().isEmpty()) {
         setSource(QUrl(u"qrc:/qml/Fendrel/Dock/DockView.qml"_s));
         show();
     }
+    // What happened on the way was told of the old place.
+    m_controller.dockPointerChanged(m_display.id, m_isPointerInside);
+    m_controller.dockHoldChanged(m_display.id, m_isHeld);
     updateRegions();
+    Q_EMIT visibilityWanted();
 }
 
 void DockPanel::setBar(const QRectF& bar) {
@@ -69,12 +115,20 @@ void DockPanel::setBar(const QRectF& bar) {
     Q_EMIT barChanged();
 }
 
+void DockPanel::setSwelling(const QRectF& area) {
+    if (area == m_swelling)
+        return;
+    m_swelling = area;
+    updateRegions();
+    Q_EMIT swellingChanged();
+}
+
 QRect DockPanel::restingPlace() const {
     return m_bar.toAlignedRect().translated(m_frame.topLeft());
 }
 
 bool DockPanel::isShown() const {
-    return m_controller.isDockShown(m_display.id);
+    return !m_departure && m_controller.isDockShown(m_display.id);
 }
 
 bool DockPanel::isTransparent() const {
@@ -97,33 +151,35 @@ void DockPanel::setHeld(bool held) {
     Q_EMIT heldChanged();
 }
 
-/// A rectangle of the window, stretched to the edge of the display.
+/// A rectangle of the window, stretched to the window's edge.
 QRect DockPanel::toEdge(QRect rect) const {
-    switch (m_dock.edge()) {
+    switch (m_edge) {
     case Qt::LeftEdge:
         rect.setLeft(0);
         break;
     case Qt::RightEdge:
-        rect.setRight(width() - 1);
+        rect.setRight(m_frame.width() - 1);
         break;
     default:
-        rect.setBottom(height() - 1);
+        rect.setBottom(m_frame.height() - 1);
         break;
     }
     return rect;
 }
 
-/// What stays of a hidden dock, to notice the pointer at the edge.
+/// What stays of a hidden dock, to notice the pointer at the edge: at one of the screen's it may be kept off a little.
+/// Where nothing blends windows, it is seen, and no longer than the bar.
 QRect DockPanel::hiddenStrip() const {
-    constexpr int thickness = 2;
-    switch (m_dock.edge()) {
-    case Qt::LeftEdge:
-        return {0, 0, thickness, height()};
-    case Qt::RightEdge:
-        return {width() - thickness, 0, thickness, height()};
-    default:
-        return {0, height() - thickness, width(), thickness};
-    }
+    const double margin = GuardedEdge::margin + 1; // device pixels
+    const int thickness = m_controller.replacement().isOn() ? qCeil(margin / devicePixelRatio()) : 2;
+    QRect strip(QPoint(), m_frame.size());
+    if (m_edge == Qt::LeftEdge)
+        strip.setRight(thickness - 1);
+    else if (m_edge == Qt::RightEdge)
+        strip.setLeft(strip.right() + 1 - thickness);
+    else
+        strip.setTop(strip.bottom() + 1 - thickness);
+    return isTransparent() ? strip : strip & toEdge(m_bar.toAlignedRect());
 }
 
 /// Tells the window system where the bar is: what other windows may not cover, where it takes input, and, where nothing
@@ -131,16 +187,29 @@ QRect DockPanel::hiddenStrip() const {
 void DockPanel::updateRegions() {
     if (m_bar.isEmpty() || !isVisible())
         return;
-    // A dock that hides by itself stays while the pointer is at the very edge that brought it.
-    const QRect bar = m_bar.toAlignedRect();
-    updateInput(!isShown() ? hiddenStrip() : m_controller.preferences().autoHide() ? toEdge(bar) : bar);
+    updateInput(inputArea());
     updateReserved();
     updateMask();
 }
 
+QRect DockPanel::inputArea() const {
+    if (m_departure || isCovered())
+        return {};
+    const QRect bar = m_bar.toAlignedRect();
+    if (!isShown())
+        return hiddenStrip();
+    // A dock that hides by itself stays while the pointer is at the very edge that brought it.
+    return m_controller.preferences().autoHide() ? toEdge(bar) : bar;
+}
+
 void DockPanel::updateInput(const QRect& input) {
     const double ratio = devicePixelRatio();
-    const QRect region = QRectF(QPointF(input.topLeft()) * ratio, QSizeF(input.size()) * ratio).toAlignedRect();
+    const auto scaled = [ratio](const QRectF& area) {
+        return QRectF(area.topLeft() * ratio, area.size() * ratio).toAlignedRect();
+    };
+    QRegion region = scaled(input);
+    if (isShown() && !input.isEmpty())
+        region += scaled(m_swelling);
     if (region != m_input) {
         m_input = region;
         m_controller.platform().panels->setInputRegion(winId(), region);
@@ -151,26 +220,39 @@ void DockPanel::updateInput(const QRect& input) {
     }
 }
 
+/// From the bar to the edge of the display, whatever other panels stand between.
 void DockPanel::updateReserved() {
     QRect reserved;
     if (!m_controller.preferences().autoHide()) {
         const QRect area = toEdge(m_bar.toAlignedRect());
-        const QRect strip = m_dock.edge() == Qt::BottomEdge ? QRect(0, area.top(), width(), area.height())
-                                                            : QRect(area.left(), 0, area.width(), height());
+        const QRect strip = m_edge == Qt::BottomEdge ? QRect(0, area.top(), m_frame.width(), area.height())
+                                                     : QRect(area.left(), 0, area.width(), m_frame.height());
         reserved = ScreenSpace::toDevice(strip.translated(m_frame.topLeft()));
+        if (m_edge == Qt::LeftEdge)
+            reserved.setLeft(m_display.frame.left());
+        else if (m_edge == Qt::RightEdge)
+            reserved.setRight(m_display.frame.right());
+        else
+            reserved.setBottom(m_display.frame.bottom());
     }
     if (reserved == m_reserved)
         return;
     m_reserved = reserved;
-    m_controller.platform().panels->reserve(winId(), m_dock.edge(), m_display.frame, reserved);
+    m_controller.platform().panels->reserve(winId(), m_edge, m_display.frame, reserved);
 }
 
 void DockPanel::updateMask() {
     QRegion mask;
     if (!isTransparent()) {
-        QPainterPath outline;
-        outline.addRoundedRect(m_bar, m_dock.cornerRadius(), m_dock.cornerRadius());
-        mask = QRegion(outline.toFillPolygon().toPolygon());
+        mask = QRect(-1, -1, 1, 1); // nothing: an empty one would not count as a mask
+        if (isShown()) {
+            QPainterPath outline;
+            outline.addRoundedRect(m_bar, m_dock.cornerRadius(), m_dock.cornerRadius());
+            mask += QRegion(outline.toFillPolygon().toPolygon());
+        }
+        // What is cut off takes no input either.
+        if (m_controller.preferences().autoHide() && !inputArea().isEmpty())
+            mask += hiddenStrip();
     }
     if (mask == m_mask)
         return;
@@ -183,11 +265,24 @@ void DockPanel::takeKeyboard() {
         Q_EMIT keyboardTaken();
 }
 
+/// The part of the bar that an item is in, on the desktop.
+QRectF DockPanel::beside(const QRectF& item) const {
+    const QRectF part = m_dock.edge() == Qt::BottomEdge ? QRectF(item.x(), m_bar.y(), item.width(), m_bar.height())
+                                                        : QRectF(m_bar.x(), item.y(), m_bar.width(), item.height());
+    return part.translated(m_frame.topLeft());
+}
+
 void DockPanel::openMenu(PopupWindow* menu, const QRectF& item, double gap) {
-    const QRectF anchor = m_dock.edge() == Qt::BottomEdge ? QRectF(item.x(), m_bar.y(), item.width(), m_bar.height())
-                                                          : QRectF(m_bar.x(), item.y(), m_bar.width(), item.height());
     m_controller.platform().panels->prepare(menu->winId(), Panels::Kind::menu);
-    menu->openBeside(this, anchor.translated(m_frame.topLeft()), m_dock.edge(), gap);
+    menu->openBeside(this, beside(item), m_dock.edge(), gap);
+}
+
+void DockPanel::openBeside(BesideWindow* window, const QRectF& item, double gap, const QRectF& input) {
+    Panels& panels = *m_controller.platform().panels;
+    panels.prepare(window->winId(), Panels::Kind::menu);
+    window->openBeside(this, beside(item), m_dock.edge(), gap);
+    const double ratio = devicePixelRatio();
+    panels.setInputRegion(window->winId(), QRectF(input.topLeft() * ratio, input.size() * ratio).toAlignedRect());
 }
 
 void DockPanel::transparencyDidChange() {

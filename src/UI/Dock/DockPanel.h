@@ -26,6 +26,8 @@ class DockPanel : public QQuickView {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(QRectF bar READ bar WRITE setBar NOTIFY barChanged)
+    Q_PROPERTY(QRectF swelling READ swelling WRITE setSwelling NOTIFY swellingChanged)
+    Q_PROPERTY(Qt::Edge edge READ edge NOTIFY edgeChanged)
     Q_PROPERTY(bool isShown READ isShown NOTIFY visibilityWanted)
     Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
     Q_PROPERTY(bool isPointerInside READ isPointerInside WRITE setPointerInside NOTIFY pointerChanged)
@@ -36,12 +38,18 @@ public:
     DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
               VerdictController& verdict);
 
-    void place(const Display& display);                    ///< also takes over a changed edge
+    /// Takes over a changed edge too. To another edge or display it slides: out of the old place, into the new one.
+    void place(const Display& display);
+    bool isCovered() const { return m_display.isFullScreen; }
     const QRect& touchable() const { return m_touchable; } ///< where it takes input, in device pixels
     QRect restingPlace() const;                            ///< of the bar, on the desktop; also while it is hidden
 
     QRectF bar() const { return m_bar; } ///< where the bar rests, in the window
     void setBar(const QRectF& bar);
+    /// Where icons stand out of the bar under the pointer, in the window; empty while they do not.
+    QRectF swelling() const { return m_swelling; }
+    void setSwelling(const QRectF& area);
+    Qt::Edge edge() const { return m_edge; }
     bool isShown() const;
     bool isTransparent() const;
     bool isPointerInside() const { return m_isPointerInside; }
@@ -55,12 +63,19 @@ public:
     bool hasKeyboard() const { return m_keyboard.isHere(); }
     Q_INVOKABLE void releaseKeyboard() { m_keyboard.release(); }
 
+    /// Leads the keyboard here while something is carried, so that Escape takes it back.
+    Q_INVOKABLE void borrowKeyboard() { m_keyboard.take(); }
+
     /// Opens a menu beside the bar, at one of its items.
     Q_INVOKABLE void openMenu(fendrel::PopupWindow* menu, const QRectF& item, double gap);
+    /// Opens what is only for the pointer in the same way. `input`: where that window takes the pointer.
+    Q_INVOKABLE void openBeside(fendrel::BesideWindow* window, const QRectF& item, double gap, const QRectF& input);
     Q_INVOKABLE void menuClosed() { m_keyboard.resume(); }
 
 Q_SIGNALS:
     void barChanged();
+    void swellingChanged();
+    void edgeChanged();
     void visibilityWanted();
     void transparencyChanged();
     void pointerChanged();
@@ -70,9 +85,13 @@ Q_SIGNALS:
     void keyboardChanged();
 
 private:
+    bool canSlideAway() const;
+    void arrive();
+    QRectF beside(const QRectF& item) const;
     QRect toEdge(QRect rect) const;
     QRect hiddenStrip() const;
     void updateRegions();
+    QRect inputArea() const;
     void updateInput(const QRect& input);
     void updateReserved();
     void updateMask();
@@ -80,11 +99,15 @@ private:
     AppController& m_controller;
     DockController& m_dock;
     Display m_display;
+    Display m_destination; ///< the same, but on the way
+    Qt::Edge m_edge;
+    std::optional<Handle> m_departure; ///< here while it slides out of a place that it leaves
     QRect m_frame; ///< where the window is meant to be: what the window manager says of it comes late
     QRectF m_bar;
+    QRectF m_swelling;
     QRect m_touchable;
     // What the window system was told last. It is told again only when this differs: window managers lay out anew.
-    std::optional<QRect> m_input;
+    std::optional<QRegion> m_input;
     std::optional<QRect> m_reserved;
     QRegion m_mask;
     bool m_isPointerInside = false;

@@ -7,7 +7,7 @@ Item {
     id: tip
 
     required property int edge
-    required property Rectangle bar
+    required property Item bar
     property bool isSuppressed: false
     property real scrolled: 0 // changes when items move without changing their own place
 
@@ -28,16 +28,22 @@ Item {
     function place() {
         if (!current)
             return
-        const center = current.item.mapToItem(tip, current.item.width / 2, current.item.height / 2)
-        spot = edge === Qt.BottomEdge ? Qt.point(center.x, bar.y - 10)
-             : edge === Qt.LeftEdge ? Qt.point(bar.x + bar.width + 10, center.y)
-             : Qt.point(bar.x - 10, center.y)
+        const item = current.item as DockItem
+        const isVertical = edge !== Qt.BottomEdge
+        const center = item.mapToItem(tip, (item.width + (isVertical ? 0 : item.leading)) / 2 + (isVertical ? 0 : item.aside),
+                                      (item.height + (isVertical ? item.leading : 0)) / 2 + (isVertical ? item.aside : 0))
+        const away = 10 + item.rise
+        spot = edge === Qt.BottomEdge ? Qt.point(center.x, bar.y - away)
+             : edge === Qt.LeftEdge ? Qt.point(bar.x + bar.width + away, center.y)
+             : Qt.point(bar.x - away, center.y)
         spotText = current.text
     }
     onCurrentChanged: place()
     onScrolledChanged: place()
     Connections {
-        target: tip.current?.item ?? null
+        target: (tip.current?.item ?? null) as DockItem
+        function onAsideChanged() { tip.place() }
+        function onRiseChanged() { tip.place() }
         function onXChanged() { tip.place() }
         function onWidthChanged() { tip.place() }
     }

@@ -11,7 +11,7 @@ FocusScope {
     required property FocusController focusState
     required property VerdictController verdict
 
-    readonly property int edge: dock.edge
+    readonly property int edge: panel.edge
     readonly property bool isVertical: edge !== Qt.BottomEdge
     readonly property int margin: 8
     readonly property int padding: 9
@@ -37,16 +37,50 @@ FocusScope {
 
         // The lines between the sections and the room around them.
         readonly property real separators: (apps.count > 0 ? 9 + 2 * root.spacing : 0) + 9 + 2 * root.spacing
+                                         + (minimized.visible ? 9 + 2 * root.spacing : 0) + (trash.visible ? root.spacing : 0)
 
         room: (root.isVertical ? root.height : root.width) - 2 * root.margin - 2 * root.padding
         steady: separators + chip.longest + focusButton.longest + meter.length + 2 * root.spacing
         current: separators + focusButton.length + (chip.visible ? chip.length + root.spacing : 0)
                  + (meter.visible ? meter.length + root.spacing : 0)
+                 + minimized.tilesLength + (trash.visible ? trash.length : 0)
         modeCount: pills.count
         nameLength: root.longestName
-        appCount: apps.count
+        appCount: apps.count + minimized.count + (trash.visible ? 1 : 0)
         fullIconSize: root.dock.iconSize
         fullSpacing: Math.max(0, root.spacing - 4)
+        swelling: root.swells ? (root.dock.magnification - 1) * 2.5 * (fullIconSize + iconRoom + fullSpacing) : 0
+    }
+
+    // Where nothing blends windows, the bar's outline is the window's own, which nothing can stand out of.
+    readonly property bool swells: dock.magnification > 1 && panel.isTransparent && !Theme.reducesMotion
+
+    Wave {
+        id: rowWave
+        start: appStrip.position
+        end: appStrip.position + appStrip.length
+        pointer: 0
+        factor: root.dock.magnification
+        reach: 2.5 * layout.pitch
+        amount: isWanted ? 1 : 0
+
+        // It follows the pointer as far as the ends of the row, and sinks where it was last when the pointer leaves.
+        readonly property bool isWanted: root.swells && isNear && hover.hovered && !drops.isActive && !picking.active && apps.count > 0
+        property bool isNear: false
+        function follow() {
+            const point = appStrip.row.mapFromItem(root, hover.point.position)
+            pointer = root.isVertical ? point.y : point.x
+            isNear = pointer >= start && pointer <= end
+        }
+        Behavior on amount { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
+    }
+    // Once a frame, however often the pointer reports.
+    FrameAnimation {
+        id: frame
+        onTriggered: {
+            running = false
+            rowWave.follow()
+        }
     }
 
     // Of the pills when they have stopped moving.
@@ -67,16 +101,40 @@ FocusScope {
     }
 
     Binding { target: root.panel; property: "bar"; value: root.resting; when: root.width > 0 }
+    Binding { target: root.panel; property: "swelling"; value: root.swollen }
     Binding { target: root.panel; property: "isPointerInside"; value: hover.hovered }
-    Binding { target: root.panel; property: "isHeld"; value: menu.visible || root.panel.hasKeyboard }
+    Binding { target: root.panel; property: "isHeld"; value: menu.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive }
 
-    HoverHandler { id: hover }
+    HoverHandler {
+        id: hover
+        onPointChanged: if (hovered && root.swells) frame.running = true
+    }
+
+    // Where icons can stand out of the bar under the pointer.
+    readonly property real overhang: Math.ceil(layout.iconSize * (dock.magnification - 1))
+    readonly property rect swollen: {
+        if (!rowWave.isWanted)
+            return Qt.rect(0, 0, 0, 0)
+        const row = appStrip.length
+        const along = (isVertical ? resting.y : resting.x) + padding + pillStrip.length + 9 + 2 * spacing
+        return edge === Qt.BottomEdge ? Qt.rect(along, resting.y - overhang, row, overhang)
+             : Qt.rect(edge === Qt.LeftEdge ? resting.x + resting.width : resting.x - overhang, along, overhang, row)
+    }
 
     Accessible.role: Accessible.ToolBar
     Accessible.name: qsTr("Fendrel dock")
 
     // Arrows go through the items, Home and End to the first and last; Escape gives the keyboard back.
     Keys.onPressed: event => {
+        if (event.key === Qt.Key_Escape && drops.isActive) {
+            drops.end()
+            return
+        }
+        if (event.matches(StandardKey.Undo)) {
+            root.dock.undo.undo()
+            event.accepted = true
+            return
+        }
         const forward = [Qt.Key_Right, Qt.Key_Down].includes(event.key)
         const backward = [Qt.Key_Left, Qt.Key_Up].includes(event.key)
         if (forward || backward) {
@@ -90,6 +148,11 @@ FocusScope {
             event.accepted = true
         } else if (event.key === Qt.Key_Escape) {
             root.panel.releaseKeyboard()
+            event.accepted = true
+        } else if (event.text > " " && !(event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier))) {
+            // A letter goes to the next application whose name begins with it.
+            const from = Array.from({ length: apps.count }, (none, index) => apps.itemAt(index)).findIndex(app => app.activeFocus)
+            apps.itemAt(root.dock.apps.find(event.text, from))?.forceActiveFocus(Qt.TabFocusReason)
             event.accepted = true
         }
     }
@@ -105,13 +168,23 @@ FocusScope {
     readonly property bool isGateOpen: dock.isGateOpen
     onIsGateOpenChanged: if (isGateOpen) panel.releaseKeyboard()
 
+    // Where nothing blends windows, the window's own shape makes the corners, and the edge of a dock that hides.
+    Rectangle {
+        anchors.fill: parent
+        visible: !root.panel.isTransparent
+        color: root.dock.background
+    }
+
     Item {
         id: slider
         anchors.fill: parent
 
         readonly property real away: root.panel.isShown ? 0 : (root.isVertical ? root.barWidth : root.barHeight) + root.margin + 20
         property real offset: away
-        Behavior on offset { NumberAnimation { duration: Theme.slow; easing.type: Easing.OutCubic } }
+        Behavior on offset {
+            enabled: root.panel.isTransparent
+            NumberAnimation { duration: Theme.slow; easing.type: Easing.OutCubic }
+        }
 
         transform: Translate {
             x: root.edge === Qt.LeftEdge ? -slider.offset : root.edge === Qt.RightEdge ? slider.offset : 0
@@ -119,40 +192,42 @@ FocusScope {
         }
 
         Shadow {
-            caster: bar
-            casterRadius: bar.radius
+            caster: surface
+            casterRadius: surface.radius
             opacity: root.dock.shadow
             visible: root.panel.isTransparent
         }
 
-        // Where nothing blends windows, the window's own shape makes the corners.
+        // What is seen of the bar, which grows with the row of applications; the bar itself keeps its place.
         Rectangle {
-            anchors.fill: bar
-            visible: !root.panel.isTransparent
-            color: root.dock.background
+            id: surface
+            x: bar.x + (root.isVertical ? 0 : rowWave.before)
+            y: bar.y + (root.isVertical ? rowWave.before : 0)
+            width: bar.width + (root.isVertical ? 0 : rowWave.after - rowWave.before)
+            height: bar.height + (root.isVertical ? rowWave.after - rowWave.before : 0)
+            radius: root.dock.cornerRadius
+            color: lookColors.faded(root.dock.background, root.panel.isTransparent && !Theme.increasesContrast ? root.dock.opacity : 1)
+            border.width: Theme.increasesContrast ? 2 : 1
+            readonly property color line: Theme.increasesContrast ? lookColors.text : lookColors.faded(lookColors.text, root.dock.border)
+            border.color: root.panel.isTransparent ? line : Qt.tint(root.dock.background, line)
+            Behavior on color { ColorAnimation { duration: Theme.slow } }
         }
 
-        Rectangle {
+        Item {
             id: bar
             x: root.resting.x
             y: root.resting.y
             width: root.barWidth
             height: root.barHeight
-            radius: root.dock.cornerRadius
-            color: lookColors.faded(root.dock.background, root.panel.isTransparent ? root.dock.opacity : 1)
-            border.width: 1
-            readonly property color line: lookColors.faded(lookColors.text, root.dock.border)
-            border.color: root.panel.isTransparent ? line : Qt.tint(root.dock.background, line)
 
             Behavior on x { enabled: bar.moves && !root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
             Behavior on width { enabled: bar.moves && !root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
             Behavior on y { enabled: bar.moves && root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
             Behavior on height { enabled: bar.moves && root.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
-            Behavior on color { ColorAnimation { duration: Theme.slow } }
             // What is there at the start is simply there; only later changes move.
             property bool isReady: false
             // Where nothing blends windows, theirs is cut to the bar at once.
-            readonly property bool moves: isReady && root.panel.isTransparent
+            readonly property bool moves: isReady && root.panel.isTransparent && root.panel.isShown
             SequentialAnimation {
                 running: true
                 PauseAnimation { duration: 500 }
@@ -167,6 +242,7 @@ FocusScope {
 
                 ScrollStrip {
                     id: pillStrip
+                    transform: Translate { x: root.isVertical ? 0 : rowWave.before; y: root.isVertical ? rowWave.before : 0 }
                     isVertical: root.isVertical
                     room: layout.pillsRoom
                     fullLength: root.pillsLength
@@ -197,18 +273,28 @@ FocusScope {
                             Component.onCompleted: if (isSought) pillStrip.reveal(pill)
                             background: root.dock.background
                             onPressed: root.dock.requestMode(modeID)
+                            onAppDropped: bundleID => root.dock.actions.add(bundleID, modeID)
                             onMenuAsked: menus.showModeMenu(pill, modeID, name, isCurrent, heldCount)
                         }
                     }
                 }
 
-                Separator { colors: lookColors; isVertical: root.isVertical; visible: apps.count > 0 }
+                Separator {
+                    colors: lookColors
+                    isVertical: root.isVertical
+                    visible: apps.count > 0
+                    transform: Translate { x: root.isVertical ? 0 : rowWave.before; y: root.isVertical ? rowWave.before : 0 }
+                }
 
                 ScrollStrip {
                     id: appStrip
                     isVertical: root.isVertical
                     room: layout.appsRoom(pillStrip.length)
                     isMoving: bar.moves
+                    isDraggable: false // a mouse picks applications up
+                    before: rowWave.before
+                    after: rowWave.after
+                    overhang: root.overhang + 32
                     spacing: layout.spacing
                     visible: apps.count > 0
 
@@ -223,6 +309,34 @@ FocusScope {
                         NumberAnimation { properties: "coming,scale"; to: 1; duration: Theme.normal }
                     }
 
+                    // Applications are picked up in the row, and taken back with Escape.
+                    DragHandler {
+                        id: picking
+                        target: null
+                        margin: rowWave.isUp ? root.overhang : 0
+                        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
+                        onActiveChanged: {
+                            if (!active) {
+                                drops.drop()
+                                root.panel.releaseKeyboard()
+                                return
+                            }
+                            const point = appStrip.row.mapFromItem(null, centroid.scenePressPosition)
+                            const app = appStrip.row.childAt(root.isVertical ? appStrip.row.width / 2 : point.x, root.isVertical ? point.y : appStrip.row.height / 2) as AppButton
+                            if (!app)
+                                return
+                            root.panel.borrowKeyboard()
+                            root.forceActiveFocus()
+                            drops.pickUp(app.bundleID)
+                            follow()
+                        }
+                        onCentroidChanged: if (active) follow()
+                        function follow() {
+                            const point = centroid.scenePosition
+                            drops.moveTo(point.x, point.y)
+                        }
+                    }
+
                     Repeater {
                         id: apps
                         model: root.dock.apps
@@ -235,52 +349,97 @@ FocusScope {
                             isVertical: root.isVertical
                             edge: root.edge
                             iconSize: layout.iconSize
-                            pictureSize: root.dock.iconSize
+                            wave: rowWave
+                            fullSize: Math.ceil(layout.iconSize * root.dock.magnification)
+                            cyclesWithWheel: !appStrip.isCut
                             share: appStrip.visibility(app)
-                            hoverScale: 1 + (root.dock.magnification - 1) * 0.45
                             markColor: root.dock.tint
+                            background: root.dock.background
                             leading: startsOthers ? layout.startOfOthers : 0
                             onIsSoughtChanged: if (isSought) appStrip.reveal(app)
                             Component.onCompleted: if (isSought) appStrip.reveal(app)
+                            onIsHoveredChanged: isHovered ? root.dock.restingPointer.enter(app) : root.dock.restingPointer.leave(app)
                             onPressed: {
+                                root.dock.restingPointer.close()
                                 root.panel.releaseKeyboard()
-                                root.dock.openApp(bundleID)
+                                root.dock.actions.click(bundleID)
+                            }
+                            onWindowAsked: root.dock.actions.openWindow(bundleID)
+                            onTurned: step => root.dock.actions.cycle(bundleID, step)
+                            onReceived: load => root.dock.actions.openFiles(bundleID, load.files)
+                            onMoveAsked: forward => {
+                                const neighbour = forward ? root.dock.apps.next(bundleID) : root.dock.apps.previous(bundleID)
+                                if (neighbour !== "")
+                                    root.dock.actions.place(bundleID, neighbour, forward)
                             }
                             onMenuAsked: menus.showAppMenu(app, bundleID, name, isRunning, isInMode)
                         }
                     }
                 }
 
-                Separator { colors: lookColors; isVertical: root.isVertical }
-
-                VerdictChip {
-                    id: chip
-                    colors: lookColors
-                    tip: dockTip
+                // What stands behind the applications.
+                Line {
                     isVertical: root.isVertical
-                    verdict: root.verdict
-                    wordsRoom: Math.min(150, Math.round(root.width / 9))
-                    onPressed: menus.correct(chip)
-                }
+                    spacing: root.spacing
+                    transform: Translate { x: root.isVertical ? 0 : rowWave.after; y: root.isVertical ? rowWave.after : 0 }
 
-                FocusButton {
-                    id: focusButton
-                    colors: lookColors
-                    tip: dockTip
-                    isVertical: root.isVertical
-                    focusState: root.focusState
-                    tint: root.dock.tint
-                    onPressed: menus.chooseFocus(focusButton)
-                    onMenuAsked: pressed()
-                }
+                    MinimizedStrip {
+                        id: minimized
+                        colors: lookColors
+                        tip: dockTip
+                        isVertical: root.isVertical
+                        spacing: root.spacing
+                        dock: root.dock
+                        menus: menus
+                        iconSize: layout.iconSize
+                        isMoving: bar.moves
+                    }
 
-                BudgetMeter {
-                    id: meter
-                    colors: lookColors
-                    tip: dockTip
-                    isVertical: root.isVertical
-                    focusState: root.focusState
-                    tint: root.dock.tint
+                    Separator { colors: lookColors; isVertical: root.isVertical }
+
+                    // Where widgets go.
+                    Item { id: widgets }
+
+                    VerdictChip {
+                        id: chip
+                        colors: lookColors
+                        tip: dockTip
+                        isVertical: root.isVertical
+                        verdict: root.verdict
+                        wordsRoom: Math.min(150, Math.round(root.width / 9))
+                        onPressed: menus.correct(chip)
+                    }
+
+                    FocusButton {
+                        id: focusButton
+                        colors: lookColors
+                        tip: dockTip
+                        isVertical: root.isVertical
+                        focusState: root.focusState
+                        tint: root.dock.tint
+                        onPressed: menus.chooseFocus(focusButton)
+                        onMenuAsked: pressed()
+                    }
+
+                    BudgetMeter {
+                        id: meter
+                        colors: lookColors
+                        tip: dockTip
+                        isVertical: root.isVertical
+                        focusState: root.focusState
+                        tint: root.dock.tint
+                    }
+
+                    TrashTile {
+                        id: trash
+                        visible: root.dock.trash.isShown
+                        colors: lookColors
+                        tip: dockTip
+                        isVertical: root.isVertical
+                        dock: root.dock
+                        iconSize: layout.iconSize
+                        onMenuAsked: menus.showTrashMenu(trash)
+                    }
                 }
             }
 
@@ -296,8 +455,44 @@ FocusScope {
             anchors.fill: parent
             edge: root.edge
             bar: bar
-            isSuppressed: menu.visible
+            isSuppressed: menu.visible || popover.isWanted || (drops.isActive && !drops.target)
             scrolled: appStrip.position + pillStrip.position
+        }
+    }
+
+    DockDrops {
+        id: drops
+        dock: root.dock
+        view: root
+        bar: bar
+        items: strip
+        strip: appStrip
+        isVertical: root.isVertical
+        iconSize: layout.iconSize
+        pitch: layout.pitch
+    }
+
+    CarriedPicture {
+        visible: drops.isActive && drops.load.isOurs
+        icon: visible ? root.dock.apps.icon(drops.load.app) : ""
+        size: layout.iconSize
+        pointer: Qt.point(root.panel.x + picking.centroid.scenePosition.x, root.panel.y + picking.centroid.scenePosition.y)
+        isFading: drops.isLeaving && root.dock.apps.isInMode(drops.load?.app ?? "")
+        hint: isFading ? qsTr("Remove") : ""
+    }
+
+    // What comes from other programs. It is asked at every move whether this place takes it.
+    DropArea {
+        anchors.fill: parent
+        onEntered: drag => drops.enter(drag.urls)
+        onPositionChanged: drag => drag.accepted = drops.moveTo(drag.x, drag.y)
+        onExited: drops.end()
+        onDropped: drop => {
+            drops.moveTo(drop.x, drop.y)
+            if (drops.drop())
+                drop.accept(Qt.CopyAction)
+            else
+                drop.accepted = false
         }
     }
 
@@ -306,6 +501,22 @@ FocusScope {
         colors: lookColors
         isTransparent: root.panel.isTransparent
         onDismissed: root.panel.menuClosed()
+    }
+
+    WindowsPopover {
+        id: popover
+        colors: lookColors
+        panel: root.panel
+        dock: root.dock
+        isTransparent: root.panel.isTransparent
+        isSuppressed: menu.visible || drops.isActive || !root.panel.isShown
+    }
+
+    UndoCard {
+        colors: lookColors
+        panel: root.panel
+        undo: root.dock.undo
+        isTransparent: root.panel.isTransparent
     }
 
     DockMenus {

@@ -12,7 +12,8 @@ DockItem {
     readonly property color foreground: focusState.isOn ? colors.onTint(tint) : colors.text
     readonly property string text: !focusState.isOn ? qsTr("Focus") : focusState.remaining === "" ? qsTr("Focused") : focusState.remaining
 
-    implicitWidth: isVertical ? 36 : content.implicitWidth + 24
+    // In steps, so that a minute less moves nothing.
+    implicitWidth: isVertical ? 36 : Math.ceil((content.implicitWidth + 24) / 12) * 12
     implicitHeight: isVertical && focusState.isOn && focusState.remaining !== "" ? 48 : 36
     tipText: !focusState.isOn ? qsTr("Start a focus session")
            : focusState.remaining === "" ? qsTr("Focus session, until you end it") : qsTr("Focus session, %1 left").arg(focusState.remaining)
@@ -22,7 +23,7 @@ DockItem {
 
     readonly property real longest: isVertical ? 48 : 132 // with hours and minutes left
 
-    width: Math.ceil(implicitWidth / 12) * 12 // in steps, so that a minute less moves nothing
+    width: implicitWidth
     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
     Rectangle {

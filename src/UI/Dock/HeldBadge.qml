@@ -1,7 +1,8 @@
 import QtQuick
 import Fendrel.Style
 
-// How many messages are held, at a mode's corner. The ring in the bar's colour keeps it apart from a pill of its tint.
+// How many messages are held, at a mode's corner, or what an application has to tell, at its icon's. The ring in the
+// bar's colour keeps it apart from a pill of its tint.
 Rectangle {
     id: badge
 
@@ -9,16 +10,18 @@ Rectangle {
     required property color tint
     required property color ring
     required property int count
+    property string note: "" // shown where there is nothing to count
 
-    property string text: ""
-    onCountChanged: if (count > 0) text = count > 99 ? qsTr("99+") : count
-    Component.onCompleted: countChanged()
+    readonly property string wanted: count > 99 ? qsTr("99+") : count > 0 ? count : note
+    property string text: "" // the last one, while it goes
+    onWantedChanged: if (wanted !== "") text = wanted
+    Component.onCompleted: text = wanted
 
     width: Math.max(height, Math.ceil(label.implicitWidth) + 10)
     height: 19
     radius: height / 2
     color: ring
-    scale: count > 0 ? 1 : 0
+    scale: wanted !== "" ? 1 : 0
     visible: scale > 0
     Behavior on scale { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutBack } }
     Accessible.ignored: true

@@ -17,6 +17,8 @@ DockItem {
     property color background: colors.card // of the bar
     property int pendingSeconds: 0
 
+    signal appDropped(bundleID: string)
+
     property int size: 36
     property bool isCompact: false
 
@@ -32,7 +34,10 @@ DockItem {
 
     tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(shortName.elidedText).arg(pendingSeconds)
            : heldCount > 0 ? shortName.elidedText + " · " + heldText : name
-    readonly property string heldText: heldCount === 0 ? "" : heldCount === 1 ? qsTr("1 held message") : qsTr("%1 held messages").arg(heldCount)
+    readonly property string heldText: heldCount === 0 ? "" : qsTr("%n held message(s)", "", heldCount)
+    targetText: qsTr("Add to %1").arg(name)
+    function takes(load: var): bool { return load.app !== "" }
+    onReceived: load => appDropped(load.app)
     z: heldCount > 0 ? 1 : 0 // the badge lies over the neighbour
 
     // The hint comes after the name, and is not to be pushed out of the label by it.
@@ -54,12 +59,12 @@ DockItem {
         anchors.fill: parent
         radius: pill.size / 3
         color: pill.isCurrent ? pill.tint
-             : pill.isPending ? pill.colors.faded(pill.tint, 0.2)
+             : pill.isPending || pill.isTarget ? pill.colors.faded(pill.tint, 0.2)
              : pill.isPressed ? pill.colors.pressed
              : pill.isHovered ? pill.colors.hover : pill.colors.faded(pill.tint, 0)
-        border.width: pill.isPending ? 1.5 : 0
-        border.color: pill.tint
-        scale: pill.isPressed ? 0.95 : 1
+        border.width: pill.isTarget ? 2 : pill.isPending ? 1.5 : Theme.increasesContrast && (pill.isCurrent || pill.isHovered) ? 2 : 0
+        border.color: Theme.increasesContrast || (pill.isTarget && pill.isCurrent) ? pill.colors.text : pill.tint
+        scale: pill.isPressed ? 0.95 : pill.isTarget ? 1.06 : 1
 
         Behavior on color { ColorAnimation { duration: Theme.normal } }
         Behavior on scale { NumberAnimation { duration: Theme.quick } }

@@ -8,9 +8,15 @@ Item {
 
     required property bool isVertical
     required property real room // pixels along the bar
+    property bool isDraggable: true
     property bool isMoving: true // a changed length is gone through, not jumped to
+    // How far what it shows reaches beyond its place, while the row swells: at most 0, and at least 0.
+    property int before: 0
+    property int after: 0
+    property int overhang: 32 // pixels that items may stand out of the bar
 
     default property alias content: line.data
+    readonly property Item row: line // whose coordinates are those of the items
     property alias spacing: line.spacing
     property alias add: line.add
     property alias move: line.move
@@ -48,6 +54,9 @@ Item {
         const beyond = 0.6 * length // shows what comes next, too
         scrollTo(Math.max(start + length + beyond - room, Math.min(start - beyond, glide.running ? glide.to : position)))
     }
+    function show(wanted: real) {
+        flickable[strip.isVertical ? "contentY" : "contentX"] = Math.max(0, Math.min(fullLength - room, wanted))
+    }
     function scrollTo(wanted: real) {
         glide.to = Math.max(0, Math.min(fullLength - room, wanted))
         glide.restart()
@@ -62,28 +71,45 @@ Item {
         flickable.contentY = 0
     }
 
-    Flickable {
-        id: flickable
-
-        // Icons grow and hop beyond the bar; only its ends cut them off.
-        readonly property int overhang: 32
-        x: strip.isVertical ? -overhang : 0
-        y: strip.isVertical ? 0 : -overhang
-        width: strip.width - 2 * x
-        height: strip.height - 2 * y
-        contentWidth: strip.isVertical ? width : strip.fullLength
-        contentHeight: strip.isVertical ? strip.fullLength : height
-        boundsBehavior: Flickable.StopAtBounds
-        interactive: strip.isCut
+    // Icons grow and hop beyond the bar; only its ends cut them off.
+    Item {
+        id: opening
+        x: strip.isVertical ? -strip.overhang : strip.before
+        y: strip.isVertical ? strip.before : -strip.overhang
+        width: strip.width + (strip.isVertical ? 2 * strip.overhang : strip.after - strip.before)
+        height: strip.height + (strip.isVertical ? strip.after - strip.before : 2 * strip.overhang)
         clip: strip.isCut
-        onMovementStarted: { glide.stop(); strip.revealed = null }
 
-        Line {
-            id: line
-            x: -flickable.x
-            y: -flickable.y
-            isVertical: strip.isVertical
+        Flickable {
+            id: flickable
+            x: -opening.x
+            y: -opening.y
+            width: strip.width
+            height: strip.height
+            contentWidth: strip.isVertical ? width : strip.fullLength
+            contentHeight: strip.isVertical ? strip.fullLength : height
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: strip.isCut && strip.isDraggable
+            onMovementStarted: { glide.stop(); strip.revealed = null }
+
+            Line {
+                id: line
+                isVertical: strip.isVertical
+            }
         }
+    }
+    // Where a mouse picks items up, fingers still drag the row.
+    DragHandler {
+        property real from: 0
+        target: null
+        enabled: strip.isCut && !strip.isDraggable
+        acceptedDevices: PointerDevice.TouchScreen
+        onActiveChanged: {
+            glide.stop()
+            strip.revealed = null
+            from = strip.position
+        }
+        onActiveTranslationChanged: if (active) strip.show(from - (strip.isVertical ? activeTranslation.y : activeTranslation.x))
     }
 
     NumberAnimation {

@@ -41,6 +41,7 @@ CardsPanel::CardsPanel(QQmlEngine& engine, AppController& controller, DockContro
     connect(&messages, &MessagesController::keyboardWanted, this, &CardsPanel::takeKeyboardToList);
     connect(&controller.gate(), &Gate::changed, this, &CardsPanel::update);
     connect(this, &CardsPanel::transparencyChanged, this, &CardsPanel::updateRegions);
+    update(); // what made it necessary may be there already
 }
 
 void CardsPanel::place(const Display& display, const QRect& bar) {

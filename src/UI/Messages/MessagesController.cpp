@@ -28,7 +28,7 @@ QString MessagesController::listTitle() const {
 
 QString MessagesController::listDetail() const {
     const int count = m_list.rowCount();
-    return count == 1 ? tr("1 message") : tr("%1 messages").arg(count);
+    return tr("%n message(s)", nullptr, count);
 }
 
 void MessagesController::showHeld(const QString& modeID, bool isByKeyboard) {

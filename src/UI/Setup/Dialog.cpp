@@ -1,6 +1,7 @@
 #include "UI/Setup/Dialog.h"
 
 #include <QCloseEvent>
+#include <QIcon>
 #include <QQuickItem>
 #include <QScreen>
 
@@ -12,6 +13,7 @@ Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, co
     : QQuickView(&engine, nullptr) {
     setFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setTitle(title);
+    setIcon(QIcon(u":/icons/fendrel.svg"_s)); // docks and cards need none, and drawing it in all sizes takes a while
     setInitialProperties(properties);
     setSource(QUrl(u"qrc:/qml/Fendrel/"_s + view));
     setResizeMode(SizeRootObjectToView);

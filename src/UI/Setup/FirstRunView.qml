@@ -98,7 +98,7 @@ FocusScope {
             anchors.verticalCenter: parent.verticalCenter
             colors: viewColors
             color: viewColors.secondaryText
-            text: root.chosen.length === 1 ? qsTr("1 mode chosen") : qsTr("%1 modes chosen").arg(root.chosen.length)
+            text: qsTr("%n mode(s) chosen", "", root.chosen.length)
         }
         PushButton {
             anchors { right: parent.right; rightMargin: 40; verticalCenter: parent.verticalCenter }

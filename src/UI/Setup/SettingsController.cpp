@@ -10,6 +10,7 @@ SettingsController::SettingsController(AppController& controller) : m_controller
     connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
     connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
     connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
+    connect(&controller.replacement(), &DockReplacement::changed, this, &SettingsController::dockChanged);
 }
 
 Preferences* SettingsController::preferences() {
@@ -33,6 +34,18 @@ QString SettingsController::modelProblem() const {
 
 QString SettingsController::messagesProblem() const {
     return m_controller.messages().unavailableReason();
+}
+
+bool SettingsController::replacesDock() const {
+    return m_controller.replacement().isOn();
+}
+
+QString SettingsController::systemDock() const {
+    return m_controller.replacement().dockName();
+}
+
+void SettingsController::replaceDock(bool on) {
+    m_controller.askToReplaceDock(on);
 }
 
 QString SettingsController::version() const {

@@ -20,6 +20,8 @@ class SettingsController : public QObject {
     Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
     Q_PROPERTY(QString modelProblem READ modelProblem NOTIFY stateChanged)
     Q_PROPERTY(QString messagesProblem READ messagesProblem NOTIFY stateChanged)
+    Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY dockChanged)
+    Q_PROPERTY(QString systemDock READ systemDock NOTIFY dockChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
     /// The built-in looks: name, background, isDark and isChosen.
     Q_PROPERTY(QVariantList presets READ presets NOTIFY looksChanged)
@@ -33,14 +35,18 @@ public:
     bool isDark() const;
     QString modelProblem() const;    ///< why no language model can be asked; empty while all is well
     QString messagesProblem() const; ///< why no messages are held; empty while all is well
+    bool replacesDock() const;
+    QString systemDock() const; ///< what there is to replace; empty when there is nothing
     QString version() const;
     QVariantList presets() const;
 
+    Q_INVOKABLE void replaceDock(bool on); ///< asks first
     Q_INVOKABLE void choosePreset(const QString& name);
 
 Q_SIGNALS:
     void paneChanged();
     void looksChanged();
+    void dockChanged();
     void stateChanged();
 
 private:

@@ -175,44 +175,9 @@ FocusScope {
 
     Component {
         id: dock
-        SettingsGroup {
+        DockSettings {
             colors: viewColors
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Position")
-                help: qsTr("The edge of the screen that the dock is at.")
-                Choice { colors: viewColors; name: qsTr("Position"); labels: [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]; current: root.preferences.dockPosition; onChosen: index => root.preferences.dockPosition = index }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Size")
-                help: qsTr("How large the icons are.")
-                Choice { colors: viewColors; name: qsTr("Size"); labels: [qsTr("Small"), qsTr("Medium"), qsTr("Large")]; current: root.preferences.dockSize; onChosen: index => root.preferences.dockSize = index }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Show on")
-                help: qsTr("The main display, the one you work on, or all of them.")
-                Choice { colors: viewColors; name: qsTr("Show on"); labels: [qsTr("Main"), qsTr("Active"), qsTr("All")]; current: root.preferences.dockDisplay; onChosen: index => root.preferences.dockDisplay = index }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Hide automatically")
-                help: qsTr("The dock comes when the pointer reaches its edge.")
-                Toggle { colors: viewColors; name: qsTr("Hide automatically"); isOn: root.preferences.autoHide; onToggled: on => root.preferences.autoHide = on }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Magnify icons")
-                help: qsTr("The icon under the pointer grows.")
-                Toggle { colors: viewColors; name: qsTr("Magnify icons"); isOn: root.preferences.magnify; onToggled: on => root.preferences.magnify = on }
-            }
-            SettingRow {
-                colors: viewColors
-                label: qsTr("Click to hide")
-                help: qsTr("Clicking the application that is in front hides it.")
-                Toggle { colors: viewColors; name: qsTr("Click to hide"); isOn: root.preferences.clickToHide; onToggled: on => root.preferences.clickToHide = on }
-            }
+            settings: root.settings
         }
     }
 

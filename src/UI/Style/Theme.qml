@@ -6,6 +6,8 @@ import QtQuick
 QtObject {
     // Set by the application: the user asks the desktop for less motion.
     property bool reducesMotion: false
+    // The same: for more contrast.
+    property bool increasesContrast: false
 
     readonly property int unit: 4
 

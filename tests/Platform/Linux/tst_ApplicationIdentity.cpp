@@ -35,6 +35,30 @@ private Q_SLOTS:
         QTEST(execArguments(entry).value_or(QStringList()), "arguments");
     }
 
+    void opensFiles_data() {
+        const Table<QString, QList<QStringList>> row("mimeType", "lines");
+        const QString a = u"/a b"_s;
+        const QString b = u"/%f"_s;
+        row("app %f -- x", {}, {{u"app"_s, a, u"--"_s, u"x"_s}, {u"app"_s, b, u"--"_s, u"x"_s}});
+        row("app --file=%f", {}, {{u"app"_s, u"--file="_s + a}, {u"app"_s, u"--file="_s + b}});
+        row("app %F", {}, {{u"app"_s, a, b}});
+        row("app %u", {},
+            {{u"app"_s, u"file:///a%20b"_s}, {u"app"_s, u"https://a.example/"_s}, {u"app"_s, u"file:///%25f"_s}});
+        row("app %% %U", {}, {{u"app"_s, u"%"_s, u"file:///a%20b"_s, u"https://a.example/"_s, u"file:///%25f"_s}});
+        row("app -x", u"text/plain"_s, {{u"app"_s, u"-x"_s, a}, {u"app"_s, u"-x"_s, b}});
+        row("app", {}, {}); // a terminal would run the file
+        row("app %F \"", {}, {});
+    }
+
+    void opensFiles() {
+        QFETCH(QString, mimeType);
+        const DesktopEntry entry{.exec = QString::fromLatin1(QTest::currentDataTag()),
+                                 .mimeTypes = mimeType.isEmpty() ? QStringList() : QStringList(mimeType)};
+        const QList<QUrl> files{QUrl::fromLocalFile(u"/a b"_s), QUrl(u"https://a.example/"_s), QUrl(u"--help"_s),
+                                QUrl::fromLocalFile(u"/%f"_s)};
+        QTEST(execLines(entry, files), "lines");
+    }
+
     void namesTheProgramThatAPersonWould() {
         const auto name = [](const char* exec) { return programName(QString::fromLatin1(exec)); };
         QCOMPARE(name("/usr/bin/app %U"), u"app"_s);

@@ -65,6 +65,20 @@ private Q_SLOTS:
         QCOMPARE(home.changes, 4);
     }
 
+    void readsActions() {
+        const auto entry = parseDesktopEntry("[Desktop Entry]\nType=Application\nName=A\nExec=a\n"
+                                             "Actions=new;bare;elsewhere;missing;new;private\n"
+                                             "[Desktop Action private]\nName=Private\nName[de]=Privat\nExec=a -p\n"
+                                             "[Desktop Action bare]\nName=No program\n"
+                                             "[Desktop Action elsewhere]\nName=X\nExec=a -x\nOnlyShowIn=Other;\n"
+                                             "[Desktop Action new]\nName=New\nExec=a -n\nIcon=new\n",
+                                             {.locales = {u"de"_s}, .desktops = {u"This"_s}});
+        QVERIFY(entry);
+        const QList<DesktopAction> expected{{.id = u"new"_s, .name = u"New"_s, .exec = u"a -n"_s, .icon = u"new"_s},
+                                            {.id = u"private"_s, .name = u"Privat"_s, .exec = u"a -p"_s}};
+        QCOMPARE(entry->actions, expected);
+    }
+
     void whatWasHandedOutLivesWhileNothingChanges() {
         Home home;
         home.put(u"/own/a.desktop"_s, "Exec=a\n");

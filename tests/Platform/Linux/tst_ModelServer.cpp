@@ -34,6 +34,7 @@ struct World {
     explicit World(const QStringList& options = {}) : model(clock, {u"127.0.0.1:1"_s}) {
         model.onAvailabilityChanged = [this] { ++changes; };
         start(options);
+        clock.advance(1s); // when it looks for the first time
     }
     ~World() { stop(); }
 
@@ -185,6 +186,7 @@ private Q_SLOTS:
         FakeClock clock;
         ModelServer model(clock);
         model.choose({.server = qEnvironmentVariable("FENDREL_MODEL_SERVER")});
+        clock.advance(1s);
         const auto until = [&clock](const auto& isSo) {
             return QTest::qWaitFor(
                 [&] {

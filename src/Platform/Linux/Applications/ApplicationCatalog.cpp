@@ -2,10 +2,14 @@
 
 #include "Platform/Linux/Applications/ExecLine.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <tuple>
 
 namespace fendrel {
+
+using namespace Qt::StringLiterals;
 
 ApplicationCatalog::ApplicationCatalog(QStringList folders, const DesktopEntryContext& context,
                                        ApplicationIdentity identity, Clock& clock)
@@ -33,6 +37,20 @@ void ApplicationCatalog::arrange() {
             m_installed.append({.bundleID = bundleID, .name = entry->name});
     }
     std::ranges::sort(m_installed, {}, &InstalledApp::bundleID);
+}
+
+std::optional<QString> ApplicationCatalog::identifierAt(const QUrl& address) const {
+    QString path;
+    if (address.isLocalFile())
+        path = address.toLocalFile();
+    else if (address.scheme() == "application"_L1)
+        path = address.host() + address.path(); // a host is in lower case, which finds the entry all the same
+    if (!path.endsWith(".desktop"_L1))
+        return {};
+    const auto* entry = index().byPath(path);
+    if (entry == nullptr)
+        entry = index().byID(QFileInfo(path).completeBaseName());
+    return entry == nullptr ? std::nullopt : std::optional(identifier(*entry));
 }
 
 ApplicationCatalog::Name ApplicationCatalog::identify(const WindowTraits& window) const {

@@ -5,7 +5,10 @@
 #include "Platform/Linux/Applications/WindowIdentity.h"
 #include "Ports/Applications.h"
 
+#include <QUrl>
+
 #include <functional>
+#include <optional>
 
 namespace fendrel {
 
@@ -27,6 +30,9 @@ public:
     };
     Name identify(const WindowTraits& window) const;
     QString identifier(const DesktopEntry& entry) const { return m_identity.ofEntry(entry); }
+    /// Of the application that a desktop entry's file or an address such as "application://org.gnome.Maps.desktop"
+    /// stands for; the file may be a copy. Nothing for anything else.
+    std::optional<QString> identifierAt(const QUrl& address) const;
 
     std::function<void()> onChanged = [] {};
 

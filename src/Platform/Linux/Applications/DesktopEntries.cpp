@@ -1,5 +1,7 @@
 #include "Platform/Linux/Applications/DesktopEntries.h"
 
+#include "Platform/Linux/Applications/WatchableFolder.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -21,13 +23,6 @@ QString idOf(const QString& folder, const QString& path) {
     QString id = path.sliced(folder.size() + 1);
     id.chop(8);
     return id.replace(u'/', u'-');
-}
-
-/// A folder that is not there yet is noticed through the one that it will be made in.
-QString watchable(QString folder) {
-    while (!QFileInfo::exists(folder) && folder.size() > 1)
-        folder = QFileInfo(folder).path();
-    return folder;
 }
 
 } // namespace
@@ -101,9 +96,10 @@ EntryIndex DesktopEntries::read() {
 
 const std::optional<DesktopEntry>& DesktopEntries::entryAt(const QFileInfo& file) {
     Known& known = m_known[file.filePath()];
-    if (known.modified == file.lastModified() && known.size == file.size())
+    const QDateTime modified = file.lastModified();
+    if (known.modified == modified && known.size == file.size())
         return known.entry;
-    known = {.modified = file.lastModified(), .size = file.size(), .entry = {}};
+    known = {.modified = modified, .size = file.size(), .entry = {}};
     QFile content(file.filePath());
     if (content.open(QIODevice::ReadOnly))
         known.entry = parseDesktopEntry(content.read(sizeLimit), m_context);

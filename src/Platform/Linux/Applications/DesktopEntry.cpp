@@ -10,6 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Group = KeyFile::mapped_type;
+
 /// Undoes the escapes of a string value. Stops at an unescaped `end`, and leaves `value` after it.
 QString unescaped(QStringView& value, QChar end = {}) {
     QString text;
@@ -45,6 +47,45 @@ QString unescaped(QStringView& value, QChar end = {}) {
     }
     value = value.mid(std::min(index + 1, value.size()));
     return text;
+}
+
+QString stringValue(const Group& group, const QString& key) {
+    const QString value = group.value(key);
+    QStringView rest = value;
+    return unescaped(rest);
+}
+
+QString localizedValue(const Group& group, const QString& key, const DesktopEntryContext& context) {
+    for (const QString& locale : context.locales) {
+        if (const QString suffixed = u"%1[%2]"_s.arg(key, locale); group.contains(suffixed))
+            return stringValue(group, suffixed);
+    }
+    return stringValue(group, key);
+}
+
+bool isForThisDesktop(const Group& group, const DesktopEntryContext& context) {
+    const auto namesIt = [&](const QString& key) {
+        return std::ranges::any_of(desktopEntryList(group.value(key)),
+                                   [&](const QString& desktop) { return context.desktops.contains(desktop); });
+    };
+    return !namesIt(u"NotShowIn"_s) && (!group.contains(u"OnlyShowIn"_s) || namesIt(u"OnlyShowIn"_s));
+}
+
+QList<DesktopAction> readActions(const KeyFile& file, const DesktopEntry& entry, const DesktopEntryContext& context) {
+    QList<DesktopAction> actions;
+    QStringList ids = desktopEntryList(file[u"Desktop Entry"_s].value(u"Actions"_s));
+    ids.removeDuplicates();
+    for (const QString& id : ids) {
+        const Group group = file.value(u"Desktop Action "_s + id);
+        const DesktopAction action{.id = id,
+                                   .name = localizedValue(group, u"Name"_s, context),
+                                   .exec = stringValue(group, u"Exec"_s),
+                                   .icon = localizedValue(group, u"Icon"_s, context)};
+        const bool canStart = !action.exec.isEmpty() || entry.isDBusActivatable;
+        if (!action.name.isEmpty() && canStart && isForThisDesktop(group, context))
+            actions.append(action);
+    }
+    return actions;
 }
 
 } // namespace
@@ -84,49 +125,33 @@ DesktopEntryContext DesktopEntryContext::ofThisSession() {
 }
 
 std::optional<DesktopEntry> parseDesktopEntry(QByteArrayView content, const DesktopEntryContext& context) {
-    const auto file = parseKeyFile(content);
+    const auto file = parseKeyFile(content, context.locales);
     const auto group = file.constFind(u"Desktop Entry"_s);
     if (group == file.constEnd())
         return {};
-    const auto text = [&](const QString& key) {
-        const QString value = group->value(key);
-        QStringView rest = value;
-        return unescaped(rest);
-    };
+    const auto text = [&](const QString& key) { return stringValue(*group, key); };
     const auto flag = [&](const QString& key) { return group->value(key) == "true"_L1; };
-    const auto list = [&](const QString& key) { return desktopEntryList(group->value(key)); };
-    const auto localized = [&](const QString& key) {
-        for (const QString& locale : context.locales) {
-            if (const QString suffixed = u"%1[%2]"_s.arg(key, locale); group->contains(suffixed))
-                return text(suffixed);
-        }
-        return text(key);
-    };
-    const auto namesThisDesktop = [&](const QStringList& desktops) {
-        return std::ranges::any_of(desktops,
-                                   [&](const QString& desktop) { return context.desktops.contains(desktop); });
-    };
 
     DesktopEntry entry;
     entry.isHidden = flag(u"Hidden"_s);
     if (entry.isHidden)
         return entry;
-    entry.name = localized(u"Name"_s);
+    entry.name = localizedValue(*group, u"Name"_s, context);
     entry.exec = text(u"Exec"_s);
     entry.isDBusActivatable = flag(u"DBusActivatable"_s);
     const bool canStart = !entry.exec.isEmpty() || entry.isDBusActivatable;
     if (text(u"Type"_s) != "Application"_L1 || entry.name.isEmpty() || !canStart)
         return {};
     entry.tryExec = text(u"TryExec"_s);
-    entry.icon = localized(u"Icon"_s);
+    entry.icon = localizedValue(*group, u"Icon"_s, context);
     entry.workingFolder = text(u"Path"_s);
     entry.startupClass = text(u"StartupWMClass"_s);
     entry.flatpakID = text(u"X-Flatpak"_s);
     entry.snapName = text(u"X-SnapInstanceName"_s);
-    entry.mimeTypes = list(u"MimeType"_s);
+    entry.mimeTypes = desktopEntryList(group->value(u"MimeType"_s));
     entry.needsTerminal = flag(u"Terminal"_s);
-    entry.isOffered = !flag(u"NoDisplay"_s) && !namesThisDesktop(list(u"NotShowIn"_s)) &&
-                      (!group->contains(u"OnlyShowIn"_s) || namesThisDesktop(list(u"OnlyShowIn"_s)));
+    entry.isOffered = !flag(u"NoDisplay"_s) && isForThisDesktop(*group, context);
+    entry.actions = readActions(file, entry, context);
     return entry;
 }
 

@@ -1,12 +1,22 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
 
 namespace fendrel {
+
+/// Something besides itself that an application can be started for.
+struct DesktopAction {
+    QString id{};
+    QString name{}; ///< in the user's language
+    QString exec{}; ///< empty only where the application is started over D-Bus
+    QString icon{};
+    bool operator==(const DesktopAction&) const = default;
+};
 
 /// An application as its desktop entry describes it.
 struct DesktopEntry {
@@ -21,6 +31,7 @@ struct DesktopEntry {
     QString flatpakID{};
     QString snapName{};
     QStringList mimeTypes{};
+    QList<DesktopAction> actions{}; ///< in the entry's order
     bool needsTerminal{};
     bool isDBusActivatable{};
     bool isHidden{};  ///< counts as deleted: it only keeps entries of the same id from being seen

@@ -50,7 +50,7 @@ std::optional<QList<Word>> words(QStringView line) {
 }
 
 /// One word with its field codes filled in. Nothing when it was only a code that stands for nothing.
-std::optional<QString> filledIn(const QString& word, const DesktopEntry& entry) {
+std::optional<QString> filledIn(const QString& word, const DesktopEntry& entry, const QString& opened) {
     QString text;
     bool isOnlyCode = true;
     for (qsizetype index = 0; index < word.size(); ++index) {
@@ -69,16 +69,19 @@ std::optional<QString> filledIn(const QString& word, const DesktopEntry& entry) 
         case u'k':
             text += entry.path;
             break;
+        case u'f':
+        case u'u':
+            text += opened;
+            break;
         default:
-            break; // files and addresses, of which there are none, and codes that are out of use
+            break; // lists, which are words of their own, and codes that are out of use
         }
     }
     return text.isEmpty() && isOnlyCode ? std::nullopt : std::optional(text);
 }
 
-} // namespace
-
-std::optional<QStringList> execArguments(const DesktopEntry& entry) {
+/// The line with its codes filled in; `opened` is in the form that the program takes.
+std::optional<QStringList> filledLine(const DesktopEntry& entry, const QStringList& opened) {
     const auto line = words(entry.exec);
     if (!line)
         return {};
@@ -89,13 +92,64 @@ std::optional<QStringList> execArguments(const DesktopEntry& entry) {
         } else if (text == "%i"_L1) {
             if (!entry.icon.isEmpty())
                 arguments << u"--icon"_s << entry.icon;
-        } else if (const auto filled = filledIn(text, entry)) {
+        } else if (text == "%F"_L1 || text == "%U"_L1) {
+            arguments += opened;
+        } else if (const auto filled = filledIn(text, entry, opened.value(0))) {
             arguments.append(*filled);
         }
     }
     if (arguments.isEmpty() || arguments.first().isEmpty())
         return {};
     return arguments;
+}
+
+/// The letter of the code by which a program takes what it opens; null when it has none.
+QChar openingCode(const DesktopEntry& entry) {
+    for (const auto& [text, isQuoted] : words(entry.exec).value_or(QList<Word>())) {
+        for (qsizetype at = isQuoted ? -1 : text.indexOf(u'%'); at >= 0; at = text.indexOf(u'%', at + 2)) {
+            if (const QString letter = text.mid(at + 1, 1); !letter.isEmpty() && u"fFuU"_s.contains(letter))
+                return letter.front();
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<QStringList> execArguments(const DesktopEntry& entry) {
+    return filledLine(entry, {});
+}
+
+bool takesAddresses(const DesktopEntry& entry) {
+    return openingCode(entry).toLower() == u'u';
+}
+
+QList<QStringList> execLines(const DesktopEntry& entry, const QList<QUrl>& files) {
+    const QChar code = openingCode(entry);
+    // Some programs open files and forget to say how. Others would take a file for a command.
+    if (code.isNull() && entry.mimeTypes.isEmpty())
+        return {};
+    QStringList opened;
+    for (const QUrl& file : files) {
+        // What has no scheme could be taken for an option.
+        if (takesAddresses(entry) && !file.isRelative())
+            opened.append(file.toString(QUrl::FullyEncoded));
+        else if (!takesAddresses(entry) && file.isLocalFile())
+            opened.append(file.toLocalFile());
+    }
+    QList<QStringList> starts;
+    if (code.isUpper() && !opened.isEmpty()) {
+        starts.append(opened);
+    } else {
+        for (const QString& one : opened)
+            starts.append({one});
+    }
+    QList<QStringList> lines;
+    for (const QStringList& start : starts) {
+        if (auto line = filledLine(entry, start))
+            lines.append(code.isNull() ? *line + start : *line);
+    }
+    return lines;
 }
 
 QString programName(const QStringList& arguments) {

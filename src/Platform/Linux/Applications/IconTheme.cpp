@@ -38,11 +38,7 @@ QString fileIn(const QString& folder, const QString& icon, const QStringList& en
 } // namespace
 
 IconTheme::IconTheme(const QString& name, QStringList folders, QStringList loose)
-    : m_folders(std::move(folders)), m_loose(std::move(loose)) {
-    QStringList seen;
-    for (const QString& theme : {name, u"Adwaita"_s, u"hicolor"_s})
-        addTheme(theme, seen);
-}
+    : m_folders(std::move(folders)), m_loose(std::move(loose)), m_unread{name, u"Adwaita"_s, u"hicolor"_s} {}
 
 QStringList IconTheme::standardFolders() {
     QStringList folders{QDir::homePath() + u"/.icons"_s};
@@ -61,34 +57,50 @@ QStringList IconTheme::standardLooseFolders() {
     return folders;
 }
 
-void IconTheme::addTheme(const QString& name, QStringList& seen) {
-    // Everything falls back to hicolor in the end, so a theme that names it must not bring it forward.
-    if (name.isEmpty() || seen.contains(name) || (name == "hicolor"_L1 && !seen.contains(u"Adwaita"_s)))
-        return;
-    seen.append(name);
+bool IconTheme::readNext() {
+    while (!m_unread.isEmpty()) {
+        const QString name = m_unread.takeFirst();
+        // Everything falls back to hicolor in the end, so a theme that names it must not bring it forward.
+        const bool comesLater = name == "hicolor"_L1 && !m_unread.isEmpty();
+        if (name.isEmpty() || m_read.contains(name) || comesLater)
+            continue;
+        m_read.append(name);
+        read(name);
+        return true;
+    }
+    return false;
+}
+
+void IconTheme::read(const QString& name) {
     KeyFile index;
+    QStringList roots;
     for (const QString& folder : m_folders) {
-        index = readKeyFile(u"%1/%2/index.theme"_s.arg(folder, name));
-        if (!index.isEmpty())
-            break;
+        const QString root = folder + u'/' + name;
+        if (!QFileInfo(root).isDir())
+            continue;
+        roots.append(root);
+        if (index.isEmpty())
+            index = readKeyFile(root + u"/index.theme"_s);
     }
     const auto theme = index.value(u"Icon Theme"_s);
     const QString subfolders = theme.value(u"Directories"_s) + u',' + theme.value(u"ScaledDirectories"_s);
-    m_themes.append(foldersOf(name, subfolders.split(u',', Qt::SkipEmptyParts), index));
+    m_themes.append(foldersOf(roots, subfolders.split(u',', Qt::SkipEmptyParts), index));
+    QStringList parents;
     for (const QString& parent : theme.value(u"Inherits"_s).split(u',', Qt::SkipEmptyParts))
-        addTheme(parent.trimmed(), seen);
+        parents.append(parent.trimmed());
+    m_unread = parents + m_unread;
 }
 
-QList<IconTheme::Folder> IconTheme::foldersOf(const QString& theme, const QStringList& subfolders,
-                                              const KeyFile& index) const {
+QList<IconTheme::Folder> IconTheme::foldersOf(const QStringList& roots, const QStringList& subfolders,
+                                              const KeyFile& index) {
     QList<Folder> folders;
     for (const QString& subfolder : subfolders) {
         const auto keys = index.value(subfolder);
         const int scale = std::max(1, keys.value(u"Scale"_s).toInt());
         const bool isScalable = keys.value(u"Type"_s).compare("Scalable"_L1, Qt::CaseInsensitive) == 0;
         const int size = keys.value(u"Size"_s).toInt() * scale;
-        for (const QString& folder : m_folders) {
-            if (const QString path = u"%1/%2/%3"_s.arg(folder, theme, subfolder); QFileInfo(path).isDir())
+        for (const QString& root : roots) {
+            if (const QString path = root + u'/' + subfolder; QFileInfo(path).isDir())
                 folders.append({.path = path, .size = size, .isScalable = isScalable});
         }
     }
@@ -97,7 +109,7 @@ QList<IconTheme::Folder> IconTheme::foldersOf(const QString& theme, const QStrin
     return folders;
 }
 
-QString IconTheme::find(const QString& icon) const {
+QString IconTheme::find(const QString& icon) {
     if (icon.isEmpty())
         return {};
     if (QDir::isAbsolutePath(icon))
@@ -109,8 +121,8 @@ QString IconTheme::find(const QString& icon) const {
             name.chop(extension.size());
     }
     QString small;
-    for (const auto& theme : m_themes) {
-        for (const Folder& folder : theme) {
+    for (qsizetype index = 0; index < m_themes.size() || readNext(); ++index) {
+        for (const Folder& folder : std::as_const(m_themes)[index]) {
             QString file = fileIn(folder.path, name, extensions);
             if (file.isEmpty())
                 continue;

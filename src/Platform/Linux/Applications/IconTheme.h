@@ -18,7 +18,7 @@ public:
 
     /// The path of the icon's file, best for a dock: a drawing that scales, else the largest picture that is no wider
     /// than 256 pixels. `icon` may be a path itself. Empty when there is none.
-    QString find(const QString& icon) const;
+    QString find(const QString& icon);
 
 private:
     struct Folder {
@@ -27,12 +27,15 @@ private:
         bool isScalable{};
     };
 
-    void addTheme(const QString& name, QStringList& seen);
-    QList<Folder> foldersOf(const QString& theme, const QStringList& subfolders,
-                            const QHash<QString, QHash<QString, QString>>& index) const;
+    bool readNext(); ///< one more theme, while there is one
+    void read(const QString& name);
+    static QList<Folder> foldersOf(const QStringList& roots, const QStringList& subfolders,
+                                   const QHash<QString, QHash<QString, QString>>& index);
 
     QStringList m_folders;
     QStringList m_loose;
+    QStringList m_unread; ///< most icons are in the first theme, and the others take a while to read
+    QStringList m_read;
     QList<QList<Folder>> m_themes; ///< the strongest theme first; in each the best folder first
 };
 

@@ -10,7 +10,7 @@ constexpr qint64 sizeLimit = 4 << 20; // nothing honest is near it
 
 } // namespace
 
-KeyFile parseKeyFile(QByteArrayView content) {
+KeyFile parseKeyFile(QByteArrayView content, const std::optional<QStringList>& locales) {
     KeyFile file;
     QHash<QString, QString>* group = nullptr;
     const QString text = QString::fromUtf8(content);
@@ -26,7 +26,11 @@ KeyFile parseKeyFile(QByteArrayView content) {
         const auto equals = trimmed.indexOf(u'=');
         if (group == nullptr || equals <= 0)
             continue;
-        const QString key = trimmed.first(equals).trimmed().toString();
+        const QStringView name = trimmed.first(equals).trimmed();
+        const auto bracket = locales && name.endsWith(u']') ? name.indexOf(u'[') : -1;
+        if (bracket >= 0 && !locales->contains(name.sliced(bracket + 1).chopped(1)))
+            continue;
+        const QString key = name.toString();
         if (!group->contains(key))
             group->insert(key, trimmed.sliced(equals + 1).trimmed().toString());
     }

@@ -3,6 +3,9 @@
 #include <QByteArrayView>
 #include <QHash>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 namespace fendrel {
 
@@ -11,7 +14,8 @@ namespace fendrel {
 /// twice, the first one counts.
 using KeyFile = QHash<QString, QHash<QString, QString>>;
 
-KeyFile parseKeyFile(QByteArrayView content);
+/// Of keys like "Name[de]" only those of `locales`, where they are given: desktops translate into a hundred languages.
+KeyFile parseKeyFile(QByteArrayView content, const std::optional<QStringList>& locales = {});
 KeyFile readKeyFile(const QString& path); ///< empty when the file cannot be read
 
 } // namespace fendrel

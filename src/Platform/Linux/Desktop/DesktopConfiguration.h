@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Base/Handle.h"
+
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace fendrel {
@@ -25,6 +28,10 @@ public:
     virtual bool write(const ConfigurationKey& key, const QString& value) = 0;
     virtual bool reset(const ConfigurationKey& key) = 0;
     virtual bool flush(QDeadlineTimer deadline) = 0; ///< blocks until what was written is on the disk
+    /// Runs when what was written so far, by others too, is on the disk, or was refused and has its old value again.
+    virtual Handle whenStored(std::function<void()> run) = 0;
+    /// Runs whenever the value became another, whoever wrote it.
+    virtual Handle watch(const ConfigurationKey& key, std::function<void()> run) = 0;
 };
 
 } // namespace fendrel

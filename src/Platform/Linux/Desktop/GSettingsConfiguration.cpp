@@ -13,6 +13,7 @@ namespace {
 
 struct Release {
     void operator()(GSettings* settings) const { g_object_unref(settings); }
+    void operator()(GDBusConnection* connection) const { g_object_unref(connection); }
     void operator()(GSettingsSchema* schema) const { g_settings_schema_unref(schema); }
     void operator()(GSettingsSchemaKey* key) const { g_settings_schema_key_unref(key); }
     void operator()(GVariant* value) const { g_variant_unref(value); }
@@ -67,10 +68,58 @@ public:
         return true;
     }
 
+    void connect(GCallback callback, void* data) const {
+        g_signal_connect(m_settings.get(), "changed::" + m_name, callback, data);
+        value(); // what was never read is not told of
+    }
+
+    void disconnect(void* data) const { g_signal_handlers_disconnect_by_data(m_settings.get(), data); }
+
 private:
     QByteArray m_name;
     Owned<GSettingsSchemaKey> m_key;
     Owned<GSettings> m_settings;
+};
+
+using Wanted = std::weak_ptr<std::function<void()>>;
+
+/// The service takes one after the other: with its answer, whatever was sent to it before has been written. Where it
+/// does not run nothing can be on its way.
+void waitForOthers() {
+    constexpr int milliseconds = 2000;
+    const Owned<GDBusConnection> bus(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+    if (bus)
+        Owned<GVariant>(g_dbus_connection_call_sync(bus.get(), "ca.desrt.dconf", "/ca/desrt/dconf/Writer/user",
+                                                    "ca.desrt.dconf.Writer", "Init", nullptr, nullptr,
+                                                    G_DBUS_CALL_FLAGS_NO_AUTO_START, milliseconds, nullptr, nullptr));
+}
+
+gboolean runIfWanted(void* data) {
+    if (const auto run = static_cast<Wanted*>(data)->lock())
+        (*run)();
+    return G_SOURCE_REMOVE;
+}
+
+/// One key whose changes are told.
+struct Watch {
+    Watch(const ConfigurationKey& place, std::function<void()> changed) : key(place), run(std::move(changed)) {
+        if (key)
+            key.connect(G_CALLBACK(onChanged), this);
+    }
+    ~Watch() {
+        if (key)
+            key.disconnect(this); // a change on its way keeps the key longer than we do
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    static void onChanged(GSettings* /*settings*/, const char* /*name*/, void* data) {
+        const auto run = static_cast<Watch*>(data)->run; // it may drop this watch
+        run();
+    }
+
+    OpenKey key;
+    std::function<void()> run;
 };
 
 } // namespace
@@ -103,6 +152,22 @@ bool GSettingsConfiguration::flush(QDeadlineTimer deadline) {
         written->release();
     }).detach();
     return written->tryAcquire(1, static_cast<int>(deadline.remainingTime()));
+}
+
+Handle GSettingsConfiguration::whenStored(std::function<void()> run) {
+    const auto wanted = std::make_shared<std::function<void()>>(std::move(run));
+    std::thread([wanted = std::make_unique<Wanted>(wanted)]() mutable {
+        g_settings_sync();
+        waitForOthers();
+        // The library's own loop, which Qt's runs in, may be told of something at any time, even when Qt's is gone.
+        g_idle_add_full(G_PRIORITY_DEFAULT, runIfWanted, wanted.release(),
+                        [](void* data) { delete static_cast<Wanted*>(data); });
+    }).detach();
+    return Handle([wanted] {}); // which is what keeps it
+}
+
+Handle GSettingsConfiguration::watch(const ConfigurationKey& key, std::function<void()> run) {
+    return Handle([watch = std::make_shared<Watch>(key, std::move(run))] {}); // which is what keeps it
 }
 
 } // namespace fendrel

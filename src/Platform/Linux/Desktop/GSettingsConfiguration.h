@@ -11,6 +11,8 @@ public:
     bool write(const ConfigurationKey& key, const QString& value) override;
     bool reset(const ConfigurationKey& key) override;
     bool flush(QDeadlineTimer deadline) override;
+    Handle whenStored(std::function<void()> run) override;
+    Handle watch(const ConfigurationKey& key, std::function<void()> run) override;
 };
 
 } // namespace fendrel

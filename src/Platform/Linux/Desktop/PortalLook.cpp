@@ -26,8 +26,11 @@ Look lookFrom(const PortalWishes& portal, const QString& themeName, std::optiona
     const bool isDarkTheme = themeName.contains("dark"_L1, Qt::CaseInsensitive) || prefersDark.value_or(false);
     const uint scheme = portal.colorScheme.value_or(0);
     const bool isAnimated = portal.animates.value_or(true) && animates.value_or(true);
+    // GTK's own is called HighContrast, and so are those that follow it.
+    const bool isContrastTheme = themeName.contains("contrast"_L1, Qt::CaseInsensitive);
     return {.isDark = scheme == 0 ? isDarkTheme : scheme == 1,
-            .reducesMotion = portal.reducedMotion == 1U || !isAnimated};
+            .reducesMotion = portal.reducedMotion == 1U || !isAnimated,
+            .increasesContrast = portal.contrast == 1U || isContrastTheme};
 }
 
 PortalLook::PortalLook(std::shared_ptr<DesktopSettings> settings)
@@ -70,6 +73,8 @@ void PortalLook::take(const QString& group, const QString& key, const QVariant& 
         m_wishes.colorScheme = value.toUInt();
     else if (group == appearance && key == "reduced-motion"_L1)
         m_wishes.reducedMotion = value.toUInt();
+    else if (group == appearance && key == "contrast"_L1)
+        m_wishes.contrast = value.toUInt();
     else if (group == gnomeInterface && key == "enable-animations"_L1)
         m_wishes.animates = value.toBool();
 }

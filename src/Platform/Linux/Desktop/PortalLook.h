@@ -16,11 +16,13 @@ struct PortalWishes {
     std::optional<uint> colorScheme{};   ///< 0 no preference, 1 dark, 2 light
     std::optional<uint> reducedMotion{}; ///< 1 reduced
     std::optional<bool> animates{};
+    std::optional<uint> contrast{}; ///< 1 more
 };
 
 struct Look {
     bool isDark{};
     bool reducesMotion{};
+    bool increasesContrast{};
     bool operator==(const Look&) const = default;
 };
 
@@ -37,6 +39,7 @@ public:
 
     bool isDark() const override { return m_look.isDark; }
     bool reducesMotion() const override { return m_look.reducesMotion; }
+    bool increasesContrast() const override { return m_look.increasesContrast; }
 
 private:
     void ask();

@@ -5,13 +5,14 @@
 
 namespace fendrel {
 
-CurlLoop::CurlLoop(Clock& clock) : m_clock(clock), m_multi(curl_multi_init()) {
+CurlLoop::CurlLoop(const Curl& curl, Clock& clock)
+    : m_curl(curl), m_clock(clock), m_multi(curl.multiInit(), curl.multiCleanup) {
     auto* const multi = m_multi.get();
-    curl_multi_setopt(multi, CURLMOPT_SOCKETFUNCTION, &CurlLoop::watch);
-    curl_multi_setopt(multi, CURLMOPT_SOCKETDATA, this);
-    curl_multi_setopt(multi, CURLMOPT_TIMERFUNCTION, &CurlLoop::setTimer);
-    curl_multi_setopt(multi, CURLMOPT_TIMERDATA, this);
-    curl_multi_setopt(multi, CURLMOPT_MAXCONNECTS, 4L);
+    m_curl.multiSetopt(multi, CURLMOPT_SOCKETFUNCTION, &CurlLoop::watch);
+    m_curl.multiSetopt(multi, CURLMOPT_SOCKETDATA, this);
+    m_curl.multiSetopt(multi, CURLMOPT_TIMERFUNCTION, &CurlLoop::setTimer);
+    m_curl.multiSetopt(multi, CURLMOPT_TIMERDATA, this);
+    m_curl.multiSetopt(multi, CURLMOPT_MAXCONNECTS, 4L);
 }
 
 CurlLoop::~CurlLoop() {
@@ -21,12 +22,12 @@ CurlLoop::~CurlLoop() {
 
 void CurlLoop::add(CURL* transfer, std::function<void(CURLcode)> ended) {
     m_running[transfer] = std::move(ended);
-    curl_multi_add_handle(m_multi.get(), transfer);
+    m_curl.multiAddHandle(m_multi.get(), transfer);
 }
 
 void CurlLoop::remove(CURL* transfer) {
     if (m_running.erase(transfer) > 0)
-        curl_multi_remove_handle(m_multi.get(), transfer);
+        m_curl.multiRemoveHandle(m_multi.get(), transfer);
 }
 
 int CurlLoop::watch(CURL*, curl_socket_t socket, int what, void* self, void*) {
@@ -71,13 +72,13 @@ int CurlLoop::setTimer(CURLM*, long milliseconds, void* self) {
 void CurlLoop::act(curl_socket_t socket, int events) {
     m_retired.clear();
     int running = 0;
-    curl_multi_socket_action(m_multi.get(), socket, events, &running);
+    m_curl.multiSocketAction(m_multi.get(), socket, events, &running);
     int left = 0;
-    while (const CURLMsg* const message = curl_multi_info_read(m_multi.get(), &left)) {
+    while (const CURLMsg* const message = m_curl.multiInfoRead(m_multi.get(), &left)) {
         CURL* const transfer = message->easy_handle;
         const CURLcode result = message->data.result;
         const auto ended = m_running.extract(transfer);
-        curl_multi_remove_handle(m_multi.get(), transfer); // and with it the message
+        m_curl.multiRemoveHandle(m_multi.get(), transfer); // and with it the message
         if (ended)
             ended.mapped()(result);
     }

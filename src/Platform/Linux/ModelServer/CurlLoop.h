@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Base/Handle.h"
+#include "Platform/Linux/ModelServer/Curl.h"
 #include "Ports/Clock.h"
 
 #include <QSocketNotifier>
-
-#include <curl/curl.h>
 
 #include <functional>
 #include <map>
@@ -17,7 +16,7 @@ namespace fendrel {
 /// Runs transfers of libcurl in the event loop, without a thread. Main thread; not to be destroyed by a callback.
 class CurlLoop {
 public:
-    explicit CurlLoop(Clock& clock);
+    CurlLoop(const Curl& curl, Clock& clock);
     ~CurlLoop();
     CurlLoop(const CurlLoop&) = delete;
     CurlLoop& operator=(const CurlLoop&) = delete;
@@ -30,9 +29,6 @@ private:
     struct Watch {
         std::unique_ptr<QSocketNotifier> read, write;
     };
-    struct Cleanup {
-        void operator()(CURLM* multi) const { curl_multi_cleanup(multi); }
-    };
 
     static int watch(CURL*, curl_socket_t socket, int what, void* self, void*);
     static int setTimer(CURLM*, long milliseconds, void* self);
@@ -40,12 +36,13 @@ private:
                 bool isWanted);
     void act(curl_socket_t socket, int events);
 
+    const Curl& m_curl;
     Clock& m_clock;
     std::map<curl_socket_t, Watch> m_watched;
     std::vector<Watch> m_retired; // one of these may be what is calling
     Handle m_timer;
     std::map<CURL*, std::function<void(CURLcode)>> m_running;
-    std::unique_ptr<CURLM, Cleanup> m_multi;
+    std::unique_ptr<CURLM, decltype(Curl::multiCleanup)> m_multi;
 };
 
 } // namespace fendrel

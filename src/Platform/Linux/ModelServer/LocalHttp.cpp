@@ -14,41 +14,30 @@ namespace {
 
 constexpr std::size_t sizeLimit = std::size_t{1024} * 1024;
 
-struct Library {
-    Library() { curl_global_init(CURL_GLOBAL_NOTHING); }
-    ~Library() { curl_global_cleanup(); }
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
-};
-
-struct CurlDelete {
-    void operator()(CURL* transfer) const { curl_easy_cleanup(transfer); }
-    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
-};
-
 /// One request with its answer so far. Stays where it is: libcurl keeps its address.
 class Exchange {
 public:
-    explicit Exchange(const LocalHttpRequest& request) : m_body(request.body.value_or(QByteArray())) {
-        auto* const curl = m_transfer.get();
-        curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http");
-        curl_easy_setopt(curl, CURLOPT_URL, ("http://" + request.endpoint.authority + request.path).constData());
+    Exchange(const Curl& curl, const LocalHttpRequest& request)
+        : m_curl(curl), m_body(request.body.value_or(QByteArray())) {
+        auto* const transfer = m_transfer.get();
+        m_curl.easySetopt(transfer, CURLOPT_PROTOCOLS_STR, "http");
+        m_curl.easySetopt(transfer, CURLOPT_URL, ("http://" + request.endpoint.authority + request.path).constData());
         if (!request.endpoint.socket.isEmpty())
-            curl_easy_setopt(curl, CURLOPT_UNIX_SOCKET_PATH, request.endpoint.socket.constData());
-        curl_easy_setopt(curl, CURLOPT_PROXY, ""); // whatever the environment says
-        curl_easy_setopt(curl, CURLOPT_NOPROXY, "*");
-        curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
-        curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-        curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
-        curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &Exchange::takeBody);
-        curl_easy_setopt(curl, CURLOPT_WRITEDATA, this);
-        curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &Exchange::takeHeader);
-        curl_easy_setopt(curl, CURLOPT_HEADERDATA, this);
+            m_curl.easySetopt(transfer, CURLOPT_UNIX_SOCKET_PATH, request.endpoint.socket.constData());
+        m_curl.easySetopt(transfer, CURLOPT_PROXY, ""); // whatever the environment says
+        m_curl.easySetopt(transfer, CURLOPT_NOPROXY, "*");
+        m_curl.easySetopt(transfer, CURLOPT_FOLLOWLOCATION, 0L);
+        m_curl.easySetopt(transfer, CURLOPT_NOSIGNAL, 1L);
+        m_curl.easySetopt(transfer, CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
+        m_curl.easySetopt(transfer, CURLOPT_WRITEFUNCTION, &Exchange::takeBody);
+        m_curl.easySetopt(transfer, CURLOPT_WRITEDATA, this);
+        m_curl.easySetopt(transfer, CURLOPT_HEADERFUNCTION, &Exchange::takeHeader);
+        m_curl.easySetopt(transfer, CURLOPT_HEADERDATA, this);
         if (request.body) {
-            m_headers.reset(curl_slist_append(nullptr, "Content-Type: application/json"));
-            curl_easy_setopt(curl, CURLOPT_HTTPHEADER, m_headers.get());
-            curl_easy_setopt(curl, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t{m_body.size()});
-            curl_easy_setopt(curl, CURLOPT_POSTFIELDS, m_body.constData());
+            m_headers.reset(m_curl.slistAppend(nullptr, "Content-Type: application/json"));
+            m_curl.easySetopt(transfer, CURLOPT_HTTPHEADER, m_headers.get());
+            m_curl.easySetopt(transfer, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t{m_body.size()});
+            m_curl.easySetopt(transfer, CURLOPT_POSTFIELDS, m_body.constData());
         }
     }
     Exchange(const Exchange&) = delete;
@@ -62,10 +51,10 @@ public:
         }
         if (result != CURLE_OK) {
             return LocalHttp::Outcome::failure(
-                {.kind = HttpError::Kind::unreachable, .detail = QString::fromLatin1(curl_easy_strerror(result))});
+                {.kind = HttpError::Kind::unreachable, .detail = QString::fromLatin1(m_curl.easyStrerror(result))});
         }
         long status = 0;
-        curl_easy_getinfo(m_transfer.get(), CURLINFO_RESPONSE_CODE, &status);
+        m_curl.easyGetinfo(m_transfer.get(), CURLINFO_RESPONSE_CODE, &status);
         return HttpResponse{.status = static_cast<int>(status), .body = m_answer};
     }
 
@@ -83,11 +72,12 @@ private:
         return exchange.m_received > sizeLimit ? 0 : size * count;
     }
 
+    const Curl& m_curl;
     QByteArray m_body;
     QByteArray m_answer;
     std::size_t m_received = 0;
-    std::unique_ptr<curl_slist, CurlDelete> m_headers;
-    std::unique_ptr<CURL, CurlDelete> m_transfer{curl_easy_init()};
+    std::unique_ptr<curl_slist, decltype(Curl::slistFreeAll)> m_headers{nullptr, m_curl.slistFreeAll};
+    std::unique_ptr<CURL, decltype(Curl::easyCleanup)> m_transfer{m_curl.easyInit(), m_curl.easyCleanup};
 };
 
 } // namespace
@@ -96,10 +86,10 @@ struct LocalHttp::State {
     struct Request {
         Exchange exchange;
         Handle deadline{};
-        Request(const LocalHttpRequest& request) : exchange(request) {}
+        Request(const Curl& curl, const LocalHttpRequest& request) : exchange(curl, request) {}
     };
 
-    explicit State(Clock& clock) : loop(clock) {}
+    State(const Curl& curl, Clock& clock) : loop(curl, clock) {}
     ~State() {
         for (const auto& [id, request] : requests)
             loop.remove(request.exchange.transfer());
@@ -110,16 +100,21 @@ struct LocalHttp::State {
     CurlLoop loop;
 };
 
-LocalHttp::LocalHttp(Clock& clock) : m_clock(clock) {
-    static const Library library;
-    m_state = std::make_shared<State>(clock);
-}
+LocalHttp::LocalHttp(Clock& clock) : m_clock(clock) {}
 
 LocalHttp::~LocalHttp() = default;
 
 Handle LocalHttp::send(const LocalHttpRequest& request, Done done) {
+    const Curl* const curl = Curl::library();
+    if (curl == nullptr) {
+        return m_clock.after({}, [done = std::move(done)] {
+            done(Outcome::failure({.kind = HttpError::Kind::unreachable, .detail = u"libcurl is not installed"_s}));
+        });
+    }
+    if (!m_state)
+        m_state = std::make_shared<State>(*curl, m_clock);
     const auto id = m_state->nextID++;
-    auto& sent = m_state->requests.try_emplace(id, request).first->second;
+    auto& sent = m_state->requests.try_emplace(id, *curl, request).first->second;
     const std::weak_ptr state = m_state;
     sent.deadline = m_clock.after(request.timeout, [state, id, done] {
         if (const auto alive = state.lock()) {

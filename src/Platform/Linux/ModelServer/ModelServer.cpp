@@ -30,8 +30,9 @@ ModelServer::ModelServer(Clock& clock, QStringList usualAddresses)
       m_usualAddresses(std::move(usualAddresses)),
       m_http(clock),
       m_reason(beingLookedFor()),
-      // Not at once: the choice comes first, and with it no other server is spoken to.
-      m_firstLook(clock.after({}, [this] { look(); })),
+      // Not at once: the choice comes first, and with it no other server is spoken to. What the user sees comes first,
+      // too.
+      m_firstLook(clock.after(1s, [this] { look(); })),
       m_looks(clock.every(lookInterval, lookTolerance,
                           [this] {
                               // One that is at work may answer nothing else meanwhile.
@@ -49,6 +50,8 @@ void ModelServer::choose(const ModelChoice& choice) {
     m_choice = choice;
     m_prewarming.reset();
     m_server.reset(); // nothing more goes to a server that the user has left
+    if (m_firstLook)
+        return;
     look();
     if (m_search)
         setUnavailable(beingLookedFor());

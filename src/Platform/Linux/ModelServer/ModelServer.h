@@ -39,7 +39,7 @@ private:
     std::optional<FoundModelServer> m_server;
     QString m_reason;
     std::unique_ptr<ModelServerSearch> m_search;
-    Handle m_firstLook;
+    std::optional<Handle> m_firstLook; ///< until it begins
     Handle m_looks;
     QString m_prewarmed;
     Handle m_prewarming;

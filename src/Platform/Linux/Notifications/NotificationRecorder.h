@@ -23,6 +23,7 @@ public:
 
     QString databasePath() const override { return m_store.path(); }
     QString unavailableReason() const override;
+    bool tellsChanges() const override { return true; }
 
 private:
     struct Arrival {

@@ -3,13 +3,14 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace fendrel {
 
 ApplicationGroups::ApplicationGroups(std::shared_ptr<X11Windows> windows, std::shared_ptr<ApplicationCatalog> catalog,
                                      Clock& clock)
-    : m_windows(std::move(windows)), m_catalog(std::move(catalog)), m_clock(clock) {
+    : m_windows(std::move(windows)), m_catalog(std::move(catalog)), m_clock(clock), m_hidden(*m_windows) {
     connect(m_windows.get(), &X11Windows::listChanged, this, &ApplicationGroups::regroup);
     connect(m_windows.get(), &X11Windows::activeChanged, this, &ApplicationGroups::readFront);
     connect(m_windows.get(), &X11Windows::windowChanged, this, [this](const X11Window& now, const X11Window& before) {
@@ -19,7 +20,10 @@ ApplicationGroups::ApplicationGroups(std::shared_ptr<X11Windows> windows, std::s
         const bool isRenamed = identity(now) != identity(before);
         if (isRenamed)
             m_origins.remove(now.id);
-        if (isRenamed || now.isRegular() != before.isRegular() || now.transientFor != before.transientFor)
+        const auto standing = [](const X11Window& window) {
+            return std::tuple(window.isRegular(), window.wantsAttention(), window.transientFor);
+        };
+        if (isRenamed || standing(now) != standing(before))
             regroup();
     });
     regroup();
@@ -131,6 +135,7 @@ void ApplicationGroups::regroup() {
         group.app.name = origin.name.shown;
         group.app.launchOrder = factsOf(origin.process).startTime;
         group.app.isRegular = group.app.isRegular || window.isRegular();
+        group.app.wantsAttention = group.app.wantsAttention || window.wantsAttention();
         group.windows.append(window.id);
     }
     forgetTheGone();

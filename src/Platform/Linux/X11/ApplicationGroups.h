@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Linux/Applications/ApplicationCatalog.h"
+#include "Platform/Linux/X11/HiddenWindows.h"
 #include "Platform/Linux/X11/X11Windows.h"
 #include "Ports/Applications.h"
 
@@ -31,6 +32,7 @@ public:
 
     X11Windows& windows() const { return *m_windows; }
     ApplicationCatalog& catalog() const { return *m_catalog; }
+    HiddenWindows& hidden() { return m_hidden; }
 
     QList<RunningApp> running() const;
     std::optional<Group> find(qint64 pid) const; ///< its windows: the last active one first
@@ -66,6 +68,7 @@ private:
     std::shared_ptr<X11Windows> m_windows;
     std::shared_ptr<ApplicationCatalog> m_catalog;
     Clock& m_clock;
+    HiddenWindows m_hidden;
     QHash<qint64, ProcessFacts> m_facts;
     QHash<xcb_window_t, Origin> m_origins;
     QHash<Application, qint64> m_numbers; ///< what each application goes by as long as it has windows

@@ -1,5 +1,7 @@
 #include "Platform/Linux/X11/X11Accessibility.h"
 
+#include "Platform/Shared/AtNextTurn.h"
+
 #include <algorithm>
 
 namespace fendrel {
@@ -23,6 +25,8 @@ X11Accessibility::X11Accessibility(std::shared_ptr<ApplicationGroups> groups, Cl
     connect(windows, &X11Windows::windowChanged, this, [this](const X11Window& now, const X11Window& before) {
         if (now.isMinimized != before.isMinimized)
             tellWindows();
+        if (now.isMinimized != before.isMinimized || isShown(now) != isShown(before) || now.title != before.title)
+            tellAtNextTurn();
         if (now.title == before.title)
             return;
         const auto owner = m_groups->ownerOf(now.id);
@@ -34,6 +38,17 @@ X11Accessibility::X11Accessibility(std::shared_ptr<ApplicationGroups> groups, Cl
     connect(windows, &X11Windows::activeChanged, this, &X11Accessibility::tellWindows);
     connect(windows, &X11Windows::listChanged, this, &X11Accessibility::tellWindows);
     connect(m_groups.get(), &ApplicationGroups::groupsChanged, this, &X11Accessibility::tellWindows);
+    connect(windows, &X11Windows::listChanged, this, &X11Accessibility::tellAtNextTurn);
+    connect(m_groups.get(), &ApplicationGroups::groupsChanged, this, &X11Accessibility::tellAtNextTurn);
+}
+
+void X11Accessibility::tellAtNextTurn() {
+    if (m_telling)
+        return;
+    m_telling = atNextTurn([this] {
+        m_telling.reset();
+        onWindowsChanged();
+    });
 }
 
 void X11Accessibility::tellWindows() {
@@ -55,7 +70,11 @@ QList<WindowInfo> X11Accessibility::windows(qint64 pid) const {
     for (const xcb_window_t id : group ? group->windows : QList<xcb_window_t>()) {
         const auto* window = m_groups->windows().find(id);
         if (isShown(*window))
-            windows.append({.id = {id}, .title = window->title, .isMinimized = window->isMinimized, .document = {}});
+            windows.append({.id = {id},
+                            .title = window->title,
+                            .isMinimized = window->isMinimized,
+                            .isHidden = window->isMinimized && m_groups->hidden().contains(id),
+                            .document = {}});
     }
     return windows;
 }

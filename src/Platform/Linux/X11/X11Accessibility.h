@@ -9,6 +9,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 namespace fendrel {
 
@@ -43,11 +44,13 @@ private:
     };
 
     void tellWindows();
+    void tellAtNextTurn();
 
     std::shared_ptr<ApplicationGroups> m_groups;
     X11Requests m_requests;
     QuietRestore m_restore;
     Listeners<Observed> m_observers;
+    std::optional<Handle> m_telling; ///< here while `onWindowsChanged` is about to be called
 };
 
 } // namespace fendrel

@@ -49,24 +49,56 @@ NativeApps X11Applications::nativeApps() const {
     return nativeAppTable();
 }
 
-void X11Applications::open(const QString& bundleID, bool activates) {
-    if (bringForward(bundleID, activates))
-        return;
+QList<AppAction> X11Applications::actions(const QString& bundleID) const {
+    QList<AppAction> actions;
+    if (const auto* entry = m_groups->catalog().entry(bundleID)) {
+        for (const DesktopAction& action : entry->actions)
+            actions.append({.id = action.id, .name = action.name});
+    }
+    return actions;
+}
+
+std::optional<QString> X11Applications::applicationAt(const QUrl& file) const {
+    return m_groups->catalog().identifierAt(file);
+}
+
+void X11Applications::start(const QString& bundleID, bool activates, Start start) {
     const auto* entry = m_groups->catalog().entry(bundleID);
     if (entry == nullptr) {
         qCWarning(logDesktop).noquote() << "Couldn't open" << bundleID + u": it is not installed"_s;
         return;
     }
     if (!activates) {
-        m_launcher.launch(*entry, {});
+        start(m_launcher, *entry, {});
         return;
     }
     // The moment of the user's wish lets the window manager put the new window in front.
-    auto launch = [self = QPointer(this), wanted = *entry](xcb_timestamp_t time) {
-        if (self)
-            self->m_launcher.launch(wanted, time);
-    };
-    m_groups->windows().connection().withServerTime(std::move(launch));
+    m_groups->windows().connection().withServerTime(
+        [self = QPointer(this), wanted = *entry, start = std::move(start)](xcb_timestamp_t time) {
+            if (self)
+                start(self->m_launcher, wanted, time);
+        });
+}
+
+void X11Applications::open(const QString& bundleID, bool activates) {
+    if (!bringForward(bundleID, activates))
+        start(bundleID, activates, &Launcher::launch);
+}
+
+void X11Applications::openWindow(const QString& bundleID) {
+    start(bundleID, true, &Launcher::openWindow);
+}
+
+void X11Applications::openFiles(const QString& bundleID, const QList<QUrl>& files) {
+    start(bundleID, true, [files](Launcher& launcher, const DesktopEntry& entry, Launcher::Time time) {
+        launcher.open(entry, files, time);
+    });
+}
+
+void X11Applications::runAction(const QString& bundleID, const QString& actionID) {
+    start(bundleID, true, [actionID](Launcher& launcher, const DesktopEntry& entry, Launcher::Time time) {
+        launcher.runAction(entry, actionID, time);
+    });
 }
 
 bool X11Applications::bringForward(const QString& bundleID, bool activates) {
@@ -107,14 +139,14 @@ void X11Applications::hide(qint64 pid) {
     for (const xcb_window_t id : regularWindows(pid)) {
         if (m_groups->windows().find(id)->isMinimized)
             continue;
-        m_hidden.insert(id);
+        m_groups->hidden().add(id);
         m_requests.minimize(id);
     }
 }
 
 void X11Applications::unhide(qint64 pid) {
     auto windows = regularWindows(pid);
-    windows.removeIf([this](xcb_window_t id) { return !m_hidden.remove(id); });
+    windows.removeIf([this](xcb_window_t id) { return !m_groups->hidden().take(id); });
     m_restore.restore(windows);
 }
 

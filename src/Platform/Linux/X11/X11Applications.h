@@ -8,8 +8,8 @@
 #include "Ports/Applications.h"
 
 #include <QObject>
-#include <QSet>
 
+#include <functional>
 #include <memory>
 
 namespace fendrel {
@@ -28,8 +28,13 @@ public:
     AppIcon icon(const QString& bundleID) const override;
     QString fileManager() const override;
     NativeApps nativeApps() const override;
+    QList<AppAction> actions(const QString& bundleID) const override;
+    std::optional<QString> applicationAt(const QUrl& file) const override;
 
     void open(const QString& bundleID, bool activates) override;
+    void openWindow(const QString& bundleID) override;
+    void openFiles(const QString& bundleID, const QList<QUrl>& files) override;
+    void runAction(const QString& bundleID, const QString& actionID) override;
     void activate(qint64 pid) override;
     void hide(qint64 pid) override;
     void unhide(qint64 pid) override;
@@ -37,6 +42,8 @@ public:
     void forceQuit(qint64 pid) override;
 
 private:
+    using Start = std::function<void(Launcher& launcher, const DesktopEntry& entry, Launcher::Time time)>;
+    void start(const QString& bundleID, bool activates, Start start);
     bool bringForward(const QString& bundleID, bool activates);
     QList<xcb_window_t> regularWindows(qint64 pid) const;
 
@@ -45,7 +52,6 @@ private:
     QuietRestore m_restore;
     Launcher m_launcher;
     mutable ApplicationIcons m_icons;
-    QSet<xcb_window_t> m_hidden; ///< those that we minimised, and that are to come back
 };
 
 } // namespace fendrel

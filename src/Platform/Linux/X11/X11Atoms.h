@@ -33,6 +33,7 @@ struct X11Atoms {
     xcb_atom_t netWmStateAbove{};
     xcb_atom_t netWmStateSticky{};
     xcb_atom_t netWmStateFullscreen{};
+    xcb_atom_t netWmStateDemandsAttention{};
     xcb_atom_t netWmStateSkipTaskbar{};
     xcb_atom_t netWmStateSkipPager{};
     xcb_atom_t netWmWindowType{};
@@ -76,6 +77,7 @@ inline constexpr auto x11AtomNames = std::to_array<std::pair<xcb_atom_t X11Atoms
     {&X11Atoms::netWmStateAbove, "_NET_WM_STATE_ABOVE"},
     {&X11Atoms::netWmStateSticky, "_NET_WM_STATE_STICKY"},
     {&X11Atoms::netWmStateFullscreen, "_NET_WM_STATE_FULLSCREEN"},
+    {&X11Atoms::netWmStateDemandsAttention, "_NET_WM_STATE_DEMANDS_ATTENTION"},
     {&X11Atoms::netWmStateSkipTaskbar, "_NET_WM_STATE_SKIP_TASKBAR"},
     {&X11Atoms::netWmStateSkipPager, "_NET_WM_STATE_SKIP_PAGER"},
     {&X11Atoms::netWmWindowType, "_NET_WM_WINDOW_TYPE"},

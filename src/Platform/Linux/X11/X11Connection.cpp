@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <xcb/xcbext.h>
+
 #include <chrono>
 
 namespace fendrel {
@@ -76,6 +78,12 @@ std::optional<std::uint8_t> X11Connection::firstEvent(xcb_extension_t& extension
     return data->first_event;
 }
 
+bool X11Connection::check(xcb_void_cookie_t cookie) {
+    const XcbPointer<xcb_generic_error_t> error(xcb_request_check(xcb(), cookie));
+    drainSoon();
+    return !error;
+}
+
 xcb_get_property_cookie_t X11Connection::ask(xcb_window_t window, xcb_atom_t property) const {
     return xcb_get_property(m_xcb.get(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, propertyLimit);
 }
@@ -122,6 +130,7 @@ void X11Connection::drain() {
     m_isDrainQueued = false;
     while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(xcb())})
         dispatch(*event);
+    handOverReplies();
     if (xcb_connection_has_error(xcb()) != 0 && m_notifier->isEnabled()) {
         m_notifier->setEnabled(false); // or the closed socket would wake us for ever
         qCCritical(logDesktop) << "The connection to the X server was lost";
@@ -129,6 +138,25 @@ void X11Connection::drain() {
         return;
     }
     flush();
+}
+
+void X11Connection::whenReplied(unsigned int sequence, std::function<void(XcbPointer<void>)> run) {
+    m_awaitingReply.emplaceBack(sequence, std::move(run));
+    flush();
+}
+
+void X11Connection::handOverReplies() {
+    while (!m_awaitingReply.isEmpty()) {
+        void* reply = nullptr;
+        xcb_generic_error_t* error = nullptr;
+        if (xcb_poll_for_reply(xcb(), m_awaitingReply.first().first, &reply, &error) == 0)
+            break; // nor is any of those that were asked for later
+        XcbPointer<void> answer(reply);
+        if (const XcbPointer<xcb_generic_error_t> owned{error})
+            note(*owned);
+        const auto run = m_awaitingReply.takeFirst().second;
+        run(std::move(answer));
+    }
 }
 
 void X11Connection::drainSoon() {

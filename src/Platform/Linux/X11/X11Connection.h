@@ -63,6 +63,9 @@ public:
         return XcbPointer<std::remove_pointer_t<decltype(answer)>>(answer);
     }
 
+    /// Waits until the server has done what has no reply. False when it refused, which is not logged.
+    bool check(xcb_void_cookie_t cookie);
+
     xcb_get_property_cookie_t ask(xcb_window_t window, xcb_atom_t property) const;
     X11Property answer(xcb_get_property_cookie_t cookie);
     X11Property property(xcb_window_t window, xcb_atom_t property) { return answer(ask(window, property)); }
@@ -76,6 +79,10 @@ public:
 
     /// Hands over the server's present time, which only an event tells. `run` is dropped with the connection.
     void withServerTime(std::function<void(xcb_timestamp_t)> run);
+
+    /// Hands over a request's reply when it is here; nothing waits for it. Null when the request failed. `run` is
+    /// dropped with the connection.
+    void whenReplied(unsigned int sequence, std::function<void(XcbPointer<void> reply)> run);
 
     void flush() { xcb_flush(xcb()); }
 
@@ -92,6 +99,7 @@ private:
     void internAtoms();
     void drain();
     void drainSoon();
+    void handOverReplies();
     void dispatch(const xcb_generic_event_t& event);
     void note(const xcb_generic_error_t& error);
 
@@ -103,6 +111,7 @@ private:
     X11Atoms m_atoms{};
     std::unique_ptr<QSocketNotifier> m_notifier;
     QList<std::function<void(xcb_timestamp_t)>> m_awaitingTime;
+    QList<std::pair<unsigned int, std::function<void(XcbPointer<void>)>>> m_awaitingReply; ///< in the order of asking
     QHash<std::pair<int, int>, ContinuousTime> m_lastNoted; ///< error and request codes -> when it was logged
     bool m_isDrainQueued{};
 };

@@ -35,6 +35,11 @@ bool isManaged(Panels::Kind kind) {
     return kind == Panels::Kind::dock || kind == Panels::Kind::gate;
 }
 
+/// Above full-screen windows, where no window manager puts a panel.
+bool isStackedByUs(Panels::Kind kind) {
+    return kind == Panels::Kind::card || kind == Panels::Kind::glow;
+}
+
 } // namespace
 
 X11Panels::X11Panels(std::shared_ptr<X11Windows> windows, std::shared_ptr<X11Monitors> monitors,
@@ -137,8 +142,11 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
         if (change.window == m_connection->root() && change.atom == atoms.netClientListStacking)
             stackCards();
         const auto panel = m_panels.constFind(change.window);
-        if (panel != m_panels.constEnd() && std::ranges::find(ours, change.atom) != ours.end())
+        if (panel != m_panels.constEnd() && std::ranges::find(ours, change.atom) != ours.end()) {
             setUp(change.window, *panel);
+            if (change.atom == atoms.netWmDesktop)
+                keepEverywhere(change.window, *panel);
+        }
         break;
     }
     case XCB_DESTROY_NOTIFY:
@@ -152,7 +160,7 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
 void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
     const auto& atoms = m_connection->atoms();
     panel.isMapped = true;
-    if (panel.kind == Kind::card)
+    if (isStackedByUs(panel.kind))
         stackCards();
     if (!isManaged(panel.kind))
         return;
@@ -169,7 +177,7 @@ void X11Panels::handleMapped(xcb_window_t window, Panel& panel) {
 /// Above the highest window that the window manager stacks, docks left out, and no higher: what covers everything for a
 /// reason of its own, as a locked screen does, covers messages too.
 void X11Panels::stackCards() {
-    const auto isCard = [](const Panel& panel) { return panel.kind == Kind::card && panel.isMapped; };
+    const auto isCard = [](const Panel& panel) { return isStackedByUs(panel.kind) && panel.isMapped; };
     if (std::ranges::none_of(m_panels, isCard))
         return;
     auto stack = m_connection->property(m_connection->root(), m_connection->atoms().netClientListStacking).numbers();
@@ -199,7 +207,8 @@ xcb_atom_t X11Panels::typeOf(Kind kind) const {
     const auto& atoms = m_connection->atoms();
     switch (kind) {
     case Kind::dock:
-    case Kind::card: // compositors draw no shadow around these
+    case Kind::card:
+    case Kind::glow: // compositors draw no shadow around these
         return atoms.netWmWindowTypeDock;
     case Kind::menu:
         return atoms.netWmWindowTypePopupMenu;
@@ -238,6 +247,15 @@ void X11Panels::setUpStates(xcb_window_t window, Kind kind) {
     }
     if (states != before)
         m_connection->setNumbers(window, atoms.netWmState, XCB_ATOM_ATOM, states);
+}
+
+/// Programs that arrange windows take a dock for one of theirs.
+void X11Panels::keepEverywhere(xcb_window_t window, const Panel& panel) {
+    if (panel.kind != Kind::dock || !panel.isMapped)
+        return;
+    const auto desktop = m_connection->property(window, m_connection->atoms().netWmDesktop).number();
+    if (desktop && *desktop != everyDesktop)
+        m_requests.moveToDesktop(window, everyDesktop);
 }
 
 void X11Panels::refuseFocus(xcb_window_t window) {

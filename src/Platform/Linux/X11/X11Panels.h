@@ -38,6 +38,7 @@ private:
     xcb_atom_t typeOf(Kind kind) const;
     void setUp(xcb_window_t window, const Panel& panel);
     void setUpStates(xcb_window_t window, Kind kind);
+    void keepEverywhere(xcb_window_t window, const Panel& panel);
     void refuseFocus(xcb_window_t window);
     void handleMapped(xcb_window_t window, Panel& panel);
     void bringToFront(xcb_window_t window);

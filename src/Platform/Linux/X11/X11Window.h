@@ -32,12 +32,15 @@ struct X11Window {
     bool isSkippingTaskbar{};
     bool isMinimized{};
     bool isFullScreen{};
+    bool demandsAttention{};          ///< the window manager says so
+    bool isUrgent{};                  ///< the application says so
     std::optional<quint32> desktop{}; ///< nothing when it is on all of them, or the window manager has none
     std::optional<Strut> strut{};
     bool operator==(const X11Window&) const = default;
 
     /// Has a place in a dock or a task bar.
     bool isRegular() const { return role == Role::ordinary && !isSkippingTaskbar; }
+    bool wantsAttention() const { return isRegular() && (demandsAttention || isUrgent); }
 };
 
 } // namespace fendrel

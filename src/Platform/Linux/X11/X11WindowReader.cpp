@@ -18,6 +18,7 @@ X11WindowReader::X11WindowReader(X11Connection& connection) : m_connection(conne
         {{XCB_ATOM_WM_TRANSIENT_FOR}, &X11WindowReader::readTransientFor},
         {{atoms.netWmWindowType}, &X11WindowReader::readRole},
         {{atoms.netWmState, atoms.wmState}, &X11WindowReader::readState},
+        {{XCB_ATOM_WM_HINTS}, &X11WindowReader::readHints},
         {{atoms.netWmDesktop}, &X11WindowReader::readDesktop},
         {{atoms.netWmStrutPartial, atoms.netWmStrut}, &X11WindowReader::readStrut},
         {{atoms.gtkApplicationId, atoms.kdeDesktopFile}, &X11WindowReader::readDeclaredEntry},
@@ -121,10 +122,16 @@ void X11WindowReader::readState(X11Window& window, const Properties& read) const
     const auto states = read[0].numbers();
     window.isSkippingTaskbar = states.contains(atoms.netWmStateSkipTaskbar);
     window.isFullScreen = states.contains(atoms.netWmStateFullscreen);
+    window.demandsAttention = states.contains(atoms.netWmStateDemandsAttention);
     // A window rolled up to its title bar is hidden to some window managers, but it is not minimised.
     window.isMinimized = m_tellsHidden
                              ? states.contains(atoms.netWmStateHidden) && !states.contains(atoms.netWmStateShaded)
                              : read[1].number() == iconic;
+}
+
+void X11WindowReader::readHints(X11Window& window, const Properties& read) const {
+    constexpr quint32 urgency = 256;
+    window.isUrgent = (read[0].number().value_or(0) & urgency) != 0;
 }
 
 void X11WindowReader::readDesktop(X11Window& window, const Properties& read) const {

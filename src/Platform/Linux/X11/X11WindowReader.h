@@ -37,6 +37,7 @@ private:
     void readTransientFor(X11Window& window, const Properties& read) const;
     void readRole(X11Window& window, const Properties& read) const;
     void readState(X11Window& window, const Properties& read) const;
+    void readHints(X11Window& window, const Properties& read) const;
     void readDesktop(X11Window& window, const Properties& read) const;
     void readStrut(X11Window& window, const Properties& read) const;
     void readDeclaredEntry(X11Window& window, const Properties& read) const;

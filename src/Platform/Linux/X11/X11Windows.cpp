@@ -29,10 +29,8 @@ X11Windows::X11Windows(std::shared_ptr<X11Connection> connection, Clock& clock)
     connect(m_connection.get(), &X11Connection::eventReceived, this, &X11Windows::handle);
     readCurrentDesktop();
     readManager();
-    const auto stacking =
-        m_connection->property(m_connection->root(), m_connection->atoms().netClientListStacking).numbers();
-    std::ranges::stable_sort(m_recent, [&](xcb_window_t left, xcb_window_t right) {
-        return stacking.indexOf(left) > stacking.indexOf(right);
+    std::ranges::stable_sort(m_recent, [order = stacking()](xcb_window_t left, xcb_window_t right) {
+        return order.indexOf(left) > order.indexOf(right);
     });
     readActive();
 }
@@ -49,6 +47,10 @@ std::optional<QRect> X11Windows::frame(xcb_window_t id) const {
     if (frame && find(id) != nullptr)
         m_frames.insert(id, *frame);
     return frame;
+}
+
+QList<xcb_window_t> X11Windows::stacking() const {
+    return m_connection->property(m_connection->root(), m_connection->atoms().netClientListStacking).numbers();
 }
 
 QList<Strut> X11Windows::struts() const {
@@ -74,9 +76,12 @@ void X11Windows::handle(const xcb_generic_event_t& event) {
     case XCB_DESTROY_NOTIFY:
         handleDestroyed(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
         break;
-    case XCB_CONFIGURE_NOTIFY:
-        m_frames.remove(reinterpret_cast<const xcb_configure_notify_event_t&>(event).window);
+    case XCB_CONFIGURE_NOTIFY: {
+        const auto window = reinterpret_cast<const xcb_configure_notify_event_t&>(event).window;
+        m_frames.remove(window);
+        Q_EMIT frameChanged(window);
         break;
+    }
     case XCB_REPARENT_NOTIFY:
         m_frames.remove(reinterpret_cast<const xcb_reparent_notify_event_t&>(event).window);
         break;
@@ -91,6 +96,8 @@ void X11Windows::handleRootProperty(xcb_atom_t property) {
         readActive();
     else if (property == atoms.netClientList)
         readClients();
+    else if (property == atoms.netClientListStacking)
+        Q_EMIT stackingChanged();
     else if (property == atoms.netCurrentDesktop)
         readCurrentDesktop();
     else if (property == atoms.netSupportingWmCheck || property == atoms.netSupported)
@@ -98,16 +105,25 @@ void X11Windows::handleRootProperty(xcb_atom_t property) {
 }
 
 void X11Windows::handleWindowProperty(xcb_window_t id, xcb_atom_t property) {
-    const auto found = std::ranges::find(m_windows, id, &X11Window::id);
-    if (found == m_windows.end())
+    if (find(id) == nullptr)
         return;
     const auto& atoms = m_connection->atoms();
     if (property == atoms.netFrameExtents || property == atoms.gtkFrameExtents)
         m_frames.remove(id);
     if (property == atoms.netWmIcon)
         Q_EMIT iconChanged(id);
+    update(id, property);
+}
+
+void X11Windows::update(xcb_window_t id, xcb_atom_t property) {
+    const auto found = std::ranges::find(m_windows, id, &X11Window::id);
+    if (found == m_windows.end())
+        return;
     const X11Window before = *found;
     m_reader.update(*found, property);
+    // Some applications go on calling the user who is there.
+    if (id == m_active)
+        found->demandsAttention = found->isUrgent = false;
     // A copy goes out: who is told may make us read the list of windows anew.
     if (const X11Window now = *found; now != before)
         Q_EMIT windowChanged(now, before);
@@ -218,8 +234,10 @@ void X11Windows::setActive(xcb_window_t id) {
         m_recent.removeOne(id);
         m_recent.prepend(id);
     }
-    if (std::exchange(m_active, id) != id)
-        Q_EMIT activeChanged();
+    if (std::exchange(m_active, id) == id)
+        return;
+    Q_EMIT activeChanged();
+    update(id, XCB_ATOM_NONE); // nobody has to be called to where they are
 }
 
 void X11Windows::readCurrentDesktop() {

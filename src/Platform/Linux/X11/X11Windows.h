@@ -33,6 +33,8 @@ public:
     std::optional<QRect> frame(xcb_window_t id) const;
     quint32 currentDesktop() const { return m_currentDesktop; }
     QSize desktopSize() const { return m_reader.desktopSize(); }
+    /// The lowest first, as the window manager tells. Asks the server.
+    QList<xcb_window_t> stacking() const;
     QList<Strut> struts() const; ///< of other programs' panels on the current desktop
 
 Q_SIGNALS:
@@ -41,6 +43,8 @@ Q_SIGNALS:
     void iconChanged(xcb_window_t id);
     void activeChanged();
     void currentDesktopChanged();
+    void stackingChanged();             ///< who covers whom
+    void frameChanged(xcb_window_t id); ///< moved, or of another size
 
 private:
     void handle(const xcb_generic_event_t& event);
@@ -51,6 +55,7 @@ private:
     void readClients();
     void readActive();
     void setActive(xcb_window_t id);
+    void update(xcb_window_t id, xcb_atom_t property);
     void readCurrentDesktop();
     void removeUnmanaged();
     void remove(const QList<xcb_window_t>& ids);

@@ -40,6 +40,10 @@ struct DesktopWorld {
         titles.sort();
         return titles;
     }
+    bool isHidden(qint64 pid) const {
+        const auto all = accessibility.windows(pid);
+        return std::ranges::any_of(all, &WindowInfo::isHidden);
+    }
     bool isMinimized(qint64 pid) const {
         const auto all = accessibility.windows(pid);
         return !all.isEmpty() && std::ranges::all_of(all, &WindowInfo::isMinimized);

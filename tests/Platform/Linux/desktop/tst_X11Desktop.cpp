@@ -1,5 +1,7 @@
 #include "DesktopWorld.h"
 #include "Files.h"
+#include "Platform/Linux/X11/X11HotKeys.h"
+#include "Platform/Linux/X11/X11PointerGuard.h"
 #include "Platform/MakePlatform.h"
 
 #include <QGuiApplication>
@@ -99,18 +101,51 @@ private Q_SLOTS:
         m_world->applications.hide(hidden.pid());
         QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
         QVERIFY(m_world->running(hidden.pid())); // it still runs
+        QVERIFY(m_world->isHidden(hidden.pid()));
 
         m_world->applications.unhide(hidden.pid());
         QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
         QTRY_COMPARE(m_world->front(), front.pid());
 
         const auto window = m_world->accessibility.windows(hidden.pid()).first().id;
+        bool isTold = false;
+        m_world->accessibility.onWindowsChanged = [&] { isTold = m_world->isMinimized(hidden.pid()); };
         m_world->accessibility.minimize(window);
         QTRY_VERIFY(m_world->isMinimized(hidden.pid()));
+        QTRY_VERIFY(isTold);
+        m_world->accessibility.onWindowsChanged = [] {};
+        QVERIFY(!m_world->isHidden(hidden.pid()));
         m_world->applications.unhide(hidden.pid()); // the user minimised it, so it is not ours to bring back
         m_world->accessibility.restore(window);
         QTRY_VERIFY(!m_world->isMinimized(hidden.pid()));
         QTRY_COMPARE(m_world->front(), front.pid());
+    }
+
+    void whoAsksForTheUserIsHeardUntilTheUserCame() {
+        WindowProgram caller(u"caller"_s);
+        QTRY_COMPARE(m_world->front(), caller.pid());
+        QVERIFY(caller.tell(u"urgent"_s)); // the user is there
+        WindowProgram front(u"front"_s);
+        QTRY_COMPARE(m_world->front(), front.pid());
+        const auto isHeard = [&] { return m_world->running(caller.pid())->wantsAttention; };
+        QVERIFY(!isHeard());
+        const auto window = static_cast<xcb_window_t>(m_world->accessibility.windows(caller.pid()).first().id.value);
+        const auto demand = [&] {
+            const auto state = m_world->connection->atoms().netWmStateDemandsAttention;
+            X11Requests(*m_world->connection).addStates(window, state, XCB_ATOM_NONE);
+            return true;
+        };
+        for (const auto& ask : {std::function(demand), std::function([&] { return caller.tell(u"urgent"_s); })}) {
+            m_world->runningChanges = 0;
+            QVERIFY(ask());
+            QTRY_VERIFY(isHeard());
+            QCOMPARE(m_world->runningChanges, 1);
+            m_world->applications.activate(caller.pid());
+            QTRY_VERIFY(!isHeard());
+            m_world->applications.activate(front.pid());
+            QTRY_COMPARE(m_world->front(), front.pid());
+            QVERIFY(!isHeard());
+        }
     }
 
     void hungApplicationHoldsNothingUp() {
@@ -258,6 +293,91 @@ private Q_SLOTS:
         QTRY_COMPARE(frames(), before);
     }
 
+    void pointerIsKeptOffEdges() {
+        using Side = GuardedEdge::Side;
+        const auto xdotool = [](const QString& arguments) {
+            return QProcess::execute(u"xdotool"_s, arguments.split(u' ')) == 0;
+        };
+        const auto pointer = [&] {
+            const auto root = m_world->connection->root();
+            const auto at = m_world->connection->reply<xcb_query_pointer_reply>(
+                xcb_query_pointer(m_world->connection->xcb(), root));
+            return at ? QPoint(at->root_x, at->root_y) : QPoint();
+        };
+        X11PointerGuard guard;
+        guard.setEdges({{.side = Side::bottom, .line = 768, .from = 0, .to = 1024}});
+        QVERIFY(guard.start());
+        const QList<QPair<QString, QPoint>> byBarriers{
+            {u"mousemove 500 700 mousemove_relative -- 100 900"_s, {600, 765}}, // stopped on its way
+            {u"mousemove_relative -- -150 40"_s, {450, 765}},                   // and slides along
+            {u"mousemove 5 760 mousemove_relative -- 0 90"_s, {5, 767}},        // corners are free,
+            {u"mousemove_relative -- 400 0"_s, {24, 767}},                      // but lead nowhere else
+            {u"mousemove 1010 760 mousemove_relative -- 0 90"_s, {1010, 767}},
+            {u"mousemove_relative -- -400 0"_s, {1000, 767}},
+            {u"mousemove_relative -- 0 -300"_s, {1000, 467}},
+        };
+        for (const auto& [motion, place] : byBarriers) {
+            QVERIFY(xdotool(motion));
+            QCOMPARE(pointer(), place);
+        }
+        // What puts the pointer past the barriers is set right with the next motion.
+        for (const QString& press : {u"mouseup 3"_s, u"mousedown 3"_s}) { // the menu of the desktop holds the pointer
+            QVERIFY(xdotool(u"mousemove 300 300 "_s + press + u" mousemove 400 767 mousemove_relative 9 0"_s));
+            QTRY_COMPARE(pointer(), QPoint(409, 765));
+            QVERIFY(xdotool(u"mousemove_relative -- 10 10"_s));
+            QCOMPARE(pointer(), QPoint(419, 765));
+        }
+        QVERIFY(xdotool(u"mouseup 3 key Escape"_s));
+
+        // Other edges take the place of these at once, for a pointer that rests too.
+        QVERIFY(xdotool(u"mousemove 1 300"_s));
+        guard.setEdges({{.side = Side::left, .line = 0, .from = 0, .to = 768},
+                        {.side = Side::right, .line = 1024, .from = 0, .to = 768}});
+        QTRY_COMPARE(pointer(), QPoint(3, 300));
+        QVERIFY(xdotool(u"mousemove 20 400 mousemove_relative -- -90 0"_s));
+        QCOMPARE(pointer(), QPoint(3, 400));
+        QVERIFY(xdotool(u"mousemove_relative -- 5000 0"_s));
+        QCOMPARE(pointer(), QPoint(1021, 400));
+        QVERIFY(xdotool(u"mousemove 500 400 mousemove_relative -- 0 900"_s));
+        QCOMPARE(pointer(), QPoint(500, 767));
+        guard.stop();
+        QVERIFY(!guard.isRunning());
+        QVERIFY(xdotool(u"mousemove_relative -- -900 0"_s));
+        QCOMPARE(pointer(), QPoint(0, 767));
+    }
+
+    void hotKeysReachUsWhateverIsInFront() {
+        WindowProgram program(u"program"_s);
+        QTRY_COMPARE(m_world->front(), program.pid());
+        const auto press = [](const QString& keys) { return QProcess::execute(u"xdotool"_s, {u"key"_s, keys}) == 0; };
+        X11HotKeys keys(m_world->connection);
+        int presses = 0;
+        auto held = keys.grab(HotKeys::option | HotKeys::shift, u"F"_s, [&] { ++presses; });
+        QVERIFY(held);
+        QVERIFY(!X11HotKeys(X11Connection::open(m_world->clock)).grab(HotKeys::option | HotKeys::shift, u"F"_s, [] {}));
+        QVERIFY(!keys.grab(0, u"nothing"_s, [] {}));
+        QVERIFY(press(u"alt+shift+f"_s));
+        QTRY_COMPARE(presses, 1);
+        for (const QString& lock : {u"Num_Lock"_s, u"Caps_Lock"_s}) {
+            QVERIFY(press(lock));
+            QVERIFY(press(u"alt+f"_s)); // another one
+            QVERIFY(press(u"alt+shift+f"_s));
+            QVERIFY(press(lock));
+        }
+        QTRY_COMPARE(presses, 3);
+
+        // Labels move with the layout.
+        int others = 0;
+        auto other = keys.grab(HotKeys::command, u"Y"_s, [&] { ++others; });
+        QVERIFY(other);
+        QCOMPARE(QProcess::execute(u"setxkbmap"_s, {u"de"_s}), 0);
+        QTRY_VERIFY(press(u"super+y"_s) && others > 0);
+        QCOMPARE(QProcess::execute(u"setxkbmap"_s, {u"us"_s}), 0);
+
+        held.reset();
+        QVERIFY(X11HotKeys(X11Connection::open(m_world->clock)).grab(HotKeys::option | HotKeys::shift, u"F"_s, [] {}));
+    }
+
     void launchedApplicationsOutliveUs() {
         m_world->applications.open(u"org.example.Program"_s, true);
         QTRY_COMPARE(m_world->applications.running().size(), 1);
@@ -281,6 +401,35 @@ private Q_SLOTS:
         QCOMPARE(m_world->applications.running().size(), 2); // and no third one
         m_world->applications.quit(launched.pid);
         QTRY_VERIFY(!m_world->running(launched.pid));
+    }
+
+    void applicationsAreStartedForWhatTheyAreWantedFor() {
+        const QString id = u"org.example.Opener"_s;
+        const QString file = m_entries.filePath(id + u".desktop"_s);
+        putFile(file, "[Desktop Entry]\nType=Application\nName=Opener\nActions=private;NewWindow\n"
+                      "Exec=" WINDOW_PROGRAM " %f waits\n"
+                      "[Desktop Action private]\nName=Private\nExec=" WINDOW_PROGRAM " private waits\n"
+                      "[Desktop Action NewWindow]\nName=Window\nExec=" WINDOW_PROGRAM " again waits\n");
+        auto& applications = m_world->applications;
+        QTRY_COMPARE(applications.actions(id).size(), 2);
+        QCOMPARE(applications.applicationAt(QUrl::fromLocalFile(file)), id);
+        QCOMPARE(applications.applicationAt(QUrl(u"file:///elsewhere/%1.desktop"_s.arg(id))), id);
+        QCOMPARE(applications.applicationAt(QUrl(u"application://%1.desktop"_s.arg(id))), id);
+        QCOMPARE(applications.applicationAt(QUrl::fromLocalFile(u"/elsewhere/notes.txt"_s)), std::nullopt);
+
+        applications.openFiles(id, {QUrl::fromLocalFile(u"/a b"_s), QUrl(u"https://a.example/"_s)});
+        applications.openWindow(id);
+        applications.runAction(id, u"private"_s);
+        applications.runAction(id, u"missing"_s);
+        QTRY_COMPARE(applications.running().size(), 3);
+        QStringList titles;
+        for (const RunningApp& app : applications.running()) {
+            titles += m_world->titles(app.pid);
+            applications.quit(app.pid);
+        }
+        titles.sort();
+        QCOMPARE(titles, (QStringList{u"/a b"_s, u"again"_s, u"private"_s}));
+        QVERIFY(QFile::remove(file));
     }
 
     void iconsOfWindowsAreTheLastResort() {

@@ -4,8 +4,9 @@
 //     window                 another window; later commands are about the newest one
 //     title TEXT             class INSTANCE CLASS       type NAME            dialogof ID
 //     strut LEFT RIGHT TOP BOTTOM                       fullscreen           icon SIZE COLOUR
+//     urgent                 asks for the user
 //     flicker COUNT          opens and closes so many windows one after the other
-//     close
+//     paint COLOUR           close
 
 #include <unistd.h>
 #include <xcb/xcb.h>
@@ -63,6 +64,8 @@ public:
             setNumbers("_NET_WM_STRUT", "CARDINAL", edges);
         } else if (verb == "fullscreen") {
             remap([&] { setNumbers("_NET_WM_STATE", "ATOM", {atom("_NET_WM_STATE_FULLSCREEN")}); });
+        } else if (verb == "urgent") {
+            setNumbers("WM_HINTS", "WM_HINTS", {256, 0, 0, 0, 0, 0, 0, 0, 0});
         } else if (verb == "icon") {
             std::uint32_t size{};
             std::uint32_t colour{};
@@ -70,6 +73,11 @@ public:
             std::vector<std::uint32_t> icon(2 + std::size_t{size} * size, colour);
             icon[0] = icon[1] = size;
             setNumbers("_NET_WM_ICON", "CARDINAL", icon);
+        } else if (verb == "paint") {
+            std::uint32_t colour{};
+            words >> colour;
+            xcb_change_window_attributes(m_connection, m_window, XCB_CW_BACK_PIXEL, &colour);
+            xcb_clear_area(m_connection, 0, m_window, 0, 0, 0, 0);
         } else if (verb == "flicker") {
             int count{};
             words >> count;

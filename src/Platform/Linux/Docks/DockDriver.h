@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Platform/Linux/Docks/DockSetting.h"
+
+namespace fendrel {
+
+/// One kind of dock. Main thread; one call at a time, whose answer may come before it returns.
+class DockDriver {
+public:
+    using ReadDone = std::function<void(const std::optional<QList<DockSetting>>&)>; ///< nothing: nobody answers
+    using ChangeDone = std::function<void(bool isChanged)>;
+
+    virtual ~DockDriver() = default;
+
+    virtual QString dock() const = 0;
+    virtual QString name() const = 0;    ///< as it stands in the middle of a sentence
+    virtual QString service() const = 0; ///< its name on the session bus while it runs
+
+    /// While it does not run it has no edges, but its settings can be read and changed where somebody keeps them.
+    virtual void setRunning(bool isRunning) = 0;
+    virtual QList<Qt::Edge> edges() const = 0; ///< where its panels are, without the upper one
+    std::function<void()> onEdgesChanged = [] {};
+
+    /// The settings of its panels, and those that `details` tell of.
+    virtual Handle read(const QJsonObject& details, ReadDone done) = 0;
+    virtual Handle change(const DockChanges& changes, ChangeDone done) = 0;
+};
+
+} // namespace fendrel

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Platform/Linux/Desktop/DesktopConfiguration.h"
+#include "Platform/Linux/Docks/DesktopDock.h"
+
+namespace fendrel {
+
+/// Every kind of dock that we know, the preferred ones first: who starts a dock beside the desktop's panels has chosen
+/// it.
+DesktopDock::Drivers dockDrivers(const std::shared_ptr<DesktopConfiguration>& configuration);
+
+} // namespace fendrel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Platform/Linux/X11/EdgeWatch.h"
+#include "Ports/PointerGuard.h"
+
+namespace fendrel {
+
+class X11PointerGuard final : public PointerGuard {
+public:
+    bool start() override {
+        if (!isRunning())
+            m_watch = EdgeWatch::start(m_edges);
+        return m_watch != nullptr;
+    }
+    void stop() override { m_watch.reset(); }
+    bool isRunning() const override { return m_watch && m_watch->isRunning(); }
+    void setEdges(const QList<GuardedEdge>& edges) override {
+        m_edges = edges;
+        if (m_watch)
+            m_watch->setEdges(edges);
+    }
+
+private:
+    QList<GuardedEdge> m_edges;
+    std::unique_ptr<EdgeWatch> m_watch; ///< here while it is started
+};
+
+} // namespace fendrel

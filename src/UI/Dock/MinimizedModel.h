@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QtQmlIntegration>
+
+namespace fendrel {
+
+class AppController;
+class AppIcons;
+template<class Model, class Row>
+class RowSync;
+
+/// The minimised windows as the dock shows them.
+class MinimizedModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+public:
+    MinimizedModel(AppController& controller, AppIcons& icons);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    struct Row {
+        QString id;
+        quint64 window = 0;
+        QString title;
+        QString app; ///< its name
+        QString icon;
+        bool operator==(const Row&) const = default;
+    };
+    friend class RowSync<MinimizedModel, Row>;
+    void refresh();
+
+    AppController& m_controller;
+    AppIcons& m_icons;
+    QList<Row> m_rows;
+};
+
+} // namespace fendrel

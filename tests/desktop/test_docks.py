@@ -1,0 +1,169 @@
+"""The docks and panels that people have: hidden and given back exactly, also when the program that hid them is killed."""
+
+import configparser
+import os
+import pathlib
+import random
+import subprocess
+import tempfile
+import time
+
+import harness
+from windows import EAR, SECONDS, Lines, numbers, titled, wait_window
+
+LEFT, BOTTOM = 2, 8  # Qt::Edge
+KILLS = 200
+SECONDS_BEFORE_KILL = 0.06
+PLANK = "/net/launchpad/plank/docks/dock1/"
+os.environ["GSETTINGS_BACKEND"] = "dconf"
+
+
+def told(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+class DockTest(harness.unittest.TestCase):
+    def serve(self, name, *command):
+        """Starts the program of a name on the bus, which nothing on this one does."""
+        if not command:
+            service = configparser.ConfigParser(interpolation=None)
+            service.read(f"/usr/share/dbus-1/services/{name}.service")
+            command = [service["D-BUS Service"]["Exec"]]
+        server = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.addCleanup(lambda: (server.kill(), server.wait()))
+        subprocess.run(["gdbus", "wait", "--session", "--timeout", "60", name], check=True)
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.settings = pathlib.Path(folder.name) / "Settings.json"
+
+    def start(self, dock):
+        program = Lines(harness.PROGRAMS / "dock_switch", self.settings)
+        self.addCleanup(program.end)
+        program.expect("the dock runs", dock.__eq__)
+        return program
+
+    def stop(self, program):
+        program.say("stop")
+        program.expect("it is given back", "stopped".__eq__)
+
+    def end(self, program):
+        self.stop(program)
+        program.say("quit")
+        program.process.wait(SECONDS)
+        self.assertNotIn("savedDockSettings", self.settings.read_text())
+
+
+class Plank(DockTest):
+    def setUp(self):
+        super().setUp()
+        for name in ("ca.desrt.dconf", "org.ayatana.bamf"):
+            self.serve(name)
+        told("dconf", "reset", "-f", PLANK)
+        self.serve("net.launchpad.plank", "plank")
+        self.running = f"plank {BOTTOM}"
+
+    def now(self):
+        lines = told("dconf", "dump", PLANK).splitlines()
+        return {line for line in lines if "=" in line and not line.startswith("dock-items")}  # those are its own
+
+    def set(self, **values):
+        for key, value in values.items():
+            told("dconf", "write", PLANK + key.replace("_", "-"), value)
+
+    def test_hidden_and_given_back(self):
+        window = wait_window("plank")
+        self.set(hide_mode="'none'", unhide_delay="250")
+        EAR.expect("it holds space", lambda: any(numbers("_NET_WM_STRUT_PARTIAL", window)), window)
+        before = self.now()
+        program = self.start(self.running)
+        program.say("on")
+        EAR.expect("it is gone", lambda: not any(numbers("_NET_WM_STRUT_PARTIAL", window)), window)
+        program.say("off")
+        EAR.expect("it is back", lambda: any(numbers("_NET_WM_STRUT_PARTIAL", window)), window)
+        self.end(program)
+        self.assertEqual(self.now(), before)
+
+    def test_changes_of_the_user(self):
+        program = self.start(self.running)
+        program.say("on")
+        EAR.expect("it is hidden", lambda: "unhide-delay=1000000" in self.now(), wait_window("plank"))
+        self.set(hide_mode="'window-dodge'")
+        self.set(position="'left'")
+        program.expect("its edge", f"plank {LEFT}".__eq__)
+        self.set(position="'top'")
+        program.expect("a menu bar is no dock", "none".__eq__)
+        self.end(program)
+        self.assertEqual(self.now(), {"hide-mode='window-dodge'", "position='top'"})
+
+    def test_killed_at_any_moment(self):
+        seed = random.randrange(1 << 30)
+        moments = random.Random(seed)
+        hidden = 0
+        for turn in range(KILLS):
+            if turn % (KILLS // 4) == 0:
+                self.settings.unlink(missing_ok=True)  # else this would be the user's change of a hidden dock
+                told("dconf", "reset", "-f", PLANK)
+                self.set(**[{}, {"hide_mode": "'none'"}, {"hide_mode": "'auto'", "pressure_reveal": "true"},
+                            {"hide_mode": "'auto'", "unhide_delay": "0"}][turn // (KILLS // 4)])
+                before = self.now()
+            program = self.start(self.running)
+            if moments.random() < 0.5:
+                program.say("settle")
+            self.stop(program)
+            self.assertEqual(self.now(), before, f"seed {seed}, turn {turn}")
+            program.say(f"flip {moments.randrange(1 << 30)}")
+            time.sleep(moments.uniform(0, SECONDS_BEFORE_KILL))
+            program.end()
+            hidden += self.now() != before
+        self.assertGreater(hidden, KILLS / 10, f"seed {seed}: it was hardly ever hidden when it was killed")
+
+
+class XfcePanel(DockTest):
+    def setUp(self):
+        super().setUp()
+        if "org.xfce.Xfconf" not in told("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path",
+                                         "/", "--method", "org.freedesktop.DBus.ListNames"):
+            self.serve("org.xfce.Xfconf")
+        self.serve("org.xfce.Panel", "xfce4-panel")
+        wait_window("xfce4-panel")  # it has made its settings by then
+        self.set("autohide-behavior", "--reset")
+        self.running = f"xfce4-panel {BOTTOM}"
+
+    def now(self):
+        return told("xfconf-query", "--channel", "xfce4-panel", "--property", "/panels", "--list", "--verbose")
+
+    def set(self, key, *value):
+        told("xfconf-query", "--channel", "xfce4-panel", "--property", f"/panels/panel-2/{key}", *value)
+
+    def lower(self):
+        """The panel that holds space below."""
+        return next((window for window in numbers("_NET_CLIENT_LIST") if titled([window], "xfce4-panel")
+                     and (space := numbers("_NET_WM_STRUT_PARTIAL", window)) and space[3]), None)
+
+    def test_hidden_and_given_back(self):
+        window = EAR.expect("it holds space", self.lower)
+        before = self.now()
+        program = self.start(self.running)
+        program.say("on")
+        EAR.expect("it is gone", lambda: window not in numbers("_NET_CLIENT_LIST"))
+        program.say("off")
+        EAR.expect("it is back", lambda: self.lower() == window, window)
+        self.stop(program)
+        self.assertEqual(self.now(), before)
+
+        program.say("on")
+        EAR.expect("it is gone", lambda: window not in numbers("_NET_CLIENT_LIST"))
+        self.set("output-name", "--type", "string", "--set", "Primary")
+        self.set("position", "--set", "p=7;x=0;y=0")
+        program.expect("its edge", f"xfce4-panel {LEFT}".__eq__)
+        self.set("position", "--set", "p=9;x=0;y=0")
+        program.expect("a menu bar is no dock", "none".__eq__)
+        self.end(program)
+        self.assertNotIn("autohide-behavior", self.now())
+        self.assertRegex(self.now(), "output-name +Primary")
+
+
+if __name__ == "__main__":
+    harness.main()
