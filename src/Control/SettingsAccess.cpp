@@ -14,7 +14,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString shortcutName = u"focusShortcut"_s;
+/// The hot keys, which are no properties.
+struct ShortcutSetting {
+    QString name{};
+    const std::optional<Shortcut>& (Preferences::*get)() const {};
+    void (Preferences::*set)(const std::optional<Shortcut>&){};
+};
+
+const QList<ShortcutSetting> shortcuts{
+    {u"focusShortcut"_s, &Preferences::focusShortcut, &Preferences::setFocusShortcut},
+    {u"dockShortcut"_s, &Preferences::dockShortcut, &Preferences::setDockShortcut}};
+
+const ShortcutSetting* shortcutSetting(const QString& name) {
+    const auto found = std::ranges::find(shortcuts, name, &ShortcutSetting::name);
+    return found == shortcuts.end() ? nullptr : &*found;
+}
 
 QJsonValue jsonValue(const QByteArray& json) {
     return QJsonDocument::fromJson(json).object();
@@ -77,7 +91,9 @@ std::optional<DockAppearance> look(const QString& text) {
 } // namespace
 
 QStringList names(const Preferences&) {
-    QStringList list{shortcutName};
+    QStringList list;
+    for (const ShortcutSetting& each : shortcuts)
+        list.append(each.name);
     for (const QMetaProperty& candidate : properties())
         list.append(QString::fromLatin1(candidate.name()));
     list.sort();
@@ -85,8 +101,8 @@ QStringList names(const Preferences&) {
 }
 
 std::optional<QJsonValue> get(const Preferences& preferences, const QString& name) {
-    if (name == shortcutName) {
-        const auto& shortcut = preferences.focusShortcut();
+    if (const ShortcutSetting* setting = shortcutSetting(name)) {
+        const auto& shortcut = (preferences.*setting->get)();
         return shortcut ? jsonValue(toJson(shortcut)) : QJsonValue();
     }
     const auto found = property(name);
@@ -104,11 +120,11 @@ std::optional<QString> set(Preferences& preferences, const QString& name, const 
     const auto invalid = [&](const QString& expected) {
         return u"'%1' is no value for %2: %3 is expected"_s.arg(text, name, expected);
     };
-    if (name == shortcutName) {
+    if (const ShortcutSetting* setting = shortcutSetting(name)) {
         const auto shortcut = shortcutFromJson(text.toUtf8());
         if (!shortcut && text != "none"_L1)
             return invalid(uR"({"keyCode": ..., "modifiers": ..., "key": "..."} or none)"_s);
-        preferences.setFocusShortcut(shortcut);
+        (preferences.*setting->set)(shortcut);
         return {};
     }
     const auto found = property(name);

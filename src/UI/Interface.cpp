@@ -29,6 +29,20 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Asked through QML: Qt 6.4 has no type id for a singleton that is written in QML.
+QObject* themeOf(QQmlEngine& engine) {
+    QQmlComponent question(&engine);
+    question.setData("import QtQml\nimport Fendrel.Style\nQtObject { readonly property QtObject theme: Theme }", {});
+    const std::unique_ptr<QObject> answer(question.create());
+    if (!answer)
+        qWarning().noquote() << question.errorString();
+    return answer ? answer->property("theme").value<QObject*>() : nullptr;
+}
+
+} // namespace
+
 Interface::Interface(AppController& controller)
     : m_controller(controller),
       m_icons(controller.workspace()),
@@ -44,6 +58,7 @@ Interface::Interface(AppController& controller)
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
     m_engine.addImageProvider(u"symbol"_s, new SymbolImages);
     m_engine.addImageProvider(u"shadow"_s, new ShadowImages);
+    m_theme = themeOf(m_engine);
     applyLook();
 
     controller.onLayoutDocks = [this] { layoutDocks(); };
@@ -73,7 +88,12 @@ Interface::Interface(AppController& controller)
             Q_EMIT m_cards->transparencyChanged();
         m_glow->update();
     };
-    controller.platform().statusArea->onChanged = [this] { showTray(); };
+    controller.platform().statusArea->onChanged = [this] {
+        if (m_gatePanel) // else its turn comes with the others'
+            showTray();
+    };
+    // While something covers the dock, it draws no frame.
+    m_hiddenDue = controller.platform().clock->after(std::chrono::seconds(2), [this] { makeHidden(); });
     QObject::connect(&controller.preferences(), &Preferences::changed, &m_settings, [this] { applyLook(); });
 
     m_glow = std::make_unique<FocusGlow>(controller);
@@ -196,8 +216,11 @@ void Interface::showAlert(const Alert& alert) {
 }
 
 void Interface::showTray() {
+    const bool isAvailable = m_controller.platform().statusArea->isAvailable();
+    if (isAvailable == (m_tray != nullptr))
+        return;
     m_tray.reset();
-    if (!m_controller.platform().statusArea->isAvailable())
+    if (!isAvailable)
         return;
     QQmlComponent component(&m_engine, QUrl(u"qrc:/qml/Fendrel/Tray/Tray.qml"_s));
     m_tray.reset(component.createWithInitialProperties({{u"dock"_s, QVariant::fromValue(&m_dock)},
@@ -208,11 +231,10 @@ void Interface::showTray() {
 }
 
 void Interface::applyLook() {
-    const int theme = qmlTypeId("Fendrel.Style", 1, 0, "Theme");
-    if (QObject* singleton = m_engine.singletonInstance<QObject*>(theme)) {
-        singleton->setProperty("reducesMotion", m_controller.platform().look->reducesMotion());
-        singleton->setProperty("increasesContrast", m_controller.platform().look->increasesContrast());
-    }
+    if (m_theme == nullptr)
+        return;
+    m_theme->setProperty("reducesMotion", m_controller.platform().look->reducesMotion());
+    m_theme->setProperty("increasesContrast", m_controller.platform().look->increasesContrast());
 }
 
 } // namespace fendrel

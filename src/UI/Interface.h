@@ -48,6 +48,7 @@ private:
     AppController& m_controller;
     AppIcons m_icons;
     QQmlEngine m_engine;
+    QObject* m_theme = nullptr; ///< the views' own, which lives as long as the engine
     FocusController m_focus;
     VerdictController m_verdict;
     GateController m_gate;
@@ -64,6 +65,7 @@ private:
     std::list<std::unique_ptr<Dialog>> m_alerts;
     std::unique_ptr<QObject> m_tray;
     QList<std::function<void()>> m_waiting; ///< windows that show when the gate closes
+    Handle m_hiddenDue;
 };
 
 } // namespace fendrel

@@ -23,7 +23,10 @@ struct ControllerWorld {
         controller->onLayoutDocks = [this] { shown.append(QStringLiteral("docks")); };
         controller->onAttention = [this] { shown.append(QStringLiteral("attention")); };
         controller->onQuit = [this] { shown.append(QStringLiteral("quit")); };
-        controller->onAlert = [this](const Alert& alert) { shown.append(alert.message); };
+        controller->onAlert = [this](const Alert& alert) {
+            shown.append(alert.message);
+            lastAlert = alert;
+        };
         controller->launch(settingsPane);
         return *controller;
     }
@@ -54,6 +57,7 @@ struct ControllerWorld {
 
     FakePlatform fake;
     QStringList shown; ///< what the interface was asked for, in order; alerts by their message
+    Alert lastAlert;
     std::optional<AppController> controller;
 };
 

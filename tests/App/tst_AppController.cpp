@@ -224,6 +224,35 @@ private Q_SLOTS:
         QCOMPARE(screens(), u"first"_s);
     }
 
+    void replacesTheDockOfTheSystem() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        auto& dock = *world.fake.systemDock;
+        const auto settle = [&] {
+            dock.answerAll();
+            world.fake.settings->finishWriting();
+            dock.answerAll();
+        };
+        settle();
+        controller.askToReplaceDock(true);
+        QCOMPARE(world.shown.last(), u"Replace dock?"_s);
+        world.lastAlert.answered(1);
+        QVERIFY(!controller.replacement().isOn());
+        controller.askToReplaceDock(true);
+        world.lastAlert.answered(0);
+        settle();
+        QCOMPARE(dock.log.first(), u"hide"_s);
+        QVERIFY(world.fake.pointerGuard->runs);
+
+        controller.quit();
+        QVERIFY(!world.shown.contains(u"quit"_s)); // not before it is given back
+        QVERIFY(!world.fake.pointerGuard->runs);
+        settle();
+        QVERIFY(world.shown.contains(u"quit"_s));
+        QCOMPARE(dock.settings.autohide, std::nullopt);
+        QVERIFY(world.fake.settings->flag(u"replaceDock"_s));
+    }
+
     void theDockTimerRunsOnlyWhileNeeded() {
         ControllerWorld world;
         AppController& controller = world.launch();

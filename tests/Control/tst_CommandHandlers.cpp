@@ -75,6 +75,8 @@ private Q_SLOTS:
                   "'hyper' is no value for modeModifiers: words such as control+option, or 0 is expected"},
                  {"settings set focusShortcut F5", "'F5' is no value for focusShortcut: {\"keyCode\": ..., "
                                                    "\"modifiers\": ..., \"key\": \"...\"} or none is expected"},
+                 {"dock replace maybe", "'maybe' is neither on nor off"},
+                 {"undo", "there is nothing to take back"},
                  {"onboarding finish study", "the first run is over"},
                  {"settings open nowhere", "unknown pane 'nowhere': one of general, dock, appearance, widgets, modes, "
                                            "accounts, permissions, about is expected"},
@@ -132,6 +134,7 @@ private Q_SLOTS:
                                             {u"appModifiers"_s, u"768"_s},
                                             {u"breakThrough"_s, u"fire, flood"_s},
                                             {u"focusShortcut"_s, shortcut},
+                                            {u"dockShortcut"_s, u"none"_s},
                                             {u"appearance"_s, u"Graphite"_s}};
         FakeSettings settings;
         FakeLook look;

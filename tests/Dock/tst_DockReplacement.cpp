@@ -1,4 +1,5 @@
 #include "Dock/DockReplacement.h"
+#include "Dock/SavedDockSettings.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeDisplays.h"
 #include "fakes/FakePointerGuard.h"

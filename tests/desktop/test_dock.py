@@ -38,6 +38,13 @@ class Dock(harness.DesktopTest):
         self.fendrel.do("settings", "set", "autoHide", "true")
         EAR.expect("the whole screen free", lambda: numbers("_NET_WORKAREA")[:4] == [0, 0, WIDTH, HEIGHT])
 
+    def test_it_comes_to_a_pointer_at_its_edge(self):
+        self.fendrel.do("settings", "set", "autoHide", "true")
+        for y, shown in ((100, False), (HEIGHT - 1, True)):
+            xdotool("mousemove", str(WIDTH // 2), str(y))
+            self.fendrel.expect(f"the dock with the pointer at {y}: {shown}",
+                                lambda state: state["dock"]["displays"][0]["shown"] == shown)
+
     def test_it_is_on_every_workspace(self):
         subprocess.run(["wmctrl", "-n", "2"], check=True)
         subprocess.run(["wmctrl", "-i", "-r", hex(self.dock), "-t", "0"], check=True)

@@ -1,12 +1,13 @@
 """What appears around the dock's applications: their windows, menus, minimized windows, the way back, the glow."""
 
+import pathlib
 import re
 import subprocess
 import time
 
 import harness
 from harness import DOCK
-from windows import EAR, SECONDS, Failed, geometry, numbers, press, wait_window, xdotool
+from windows import EAR, SECONDS, Failed, Lines, geometry, numbers, press, wait_window, xdotool
 
 WINDOWS, UNDO, MENU, GLOW = "Fendrel windows", "Fendrel undo", "Fendrel menu", "Fendrel glow"
 WIDTH, HEIGHT = 1280, 800
@@ -117,6 +118,42 @@ class Extras(harness.DesktopTest):
         wait_seen(b"\x12\xc0\x34", (x - 23, y - 23, 46, 46))  # what was last seen of it
         xdotool("mousemove", str(x), str(y), "click", "1")
         self.fendrel.front_is(self.editor)
+
+    def test_a_file_dropped_on_the_trash(self):
+        file = pathlib.Path.home() / "Letter.txt"
+        file.write_text("Dear")
+        source = Lines("/usr/bin/python3", "-B", pathlib.Path(__file__).with_name("drag_source.py"), file.as_uri())
+        self.addCleanup(source.end)
+        source.expect("its window")
+        x, y, width, height = geometry(wait_window("Source"))
+        self.fendrel.do("dock", "focus")
+        press("End", "Menu")  # the last item is the trash
+        place, _, length, _ = wait_shown(MENU)
+        press("Escape")
+        wait_gone(MENU)
+        press("Escape")
+        trash = (place + length // 2, HEIGHT - numbers("_NET_WM_STRUT_PARTIAL", self.dock)[3] // 2)
+        label, deadline = (trash[0] - 10, 2 * trash[1] - HEIGHT - 30, 20, 10), time.monotonic() + SECONDS
+
+        def is_labelled():
+            return any(max(colour) < 80 for colour in colours(label))
+
+        while is_labelled():  # it goes with the keyboard
+            self.assertLess(time.monotonic(), deadline, "the label goes")
+        xdotool("mousemove", str(x + width // 2), str(y + height // 2), "mousedown", "1")
+        for _ in range(10):  # a window manager hands the press on before the pointer is elsewhere
+            xdotool("mousemove_relative", "3", "3")
+        while not is_labelled():  # until it says that it would take the file
+            self.assertLess(time.monotonic(), deadline, "the trash takes a file")
+            xdotool("mousemove_relative", "--", "-20", "0")
+            xdotool("mousemove", *map(str, trash))
+        xdotool("mouseup", "1")
+        source.expect("it was taken", lambda line: line == "taken")
+        trashed = pathlib.Path.home() / ".local/share/Trash/files/Letter.txt"
+        deadline = time.monotonic() + SECONDS
+        while not trashed.exists():
+            self.assertLess(time.monotonic(), deadline, "the file is in the trash")
+        self.assertFalse(file.exists())
 
     def test_the_glow_lies_in_no_ones_way(self):
         self.fendrel.do("settings", "set", "focusGlow", "true")

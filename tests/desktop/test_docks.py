@@ -4,6 +4,7 @@ import configparser
 import os
 import pathlib
 import random
+import signal
 import subprocess
 import tempfile
 import time
@@ -32,6 +33,7 @@ class DockTest(harness.unittest.TestCase):
         server = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.addCleanup(lambda: (server.kill(), server.wait()))
         subprocess.run(["gdbus", "wait", "--session", "--timeout", "60", name], check=True)
+        return server
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -58,8 +60,8 @@ class DockTest(harness.unittest.TestCase):
 class Plank(DockTest):
     def setUp(self):
         super().setUp()
-        for name in ("ca.desrt.dconf", "org.ayatana.bamf"):
-            self.serve(name)
+        self.keeper = self.serve("ca.desrt.dconf")
+        self.serve("org.ayatana.bamf")
         told("dconf", "reset", "-f", PLANK)
         self.serve("net.launchpad.plank", "plank")
         self.running = f"plank {BOTTOM}"
@@ -103,6 +105,7 @@ class Plank(DockTest):
         hidden = 0
         for turn in range(KILLS):
             if turn % (KILLS // 4) == 0:
+                self.keeper.send_signal(signal.SIGCONT)
                 self.settings.unlink(missing_ok=True)  # else this would be the user's change of a hidden dock
                 told("dconf", "reset", "-f", PLANK)
                 self.set(**[{}, {"hide_mode": "'none'"}, {"hide_mode": "'auto'", "pressure_reveal": "true"},
@@ -111,10 +114,14 @@ class Plank(DockTest):
             program = self.start(self.running)
             if moments.random() < 0.5:
                 program.say("settle")
-            self.stop(program)
+            program.say("stop")
+            self.keeper.send_signal(signal.SIGCONT)
+            program.expect("it is given back", "stopped".__eq__)
             self.assertEqual(self.now(), before, f"seed {seed}, turn {turn}")
             program.say(f"flip {moments.randrange(1 << 30)}")
             time.sleep(moments.uniform(0, SECONDS_BEFORE_KILL))
+            if moments.random() < 0.3:
+                self.keeper.send_signal(signal.SIGSTOP)  # what is on its way to it then arrives after the next start
             program.end()
             hidden += self.now() != before
         self.assertGreater(hidden, KILLS / 10, f"seed {seed}: it was hardly ever hidden when it was killed")

@@ -7,7 +7,9 @@
 #include "fakes/FakeDisplays.h"
 #include "fakes/FakeLanguageModel.h"
 #include "fakes/FakeLook.h"
+#include "fakes/FakePointerGuard.h"
 #include "fakes/FakeSettings.h"
+#include "fakes/FakeSystemDock.h"
 
 #include <QTemporaryDir>
 
@@ -28,6 +30,8 @@ struct FakePlatform {
         put(platform.applications, applications);
         put(platform.accessibility, accessibility);
         put(platform.displays, displays);
+        put(platform.systemDock, systemDock);
+        put(platform.pointerGuard, pointerGuard);
         put(platform.look, look);
         put(platform.languageModel, languageModel);
     }
@@ -39,6 +43,8 @@ struct FakePlatform {
     FakeApplications* applications{};
     FakeAccessibility* accessibility{};
     FakeDisplays* displays{};
+    FakeSystemDock* systemDock{};
+    FakePointerGuard* pointerGuard{};
     FakeLook* look{};
     FakeLanguageModel* languageModel{};
 

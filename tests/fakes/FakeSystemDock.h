@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Dock/SavedDockSettings.h"
 #include "Ports/SystemDock.h"
 
 #include <QStringList>
@@ -27,7 +26,8 @@ public:
     }
     Handle write(const SystemDockSettings& wanted, WriteDone done) override {
         settings = wanted;
-        log.append(isHiding(wanted) ? QStringLiteral("hide") : QStringLiteral("give back"));
+        const bool hides = wanted.autohide == true && wanted.delay == 1000.0;
+        log.append(hides ? QStringLiteral("hide") : QStringLiteral("give back"));
         return answerLater([done = std::move(done)] { done(true); });
     }
     void restart(const QString&) override { log.append(QStringLiteral("restart")); }

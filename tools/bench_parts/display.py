@@ -83,7 +83,10 @@ class Display:
     def wait_dock(self):
         """The dock that is yet to come, and the moments at which it was mapped, and drawn."""
         def is_dock(window):
-            types = window.get_full_property(self.type, X.AnyPropertyType)
+            try:
+                types = window.get_full_property(self.type, X.AnyPropertyType)
+            except error.BadWindow:
+                return False
             return types and self.dock in types.value
         return self.wait_new(is_dock)
 
@@ -91,9 +94,19 @@ class Display:
         for happened, moment in self.events():
             if happened.type == X.CreateNotify and happened.parent == self.root:
                 happened.window.change_attributes(event_mask=X.StructureNotifyMask)
-                self.display.flush()
-            elif happened.type == X.MapNotify and is_meant(happened.window):
+                if not self.is_mapped(happened.window):
+                    continue
+                moment = time.monotonic()  # it was quicker than we were
+            elif happened.type != X.MapNotify:
+                continue
+            if is_meant(happened.window):
                 return happened.window, moment, self.wait_drawn(happened.window)
+
+    def is_mapped(self, window):
+        try:
+            return window.get_attributes().map_state != X.IsUnmapped
+        except error.BadWindow:
+            return False
 
     def wait_drawn(self, window):
         """Until its middle is more than plain. The desktop must be plain there."""

@@ -13,9 +13,9 @@ from bench_parts.program import Bench, threads, usage
 from Xlib import X
 from Xlib.ext import damage, shape, xtest
 
-STARTS = int(os.environ.get("QUICK_STARTS", "10"))
+STARTS = 10
 LAUNCHERS, MAGNIFIED = 10, 20
-SETTLE_SECONDS, IDLE_SECONDS = 5.0, float(os.environ.get("QUICK_IDLE", "60"))
+SETTLE_SECONDS, IDLE_SECONDS = 5.0, 60.0
 SWEEPS, SWEEP_SECONDS = 5, 2.0  # to and fro over the icons
 MOTION = 1 / 125  # as often as an ordinary mouse tells
 SAME_FRAME = 4  # milliseconds in which the pieces of one frame reach the screen
@@ -60,7 +60,7 @@ class Plank:
 
     def __init__(self, _bench):
         # It answers before the dock starts, as in a session that has run for a while.
-        self.helper = subprocess.Popen([helper("bamf/bamfdaemon")], stderr=subprocess.DEVNULL)
+        self.helper = subprocess.Popen([helper("bamf/bamfdaemon")], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         subprocess.run(["gdbus", "wait", "--session", "--timeout", "20", "org.ayatana.bamf"], check=True)
 
     def furnish(self, launchers):
@@ -94,7 +94,7 @@ class XfcePanel:
             ' type="uint" value="56"/><property name="length" type="uint" value="1"/><property name="plugin-ids"'
             f' type="array">{ids}</property></property></property><property name="plugins" type="empty">{plugins}'
             '</property></channel>')
-        self.settings = subprocess.Popen([helper("xfce4/xfconf/xfconfd")])
+        self.settings = subprocess.Popen([helper("xfce4/xfconf/xfconfd")], stdout=subprocess.DEVNULL)
         subprocess.run(["gdbus", "wait", "--session", "--timeout", "20", "org.xfce.Xfconf"], check=True)
 
 
@@ -125,7 +125,8 @@ class Docks:
         for _ in range(STARTS):
             for dock in self.docks:
                 with self.running(dock) as (processes, _window, (mapped, drawn)):
-                    for name, value in (("mapped", mapped), ("drawn", drawn), ("processor", usage(processes[0])["processor"])):
+                    processor = usage(processes[0])["processor"]
+                    for name, value in (("mapped", mapped), ("drawn", drawn), ("processor", processor)):
                         results[dock.name][name].append(value)
         for dock in self.docks:
             with self.running(dock) as (processes, _window, _moments):

@@ -9,6 +9,7 @@ import sys
 from demo_parts.chat import Chat
 from demo_parts.screen import DESKTOP, Screen, xdotool
 from demo_parts.watch import Failed, Watch
+from gi.repository import Gio, GLib
 
 EDITOR, TERMINAL, CHAT, FILES = "org.xfce.mousepad", "lxterminal", "io.github.Hexchat", "pcmanfm"
 PILLS = 3
@@ -21,6 +22,7 @@ class Gallery:
         self.fendrel = programs / "fendrel"
         self.log = open(screen.folder / "fendrel.log", "w+")
         self.watch = Watch(str(programs / "fendrelctl"), lambda text: None)
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         self.program = None
 
     def play(self):
@@ -65,10 +67,11 @@ class Gallery:
         xdotool("mousemove", "10", "10")
 
     def badge(self, app, **properties):
-        """As an application tells the desktop of it."""
+        """As an application tells the desktop of it, for as long as it is on the bus."""
         text = ", ".join(f"'{name.replace('_', '-')}': <{value}>" for name, value in properties.items())
-        subprocess.run(["gdbus", "emit", "--session", "--object-path", "/org/fendrel/gallery", "--signal",
-                        "com.canonical.Unity.LauncherEntry.Update", f"application://{app}.desktop", f"{{{text}}}"], check=True)
+        entry = GLib.Variant.parse(GLib.VariantType("(sa{sv})"), f"('application://{app}.desktop', {{{text}}})", None, None)
+        self.bus.emit_signal(None, "/org/fendrel/gallery", "com.canonical.Unity.LauncherEntry", "Update", entry)
+        self.bus.flush_sync()
 
     # The states.
 
@@ -187,8 +190,8 @@ class Gallery:
 
     def two_displays(self):
         half = {"left": "640/169x800/211+0+0", "right": "640/169x800/211+640+0"}
-        subprocess.run(["xrandr", "--setmonitor", "left", half["left"], "screen"], check=True)
-        subprocess.run(["xrandr", "--setmonitor", "right", half["right"], "none"], check=True)
+        for (name, place), output in zip(half.items(), ("screen", "none")):
+            subprocess.run(["xrandr", "--setmonitor", name, place, output], check=True, stdout=subprocess.DEVNULL)
         self.set("dockDisplay", "all")
         self.watch.expect("two docks", lambda state: len(state["dock"]["displays"]) == 2)
         self.picture("two-displays")

@@ -21,7 +21,7 @@ Line {
             width: marks.isVertical ? 4 : length
             height: marks.isVertical ? length : 4
             radius: 2
-            color: marks.isUrgent ? "#d6303b" : marks.isFront ? marks.frontColor : marks.colors.secondaryText
+            color: marks.isUrgent ? "#d6303b" : marks.isFront && !Theme.increasesContrast ? marks.frontColor : marks.colors.secondaryText
             Behavior on length { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
         }
     }

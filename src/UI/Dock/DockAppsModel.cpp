@@ -81,13 +81,20 @@ QVariant DockAppsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> DockAppsModel::roleNames() const {
-    return {{bundleIDRole, "bundleID"},       {nameRole, "name"},
-            {iconRole, "icon"},               {isRunningRole, "isRunning"},
-            {isFrontRole, "isFront"},         {isInModeRole, "isInMode"},
-            {startsOthersRole, "startsOthers"}, {isCarriedRole, "isCarried"},
-            {isUrgentRole, "isUrgent"},       {isHiddenRole, "isHidden"},
-            {windowCountRole, "windowCount"}, {badgeCountRole, "badgeCount"},
-            {badgeTextRole, "badgeText"},     {progressRole, "progress"}};
+    return {{bundleIDRole, "bundleID"},
+            {nameRole, "name"},
+            {iconRole, "icon"},
+            {isRunningRole, "isRunning"},
+            {isFrontRole, "isFront"},
+            {isInModeRole, "isInMode"},
+            {startsOthersRole, "startsOthers"},
+            {isCarriedRole, "isCarried"},
+            {isUrgentRole, "isUrgent"},
+            {isHiddenRole, "isHidden"},
+            {windowCountRole, "windowCount"},
+            {badgeCountRole, "badgeCount"},
+            {badgeTextRole, "badgeText"},
+            {progressRole, "progress"}};
 }
 
 QString DockAppsModel::badgeText(qint64 count) {

@@ -92,7 +92,7 @@ QtObject {
                                 { text: qsTr("Settings…"), value: () => dock.openSettings("general"), symbol: "gearshape" }])])
     }
 
-    function showWindowMenu(item: Item, window: var, title: string) {
+    function showWindowMenu(item: Item, window: real, title: string) {
         offer(item, [{ header: title }, { text: qsTr("Restore"), value: () => dock.actions.raiseWindow(window), symbol: "arrow.uturn.backward" },
                      { text: qsTr("Close"), value: () => dock.actions.closeWindow(window), symbol: "xmark" }])
     }

@@ -34,7 +34,8 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
       m_controller(controller),
       m_dock(dock),
       m_edge(dock.edge()),
-      m_keyboard(*this, controller.titles()) {
+      m_keyboard(*this, controller.titles()),
+      m_motion(*controller.platform().clock, [this](QEvent& event) { QQuickView::event(&event); }) {
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
     setColor(Qt::transparent);
     setTitle(tr("Fendrel dock"));
@@ -258,6 +259,10 @@ void DockPanel::updateMask() {
         return;
     m_mask = mask;
     setMask(mask);
+}
+
+bool DockPanel::event(QEvent* event) {
+    return m_motion.holdsBack(*event) || QQuickView::event(event);
 }
 
 void DockPanel::takeKeyboard() {

@@ -3,6 +3,7 @@
 #include "Ports/Displays.h"
 #include "UI/BorrowedKeyboard.h"
 #include "UI/Dock/DockController.h"
+#include "UI/PacedMotion.h"
 #include "UI/PopupWindow.h"
 
 #include <QQuickView>
@@ -84,6 +85,9 @@ Q_SIGNALS:
     void keyboardTaken();
     void keyboardChanged();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     bool canSlideAway() const;
     void arrive();
@@ -113,6 +117,7 @@ private:
     bool m_isPointerInside = false;
     bool m_isHeld = false;
     BorrowedKeyboard m_keyboard;
+    PacedMotion m_motion;
 };
 
 } // namespace fendrel

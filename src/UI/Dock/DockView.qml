@@ -74,15 +74,6 @@ FocusScope {
         }
         Behavior on amount { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
     }
-    // Once a frame, however often the pointer reports.
-    FrameAnimation {
-        id: frame
-        onTriggered: {
-            running = false
-            rowWave.follow()
-        }
-    }
-
     // Of the pills when they have stopped moving.
     property real pillsLength: 0
     property real longestName: 0
@@ -107,7 +98,7 @@ FocusScope {
 
     HoverHandler {
         id: hover
-        onPointChanged: if (hovered && root.swells) frame.running = true
+        onPointChanged: if (hovered && root.swells) rowWave.follow()
     }
 
     // Where icons can stand out of the bar under the pointer.
@@ -301,12 +292,8 @@ FocusScope {
                     Accessible.role: Accessible.Grouping
                     Accessible.name: qsTr("Applications")
 
-                    add: Transition {
-                        NumberAnimation { properties: "coming,scale"; from: 0; to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
-                    }
                     move: Transition {
                         NumberAnimation { properties: "x,y"; duration: Theme.normal; easing.type: Easing.OutCubic }
-                        NumberAnimation { properties: "coming,scale"; to: 1; duration: Theme.normal }
                     }
 
                     // Applications are picked up in the row, and taken back with Escape.

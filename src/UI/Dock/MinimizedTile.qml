@@ -6,7 +6,7 @@ import Fendrel.Types
 DockItem {
     id: tile
 
-    required property var windowID
+    required property real windowID
     required property string title
     required property string app
     required property string icon

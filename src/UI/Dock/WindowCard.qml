@@ -11,7 +11,7 @@ Item {
     required property string icon
     required property color tint
     required property int index
-    required property var windowID
+    required property real windowID
     required property string title
     required property bool isMinimized
     required property bool isFront

@@ -32,10 +32,11 @@ void WindowPicture::geometryChange(const QRectF& now, const QRectF& before) {
 
 void WindowPicture::follow() {
     m_following.reset();
-    if (!m_source || !isComponentComplete() || !isVisible() || !window() || m_window == 0 || m_room.isEmpty())
+    if (!m_source || !isComponentComplete() || !isVisible() || !window() || m_window <= 0 || m_room.isEmpty())
         return;
-    const QSize pixels = (QSizeF(m_room) * window()->effectiveDevicePixelRatio()).toSize();
-    m_following = m_source->follow({m_window}, pixels, [this](const QImage& picture) { take(picture); });
+    const QSize pixels = (m_room * window()->effectiveDevicePixelRatio()).toSize();
+    m_following =
+        m_source->follow({static_cast<quint64>(m_window)}, pixels, [this](const QImage& picture) { take(picture); });
 }
 
 /// The corners are cut here: not every renderer can clip to a shape.

@@ -15,8 +15,8 @@ class WindowPicture : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(fendrel::PreviewSource* source MEMBER m_source NOTIFY sourceChanged REQUIRED)
-    Q_PROPERTY(quint64 windowID MEMBER m_window NOTIFY windowIDChanged REQUIRED)
-    Q_PROPERTY(QSize room MEMBER m_room NOTIFY roomChanged REQUIRED)
+    Q_PROPERTY(double windowID MEMBER m_window NOTIFY windowIDChanged REQUIRED)
+    Q_PROPERTY(QSizeF room MEMBER m_room NOTIFY roomChanged REQUIRED)
     Q_PROPERTY(double radius MEMBER m_radius NOTIFY radiusChanged)
     Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY pictureChanged)
     Q_PROPERTY(QRectF place READ place NOTIFY pictureChanged)
@@ -45,8 +45,8 @@ private:
     void take(const QImage& picture);
 
     QPointer<PreviewSource> m_source;
-    quint64 m_window = 0;
-    QSize m_room;
+    double m_window = 0; ///< its number: QML has no whole numbers of that size
+    QSizeF m_room;
     double m_radius = 0;
     QImage m_image; ///< with round corners
     bool m_isNew = false;

@@ -15,8 +15,8 @@ BesideWindow {
     property bool isSuppressed: false // a menu is open, or something is carried
 
     readonly property RestingPointer pointer: dock.restingPointer
-    readonly property Item button: {
-        const item = pointer.item
+    readonly property AppButton button: {
+        const item = pointer.item as AppButton
         return item && item.Window.window === panel ? item : null
     }
     readonly property bool isWanted: button !== null && cards.count > 0 && !isSuppressed

@@ -36,6 +36,10 @@ private:
 class LauncherEntriesTest : public QObject {
     Q_OBJECT
 
+    QTemporaryDir m_folder;
+    FakeClock m_clock;
+    std::shared_ptr<ApplicationCatalog> m_catalog;
+
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "this test wants a session bus of its own");
@@ -51,6 +55,7 @@ private Q_SLOTS:
         QStringList changed;
         entries.onChanged = [&](const QString& bundleID) { changed.append(bundleID); };
         const QString firefox = u"org.mozilla.firefox"_s;
+        const QString words = u"org.example.Two_words-1"_s;
         {
             Program program(u"one"_s);
             program.announce(u"application://unknown.desktop"_s, {{u"urgent"_s, true}});
@@ -63,13 +68,13 @@ private Q_SLOTS:
             Program other(u"two"_s); // takes the button over, and with it what was said
             other.announce(u"application://firefox.desktop"_s, {{u"urgent"_s, true}});
             QTRY_COMPARE(entries.badge(firefox), AppBadge{.isUrgent = true});
-            program.announce(u"application://org.example.Two_words-1.desktop"_s,
+            program.announce(u"application://%1.desktop"_s.arg(words),
                              {{u"progress"_s, 0.5}, {u"progress-visible"_s, true}});
-            QTRY_COMPARE(entries.badge(u"org.example.Two_words-1"_s), AppBadge{.progress = 0.5});
+            QTRY_COMPARE(entries.badge(words), AppBadge{.progress = 0.5});
         }
         QTRY_COMPARE(changed.size(), 5);
         QCOMPARE(entries.badge(firefox), AppBadge());
-        QCOMPARE(entries.badge(u"org.example.Two_words-1"_s), AppBadge());
+        QCOMPARE(entries.badge(words), AppBadge());
     }
 
     void takesNothingAbsurd() {
@@ -86,11 +91,6 @@ private Q_SLOTS:
         QCOMPARE(badge({{u"count"_s, std::numeric_limits<quint64>::max()}, {u"progress"_s, -1.0}}),
                  (AppBadge{.count = std::numeric_limits<qint64>::max(), .progress = 0}));
     }
-
-private:
-    QTemporaryDir m_folder;
-    FakeClock m_clock;
-    std::shared_ptr<ApplicationCatalog> m_catalog;
 };
 
 QTEST_GUILESS_MAIN(LauncherEntriesTest)

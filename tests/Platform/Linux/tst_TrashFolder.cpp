@@ -13,6 +13,14 @@ using namespace Qt::StringLiterals;
 class TrashFolderTest : public QObject {
     Q_OBJECT
 
+    QString path(const QString& inside) const { return m_home->filePath(inside); }
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    FakeApplications m_applications;
+    FakeClock m_clock;
+    std::unique_ptr<TrashFolder> m_trash;
+    int m_changes = 0;
+
 private Q_SLOTS:
     void init() {
         m_home = std::make_unique<QTemporaryDir>();
@@ -87,15 +95,6 @@ private Q_SLOTS:
             left.append(files.next());
         QCOMPARE(left, QStringList{path(u"kept/a"_s)});
     }
-
-private:
-    QString path(const QString& inside) const { return m_home->filePath(inside); }
-
-    std::unique_ptr<QTemporaryDir> m_home;
-    FakeApplications m_applications;
-    FakeClock m_clock;
-    std::unique_ptr<TrashFolder> m_trash;
-    int m_changes = 0;
 };
 
 QTEST_GUILESS_MAIN(TrashFolderTest)

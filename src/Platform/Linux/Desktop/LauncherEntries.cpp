@@ -1,6 +1,8 @@
 #include "Platform/Linux/Desktop/LauncherEntries.h"
 
 #include <QDBusConnection>
+#include <QDBusPendingCallWatcher>
+#include <QDBusReply>
 
 #include <algorithm>
 #include <cmath>
@@ -77,11 +79,26 @@ void LauncherEntries::update(const QString& application, const QVariantMap& prop
     if (announced.sender != message.service()) {
         const QString former = std::exchange(announced, {.sender = message.service(), .said = {}}).sender;
         release(former);
-        m_senders.addWatchedService(message.service());
+        watch(message.service());
     }
     announced.said.take(properties);
     if (announced.said.badge() != before)
         onChanged(*bundleID);
+}
+
+void LauncherEntries::watch(const QString& sender) {
+    m_senders.addWatchedService(sender);
+    // It may be gone already, and then nobody tells.
+    const QString daemon = u"org.freedesktop.DBus"_s;
+    auto question = QDBusMessage::createMethodCall(daemon, u"/org/freedesktop/DBus"_s, daemon, u"NameHasOwner"_s);
+    question << sender;
+    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, sender] {
+        const QDBusReply<bool> isThere = answer->reply();
+        answer->deleteLater();
+        if (isThere.isValid() && !isThere.value())
+            forget(sender);
+    });
 }
 
 void LauncherEntries::forget(const QString& sender) {

@@ -43,6 +43,7 @@ private:
     };
 
     Q_SLOT void update(const QString& application, const QVariantMap& properties, const QDBusMessage& message);
+    void watch(const QString& sender);
     void forget(const QString& sender);
     void release(const QString& sender);
 

@@ -66,7 +66,8 @@ Handle readPanels(std::function<void(const std::optional<QList<Panel>>&)> done) 
         if (!told.isArray())
             return done({});
         QList<Panel> panels;
-        for (const QJsonValue& panel : told.array())
+        const QJsonArray all = told.array();
+        for (const auto& panel : all)
             panels.append({.id = panel[u"id"].toString(),
                            .edge = dockEdge(panel[u"location"].toString()),
                            .hiding = panel[u"hiding"].toString(),

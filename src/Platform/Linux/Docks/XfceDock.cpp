@@ -157,8 +157,8 @@ Handle XfceDock::change(const DockChanges& changes, ChangeDone done) {
     answers->missing = changes.size();
     // A panel finds its place on the screen when it stops hiding by itself, for which it must be on one by then.
     QStringList names = changes.keys();
-    std::ranges::stable_partition(
-        names, [&](const QString& name) { return name.endsWith(output) && changes.value(name) != nowhere; });
+    std::stable_partition(names.begin(), names.end(),
+                          [&](const QString& name) { return name.endsWith(output) && changes.value(name) != nowhere; });
     for (const QString& name : names) {
         const auto wanted = changes.value(name);
         const QVariant value = wanted ? valueOf(*wanted) : QVariant();

@@ -26,10 +26,8 @@ public:
     Handle read(const QJsonObject& details, ReadDone done) override;
     Handle change(const DockChanges& changes, ChangeDone done) override;
 
-private Q_SLOTS:
-    void onPropertyChanged(const QString& channel, const QString& property);
-
 private:
+    Q_SLOT void onPropertyChanged(const QString& channel, const QString& property);
     void look();
     void take(const QList<Qt::Edge>& edges);
 
