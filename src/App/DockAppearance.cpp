@@ -39,18 +39,20 @@ constexpr Flag flags[] = {{"isDark", &DockAppearance::isDark}, {"blur", &DockApp
 
 const QList<DockAppearance::Preset>& DockAppearance::presets() {
     static const QList<Preset> list{
-        {u"Daylight"_s, {}},
-        {u"Midnight"_s,
+        {QStringLiteral(QT_TRANSLATE_NOOP("DockAppearance", "Daylight")), {}},
+        {QStringLiteral(QT_TRANSLATE_NOOP("DockAppearance", "Midnight")),
          {.background = {0x1c, 0x1d, 0x22}, .isDark = true, .opacity = 0.86, .shadow = 0.45, .border = 0.14}},
-        {u"Paper"_s,
+        {QStringLiteral(QT_TRANSLATE_NOOP("DockAppearance", "Paper")),
          {.background = {0xfb, 0xf7, 0xef},
           .opacity = 1,
           .cornerRadius = 12,
           .shadow = 0.2,
           .border = 0.08,
           .blur = false}},
-        {u"Graphite"_s, {.background = {0x3a, 0x3d, 0x44}, .isDark = true, .opacity = 0.94, .cornerRadius = 14}},
-        {u"Clear"_s, {.background = {0xff, 0xff, 0xff}, .opacity = 0.45, .shadow = 0.18, .border = 0.2}},
+        {QStringLiteral(QT_TRANSLATE_NOOP("DockAppearance", "Graphite")),
+         {.background = {0x3a, 0x3d, 0x44}, .isDark = true, .opacity = 0.94, .cornerRadius = 14}},
+        {QStringLiteral(QT_TRANSLATE_NOOP("DockAppearance", "Clear")),
+         {.background = {0xff, 0xff, 0xff}, .opacity = 0.45, .shadow = 0.18, .border = 0.2}},
     };
     return list;
 }

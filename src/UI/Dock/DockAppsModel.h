@@ -7,8 +7,6 @@ namespace fendrel {
 
 class AppController;
 class AppIcons;
-template<class Model, class Row>
-class RowSync;
 
 /// The applications in the dock: those of the current mode in its order, then the others that run. While one is carried
 /// about, the rows are as they would be if it were let go; nothing but this model knows of that.
@@ -63,7 +61,8 @@ private:
         double progress = -1;  ///< 0 to 1; negative: none
         bool operator==(const Row&) const = default;
     };
-    friend class RowSync<DockAppsModel, Row>;
+    template<class, class>
+    friend class RowSync;
     void refresh();
     QStringList shownApps() const;
     Row row(const QString& bundleID) const;

@@ -7,8 +7,6 @@ namespace fendrel {
 
 class AppController;
 class AppIcons;
-template<class Model, class Row>
-class RowSync;
 
 /// The minimised windows as the dock shows them.
 class MinimizedModel : public QAbstractListModel {
@@ -31,7 +29,8 @@ private:
         QString icon;
         bool operator==(const Row&) const = default;
     };
-    friend class RowSync<MinimizedModel, Row>;
+    template<class, class>
+    friend class RowSync;
     void refresh();
 
     AppController& m_controller;

@@ -7,8 +7,6 @@
 namespace fendrel {
 
 class AppController;
-template<class Model, class Row>
-class RowSync;
 
 /// The modes as the dock and the menus show them, in the user's order.
 class ModesModel : public QAbstractListModel {
@@ -35,7 +33,8 @@ private:
         int heldCount = 0;
         bool operator==(const Row&) const = default;
     };
-    friend class RowSync<ModesModel, Row>;
+    template<class, class>
+    friend class RowSync;
     void refresh();
 
     AppController& m_controller;

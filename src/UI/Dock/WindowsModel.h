@@ -6,8 +6,6 @@
 namespace fendrel {
 
 class AppController;
-template<class Model, class Row>
-class RowSync;
 
 /// The windows of one application, in the order in which they were opened. Without an application there are none.
 class WindowsModel : public QAbstractListModel {
@@ -38,7 +36,8 @@ private:
         bool isFront = false;
         bool operator==(const Row&) const = default;
     };
-    friend class RowSync<WindowsModel, Row>;
+    template<class, class>
+    friend class RowSync;
     void refresh();
 
     AppController& m_controller;

@@ -7,8 +7,6 @@
 
 namespace fendrel {
 
-template<class Model, class Row>
-class RowSync;
 
 /// Messages as a card shows them: plain text that fits, whatever was in them.
 class MessagesModel : public QAbstractListModel {
@@ -34,7 +32,8 @@ public:
     void show(const QList<Row>& rows);
 
 private:
-    friend class RowSync<MessagesModel, Row>;
+    template<class, class>
+    friend class RowSync;
     QList<Row> m_rows;
 };
 

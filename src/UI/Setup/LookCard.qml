@@ -14,7 +14,7 @@ Item {
     height: 116
     activeFocusOnTab: true
     Accessible.role: Accessible.RadioButton
-    Accessible.name: look.name
+    Accessible.name: look.label
     Accessible.checkable: true
     Accessible.checked: look.isChosen
     Accessible.focusable: true
@@ -59,7 +59,7 @@ Item {
     Label {
         anchors { top: backdrop.bottom; topMargin: 8; horizontalCenter: parent.horizontalCenter }
         colors: card.colors
-        text: card.look.name
+        text: card.look.label
         font.weight: card.look.isChosen ? Font.DemiBold : Font.Normal
         Accessible.ignored: true
     }

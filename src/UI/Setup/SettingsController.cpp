@@ -2,6 +2,8 @@
 
 #include "App/AppController.h"
 
+#include <QCoreApplication>
+
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
@@ -56,6 +58,7 @@ QVariantList SettingsController::presets() const {
     QVariantList list;
     for (const auto& [name, look] : DockAppearance::presets()) {
         list.append(QVariantMap{{u"name"_s, name},
+                                {u"label"_s, QCoreApplication::translate("DockAppearance", name.toUtf8())},
                                 {u"background"_s, look.background},
                                 {u"opacity"_s, look.opacity},
                                 {u"isDark"_s, look.isDark},

@@ -23,7 +23,7 @@ class SettingsController : public QObject {
     Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY dockChanged)
     Q_PROPERTY(QString systemDock READ systemDock NOTIFY dockChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
-    /// The built-in looks: name, background, isDark and isChosen.
+    /// The built-in looks: name, label, background, isDark and isChosen.
     Q_PROPERTY(QVariantList presets READ presets NOTIFY looksChanged)
 
 public:

@@ -70,10 +70,26 @@
     </message>
 </context>
 <context>
-    <name>DockAppsModel</name>
+    <name>DockAppearance</name>
     <message>
-        <source>99+</source>
-        <translation>99+</translation>
+        <source>Daylight</source>
+        <translation>Tageslicht</translation>
+    </message>
+    <message>
+        <source>Midnight</source>
+        <translation>Mitternacht</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Graphite</source>
+        <translation>Graphit</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Klar</translation>
     </message>
 </context>
 <context>
@@ -81,6 +97,10 @@
     <message>
         <source>Menu</source>
         <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Fendrel menu</source>
+        <translation>Fendrel-Menü</translation>
     </message>
 </context>
 <context>
@@ -126,16 +146,8 @@
         <translation>Aus %1 entfernen</translation>
     </message>
     <message>
-        <source>Add to %1</source>
-        <translation>Zu %1 hinzufügen</translation>
-    </message>
-    <message>
         <source>Show in File Manager</source>
         <translation>Im Dateimanager zeigen</translation>
-    </message>
-    <message>
-        <source>Bring to Front</source>
-        <translation>Nach vorn holen</translation>
     </message>
     <message>
         <source>Show All Windows</source>
@@ -168,6 +180,90 @@
     <message>
         <source>Quit Fendrel</source>
         <translation>Fendrel beenden</translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation>Neues Fenster</translation>
+    </message>
+    <message>
+        <source>Hide Others</source>
+        <translation>Andere ausblenden</translation>
+    </message>
+    <message>
+        <source>Force Quit</source>
+        <translation>Sofort beenden</translation>
+    </message>
+    <message>
+        <source>Add to</source>
+        <translation>Hinzufügen zu</translation>
+    </message>
+    <message>
+        <source>Move to</source>
+        <translation>Verschieben nach</translation>
+    </message>
+    <message>
+        <source>Edit Mode…</source>
+        <translation>Modus bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Empty Trash…</source>
+        <translation>Papierkorb leeren …</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>Replace %1</source>
+        <translation>%1 ersetzen</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Hide Automatically</source>
+        <translation>Automatisch ausblenden</translation>
+    </message>
+    <message>
+        <source>Magnify Icons</source>
+        <translation>Symbole vergrößern</translation>
     </message>
 </context>
 <context>
@@ -277,7 +373,7 @@
         <translation>Leuchten bei Fokus</translation>
     </message>
     <message>
-        <source>The edges of the screen shine in the mode's color while a focus session runs.</source>
+        <source>The edges of the screen shine in the mode&apos;s color while a focus session runs.</source>
         <translation>Während einer Fokussitzung leuchten die Bildschirmränder in der Farbe des Modus.</translation>
     </message>
 </context>
@@ -295,6 +391,10 @@
         <source>Applications</source>
         <translation>Programme</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>FirstRunView</name>
@@ -308,7 +408,10 @@
     </message>
     <message numerus="yes">
         <source>%n mode(s) chosen</source>
-        <translation><numerusform>Ein Modus gewählt</numerusform><numerusform>%n Modi gewählt</numerusform></translation>
+        <translation>
+            <numerusform>Ein Modus gewählt</numerusform>
+            <numerusform>%n Modi gewählt</numerusform>
+        </translation>
     </message>
     <message>
         <source>Start</source>
@@ -421,7 +524,7 @@
         <translation>Nachrichten mit einem dieser Wörter erscheinen sofort. Dazwischen Kommas.</translation>
     </message>
     <message>
-        <source>Quiet the desktop's banners</source>
+        <source>Quiet the desktop&apos;s banners</source>
         <translation>Banner der Arbeitsfläche unterdrücken</translation>
     </message>
     <message>
@@ -461,7 +564,7 @@
         <translation>Welches seiner Modelle gefragt wird.</translation>
     </message>
     <message>
-        <source>Connected. It judges what the modes' lists don't name.</source>
+        <source>Connected. It judges what the modes&apos; lists don&apos;t name.</source>
         <translation>Verbunden. Es beurteilt, was die Listen der Modi nicht nennen.</translation>
     </message>
 </context>
@@ -470,6 +573,20 @@
     <message>
         <source>New message</source>
         <translation>Neue Nachricht</translation>
+    </message>
+</context>
+<context>
+    <name>MinimizedStrip</name>
+    <message>
+        <source>Minimized windows</source>
+        <translation>Minimierte Fenster</translation>
+    </message>
+</context>
+<context>
+    <name>MinimizedTile</name>
+    <message>
+        <source>%1, minimized window of %2</source>
+        <translation>%1, minimiertes Fenster von %2</translation>
     </message>
 </context>
 <context>
@@ -487,7 +604,10 @@
     </message>
     <message numerus="yes">
         <source>%n held message(s)</source>
-        <translation><numerusform>%n zurückgehaltene Nachricht</numerusform><numerusform>%n zurückgehaltene Nachrichten</numerusform></translation>
+        <translation>
+            <numerusform>%n zurückgehaltene Nachricht</numerusform>
+            <numerusform>%n zurückgehaltene Nachrichten</numerusform>
+        </translation>
     </message>
     <message>
         <source>Add to %1</source>
@@ -561,7 +681,7 @@
         <translation>Beim Wechseln aufräumen</translation>
     </message>
     <message>
-        <source>Hides the applications that don't belong to the new mode.</source>
+        <source>Hides the applications that don&apos;t belong to the new mode.</source>
         <translation>Blendet Programme aus, die nicht zum neuen Modus gehören.</translation>
     </message>
     <message>
@@ -595,6 +715,25 @@
     <message>
         <source>What Fendrel learns about your work never leaves this computer.</source>
         <translation>Was Fendrel über deine Arbeit lernt, verlässt diesen Rechner nie.</translation>
+    </message>
+</context>
+<context>
+    <name>TrashTile</name>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+    <message>
+        <source>Move to the Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Trash, empty</source>
+        <translation>Papierkorb, leer</translation>
+    </message>
+    <message>
+        <source>Remove from %1</source>
+        <translation>Aus %1 entfernen</translation>
     </message>
 </context>
 <context>
@@ -637,6 +776,17 @@
     </message>
 </context>
 <context>
+    <name>UndoCard</name>
+    <message>
+        <source>Fendrel undo</source>
+        <translation>Fendrel: Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+</context>
+<context>
     <name>VerdictChip</name>
     <message>
         <source>Not right? Click to tell Fendrel</source>
@@ -652,9 +802,35 @@
     </message>
 </context>
 <context>
+    <name>WindowCard</name>
+    <message>
+        <source>%1, minimized</source>
+        <translation>%1, minimiert</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, im Vordergrund</translation>
+    </message>
+    <message>
+        <source>Minimized</source>
+        <translation>Minimiert</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>%1 schließen</translation>
+    </message>
+</context>
+<context>
+    <name>WindowsPopover</name>
+    <message>
+        <source>Fendrel windows</source>
+        <translation>Fendrel-Fenster</translation>
+    </message>
+</context>
+<context>
     <name>fendrel::AppController</name>
     <message>
-        <source>Fendrel couldn't read your modes</source>
+        <source>Fendrel couldn&apos;t read your modes</source>
         <translation>Fendrel konnte deine Modi nicht lesen</translation>
     </message>
     <message>
@@ -687,6 +863,20 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>Fendrel messages</source>
         <translation>Fendrel-Nachrichten</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::DockAppsModel</name>
+    <message>
+        <source>99+</source>
+        <translation>99+</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::DockController</name>
+    <message>
+        <source>%1 of %2 used today</source>
+        <translation>Heute %1 von %2 verbraucht</translation>
     </message>
 </context>
 <context>
@@ -758,7 +948,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
 <context>
     <name>fendrel::HeldMessages</name>
     <message>
-        <source>The record of notifications can't be read.</source>
+        <source>The record of notifications can&apos;t be read.</source>
         <translation>Das Verzeichnis der Benachrichtigungen kann nicht gelesen werden.</translation>
     </message>
 </context>
@@ -774,7 +964,10 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message numerus="yes">
         <source>%n message(s)</source>
-        <translation><numerusform>%n Nachricht</numerusform><numerusform>%n Nachrichten</numerusform></translation>
+        <translation>
+            <numerusform>%n Nachricht</numerusform>
+            <numerusform>%n Nachrichten</numerusform>
+        </translation>
     </message>
     <message>
         <source>Looks urgent</source>
@@ -792,11 +985,11 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
 <context>
     <name>fendrel::TrashController</name>
     <message>
-        <source>The Trash couldn't be emptied</source>
+        <source>The Trash couldn&apos;t be emptied</source>
         <translation>Der Papierkorb konnte nicht geleert werden</translation>
     </message>
     <message>
-        <source>Some of what is in it can't be deleted.</source>
+        <source>Some of what is in it can&apos;t be deleted.</source>
         <translation>Einiges darin lässt sich nicht löschen.</translation>
     </message>
     <message>
@@ -808,7 +1001,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Papierkorb leeren?</translation>
     </message>
     <message>
-        <source>What is in it is deleted for good. You can't undo this.</source>
+        <source>What is in it is deleted for good. You can&apos;t undo this.</source>
         <translation>Der Inhalt wird endgültig gelöscht. Das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
@@ -820,11 +1013,11 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>“%1” couldn't be moved to the Trash</source>
+        <source>“%1” couldn&apos;t be moved to the Trash</source>
         <translation>„%1“ konnte nicht in den Papierkorb bewegt werden</translation>
     </message>
     <message>
-        <source>%1 items couldn't be moved to the Trash</source>
+        <source>%1 items couldn&apos;t be moved to the Trash</source>
         <translation>%1 Objekte konnten nicht in den Papierkorb bewegt werden</translation>
     </message>
 </context>
