@@ -58,7 +58,7 @@ Interface::Interface(AppController& controller)
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
     m_engine.addImageProvider(u"symbol"_s, new SymbolImages);
     m_engine.addImageProvider(u"shadow"_s, new ShadowImages);
-    m_theme = themeOf(m_engine);
+    m_theme = themeOf(m_engine); // NOLINT(cppcoreguidelines-prefer-member-initializer): the paths come first
     applyLook();
 
     controller.onLayoutDocks = [this] { layoutDocks(); };

@@ -28,8 +28,8 @@ DockItem {
     property real fullSize: iconSize // of the largest picture that is ever shown
     property bool cyclesWithWheel: true // else only with Ctrl, because the row itself scrolls
 
-    property real coming: 0 // to 1, while it appears; its own, for what moves the row may be cut short
-    NumberAnimation on coming { to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
+    property real coming // 0 to 1, while it appears; its own, for what moves the row may be cut short
+    NumberAnimation on coming { from: 0; to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
     property real share: 1 // 0 to 1, of it that is in sight
     opacity: coming * share
     scale: coming

@@ -2,6 +2,7 @@
 #include "Table.h"
 
 #include <QDBusConnection>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace fendrel;
@@ -34,7 +35,7 @@ public:
         return {};
     }
     Handle watch(const ConfigurationKey& key, std::function<void()> run) override {
-        watches.insert(key.path + key.key, std::move(run));
+        watches.insert(key.path + key.key, run);
         return {};
     }
 
@@ -81,8 +82,7 @@ public:
     QJsonObject hiding{{u"1"_s, u"none"_s}, {u"2"_s, u"dodgewindows"_s}, {u"3"_s, u"none"_s}};
     QJsonObject marks{};
 
-public Q_SLOTS:
-    Q_SCRIPTABLE QString evaluateScript(const QString& script);
+    Q_SCRIPTABLE Q_SLOT QString evaluateScript(const QString& script);
 };
 
 QString FakeShell::evaluateScript(const QString& script) {
@@ -107,7 +107,7 @@ QString FakeShell::evaluateScript(const QString& script) {
 }
 
 struct World {
-    explicit World(const QString& name) : dock(name) {}
+    explicit World(QString name) : dock(std::move(name)) {}
 
     SystemDockSettings read() {
         std::optional<SystemDockSettings> answer;
