@@ -43,6 +43,7 @@ public:
     // What the interface does for the controller
     std::function<void()> onShowOnboarding = [] {};
     std::function<void(const QString& pane)> onShowSettings = [](const QString&) {};
+    std::function<void(const QString& modeID)> onEditMode = [](const QString&) {}; ///< show the mode in the settings
     std::function<void(const Alert&)> onAlert = [](const Alert&) {};
     std::function<void()> onLayoutDocks = [] {}; ///< make the panels match `dockScreens`
     std::function<void()> onAttention = [] {};   ///< the user started the program once more
@@ -55,6 +56,7 @@ public:
 
     static const QStringList& settingsPanes();
     void showSettings(const QString& pane); ///< an unknown pane opens nothing
+    void editMode(const QString& modeID) { onEditMode(modeID); }
     /// The program was started a second time, perhaps for a settings pane.
     void startedAgain(const QString& settingsPane);
 

@@ -53,6 +53,7 @@ void AppController::wire() {
         m_minimized.refresh();
         Q_EMIT windowsChanged();
     };
+    m_platform.accessibility->onFocusedWindowMoved = [this] { updateActiveDisplay(); };
     m_platform.badges->onChanged = [this](const QString&) { Q_EMIT badgesChanged(); };
     m_platform.displays->onChanged = [this] {
         m_replacement.edgeGuard().updateEdges();
@@ -92,6 +93,7 @@ AppController::~AppController() {
     m_platform.systemDock->onRunningChanged = [] {};
     m_platform.systemDock->onEdgesChanged = [] {};
     m_platform.accessibility->onWindowsChanged = [] {};
+    m_platform.accessibility->onFocusedWindowMoved = [] {};
     m_platform.badges->onChanged = [](const QString&) {};
     m_platform.displays->onChanged = [] {};
     m_platform.displays->onSpaceChanged = [] {};

@@ -3,6 +3,9 @@
 #include "Base/Log.h"
 #include "Dock/SavedDockSettings.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -17,6 +20,8 @@ namespace {
 
 const QString isOnKey = u"replaceDock"_s;
 const QString savedKey = u"savedDockSettings"_s;
+/// Of docks that could not be given back before another one took their place: an array of the same records.
+const QString asideKey = u"otherSavedDockSettings"_s;
 
 } // namespace
 
@@ -32,6 +37,8 @@ DockReplacement::DockReplacement(SystemDock& dock, PointerGuard& pointer, Displa
 }
 
 void DockReplacement::settle() {
+    if (m_isStopping)
+        return;
     m_edgeGuard.setOn(m_isOn);
     m_edgeGuard.updateEdges();
     if (m_isOn)
@@ -68,8 +75,10 @@ void DockReplacement::hideDock() {
     if (before && (!dock || before->dock != *dock)) {
         // The one that was hidden gave its place to another, or to none.
         restoreDock([this] {
-            if (m_dock.running() && !saved())
-                hideDock();
+            if (!m_dock.running())
+                return;
+            setAside();
+            hideDock();
         });
         return;
     }
@@ -86,8 +95,10 @@ void DockReplacement::hideDock() {
 }
 
 void DockReplacement::save(const Settings& current) {
-    // Hidden already, and nobody knows how it was: an earlier run's record was lost.
-    m_settings.set(savedKey, toJson(isHiding(current) ? Settings{.dock = current.dock} : current));
+    // Hidden already without a record of it, nobody knows how it was.
+    const Settings unknown{.dock = current.dock};
+    const auto aside = takeAside(current.dock);
+    m_settings.set(savedKey, toJson(isHiding(current) ? aside.value_or(unknown) : current));
     m_step = m_settings.whenStored([this, current](bool isStored) {
         if (isStored) {
             hideSaved(current);
@@ -167,6 +178,11 @@ void DockReplacement::showLeftover() {
     const auto dock = m_dock.running();
     if (!dock)
         return;
+    if (const auto aside = takeAside(*dock)) {
+        m_settings.set(savedKey, toJson(*aside));
+        restoreDock();
+        return;
+    }
     m_step = m_dock.read(*dock, [this](const std::optional<Settings>& current) {
         if (!current || !isHiding(*current))
             return;
@@ -179,6 +195,7 @@ void DockReplacement::stop(std::function<void()> done) {
         2s; // for a service that does not answer: the next start gives back what this one could not
     m_edgeGuard.setOn(false);
     m_isOn = false; // not in the settings: the next start hides it again
+    m_isStopping = true;
     const auto once = std::make_shared<std::function<void()>>(std::move(done));
     const auto finish = [once] {
         if (const auto run = std::exchange(*once, {}))
@@ -195,6 +212,36 @@ std::optional<SystemDockSettings> DockReplacement::saved() const {
 
 void DockReplacement::clearSaved() {
     m_settings.remove(savedKey);
+}
+
+void DockReplacement::setAside() {
+    const auto record = m_settings.read<QByteArray>(savedKey);
+    if (!record)
+        return;
+    auto others = QJsonDocument::fromJson(m_settings.read<QByteArray>(asideKey).value_or(QByteArray())).array();
+    others.append(QJsonDocument::fromJson(*record).object());
+    m_settings.set(asideKey, QJsonDocument(others).toJson(QJsonDocument::Compact));
+    clearSaved();
+}
+
+std::optional<SystemDockSettings> DockReplacement::takeAside(const QString& dock) {
+    const auto records = m_settings.read<QByteArray>(asideKey);
+    if (!records)
+        return {};
+    std::optional<Settings> found;
+    QJsonArray others;
+    for (const auto& record : QJsonDocument::fromJson(*records).array()) {
+        const auto settings = systemDockSettingsFromJson(QJsonDocument(record.toObject()).toJson());
+        if (settings && settings->dock == dock)
+            found = settings;
+        else if (settings)
+            others.append(record);
+    }
+    if (others.isEmpty())
+        m_settings.remove(asideKey);
+    else
+        m_settings.set(asideKey, QJsonDocument(others).toJson(QJsonDocument::Compact));
+    return found;
 }
 
 } // namespace fendrel

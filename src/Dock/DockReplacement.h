@@ -27,6 +27,8 @@ public:
     DockEdgeGuard& edgeGuard() { return m_edgeGuard; }
     const DockEdgeGuard& edgeGuard() const { return m_edgeGuard; }
 
+    bool owesDock() const { return saved().has_value(); } ///< one of the system's is hidden, and to be given back
+
     /// The dock that there is to replace, as in the middle of a sentence; empty when there is none.
     QString dockName() const;
 
@@ -48,6 +50,8 @@ private:
     bool isSpaceHeld() const;
     std::optional<Settings> saved() const;
     void clearSaved();
+    void setAside();
+    std::optional<Settings> takeAside(const QString& dock);
 
     SystemDock& m_dock;
     Displays& m_displays;
@@ -58,6 +62,7 @@ private:
     Handle m_step;  ///< what is being asked, written or waited for; a new wish takes its place
     Handle m_watch; ///< looks whether the dock did go
     Handle m_patience;
+    bool m_isStopping = false;
 };
 
 } // namespace fendrel

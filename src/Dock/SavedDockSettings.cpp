@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double hidingDelay = 1000; // seconds
-
 const QString autohideKey = u"autohide"_s;
 const QString delayKey = u"delay"_s;
 const QString dockKey = u"dock"_s;

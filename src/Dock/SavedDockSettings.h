@@ -8,7 +8,7 @@
 
 namespace fendrel {
 
-/// Whether these are the settings that keep a dock away for good. Nobody else waits a thousand seconds.
+/// Whether these are the settings that keep a dock away for good.
 bool isHiding(const SystemDockSettings& settings);
 SystemDockSettings hidingSettings(const QString& dock);
 

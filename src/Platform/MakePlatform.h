@@ -21,6 +21,9 @@ Folders standardFolders();
 /// The browsers that this system may have.
 QList<BrowserHome> standardBrowsers();
 
+/// What of it needs neither a display nor the toolkit: files, settings, and what is changed of the desktop.
+Platform makePlatformWithoutDisplay();
+
 /// Every port with this system's adapter. Called once, on the main thread, when the toolkit runs.
 Platform makePlatform();
 

@@ -44,6 +44,8 @@ public:
     virtual QList<WindowInfo> windows(qint64 pid) const = 0;
     /// Some window came, went, was minimised, restored or renamed. Once for what happens at the same time.
     std::function<void()> onWindowsChanged = [] {};
+    /// The window with the keyboard was moved, or has another size. Once for what happens at the same time.
+    std::function<void()> onFocusedWindowMoved = [] {};
     virtual std::optional<WindowID> focusedWindow(qint64 pid) const = 0;
     virtual std::optional<WindowID> mainWindow(qint64 pid) const = 0; ///< a visible one; nothing when all are minimised
     virtual std::optional<QString> title(WindowID window) const = 0;

@@ -12,6 +12,8 @@
 
 namespace fendrel {
 
+constexpr double hidingDelay = 1000.0; ///< seconds that a dock waits which is kept away for good: nobody else's does
+
 /// What says whether a dock of the system's shows: its own settings. Absent: not set, so that its default holds.
 struct SystemDockSettings {
     std::optional<bool> autohide{};
@@ -22,8 +24,8 @@ struct SystemDockSettings {
 };
 
 /// The dock that the system itself shows. It is never removed: it is told to hide, and to wait so long that it never
-/// shows by itself. Main thread; answers come later, in the order of the calls, and dropping a call's handle only
-/// keeps its answer away: what was sent is done.
+/// shows by itself. Main thread; the calls for one dock are carried out in their order. Answers come later, and
+/// dropping a call's handle only keeps its answer away: what was sent is done.
 class SystemDock {
 public:
     virtual ~SystemDock() = default;
@@ -38,7 +40,8 @@ public:
     std::function<void()> onEdgesChanged = [] {};
 
     using ReadDone = std::function<void(const std::optional<SystemDockSettings>&)>; ///< nothing: it does not answer
-    using WriteDone = std::function<void(bool isWritten)>; ///< true: it is where even a power cut leaves it
+    using WriteDone = std::function<void(bool isWritten)>; ///< true: it is where even a power cut leaves it, which is
+                                                           ///< some seconds later with some docks
 
     virtual Handle read(const QString& dock, ReadDone done) = 0;
     /// Absent settings are given back to their default. The settings that hide it are recognised by `autohide` and

@@ -52,7 +52,7 @@ Interface::Interface(AppController& controller)
       m_messages(controller, m_icons),
       m_dock(controller, m_icons, m_messages),
       m_firstRun(controller, m_icons),
-      m_settings(controller) {
+      m_settings(controller, m_icons) {
     qml_register_types_Fendrel_Types();
     m_engine.addImportPath(u"qrc:/qml"_s);
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
@@ -64,6 +64,9 @@ Interface::Interface(AppController& controller)
     controller.onLayoutDocks = [this] { layoutDocks(); };
     controller.onShowOnboarding = [this] { showFirstRun(); };
     controller.onShowSettings = [this](const QString& pane) { whenFree([this, pane] { showSettings(pane); }); };
+    controller.onEditMode = [this](const QString& modeID) {
+        whenFree([this, modeID] { showSettings(u"modes"_s, modeID); });
+    };
     controller.onAlert = [this](const Alert& alert) { whenFree([this, alert] { showAlert(alert); }); };
     controller.onAttention = [this] { whenFree([this] { showSettings(m_settings.pane()); }); };
     QObject::connect(&controller.gate(), &Gate::changed, &m_settings, [this] {
@@ -188,8 +191,10 @@ void Interface::showFirstRun() {
     m_firstRunWindow->present();
 }
 
-void Interface::showSettings(const QString& pane) {
+void Interface::showSettings(const QString& pane, const QString& modeID) {
     m_settings.setPane(pane);
+    if (!m_settingsWindow || !modeID.isEmpty())
+        m_settings.modeEditor()->edit(modeID);
     if (!m_settingsWindow) {
         m_settingsWindow = std::make_unique<Dialog>(
             m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Setup/SettingsView.qml"_s,

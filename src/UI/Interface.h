@@ -40,7 +40,7 @@ private:
     void placeCards();
     void focusDock();
     void showFirstRun();
-    void showSettings(const QString& pane);
+    void showSettings(const QString& pane, const QString& modeID = {});
     void showAlert(const Alert& alert);
     void showTray();
     void applyLook();

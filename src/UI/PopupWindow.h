@@ -4,8 +4,8 @@
 
 namespace fendrel {
 
-/// A menu's window beside a dock: takes pointer and keyboard while it is open, and closes on a press outside, on Escape
-/// and when it loses them. (Its base is named in full for the tools of QML, which take the name as it is written.)
+/// A menu's window beside a dock: takes pointer and keyboard while it is open, and closes on a press outside and on
+/// Escape. (Its base is named in full for the tools of QML, which take the name as it is written.)
 class PopupWindow : public fendrel::BesideWindow {
     Q_OBJECT
     QML_ELEMENT

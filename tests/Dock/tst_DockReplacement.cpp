@@ -190,12 +190,34 @@ private Q_SLOTS:
         QCOMPARE(world.dock.settings, settings({}, {}));
     }
 
+    /// What was hidden last cannot be given back, and another dock runs now.
+    void aLostDockHoldsNobodyUp() {
+        World world;
+        auto lost = settings(false, 0.1);
+        lost.dock = u"lost"_s;
+        world.store.values.insert(u"savedDockSettings"_s, toJson(lost));
+        world.store.values.insert(u"replaceDock"_s, true);
+        world.dock.settings = settings(true, 0.5);
+        world.start();
+        QVERIFY(isHiding(world.dock.settings));
+        world.set(false);
+        QCOMPARE(world.dock.settings, settings(true, 0.5));
+
+        world.dock.current = lost.dock; // it is back, and still hidden
+        world.dock.settings = hidingSettings(lost.dock);
+        world.replacement->settle();
+        world.settle();
+        QCOMPARE(world.dock.settings, lost);
+        QVERIFY(!world.hasRecord());
+    }
+
     void quitsThoughTheDockIsSilent() {
         World world;
         world.start();
         world.set(true);
         bool isOver = false;
         world.replacement->stop([&] { isOver = true; });
+        world.replacement->settle(); // the desktop ends with us
         QVERIFY(!isOver);
         world.clock.advance(3s);
         QVERIFY(isOver);

@@ -65,7 +65,7 @@ private:
 
     /// In the middle of what was begun as often as when it is over.
     void flip() {
-        m_reading = m_dock.read(u"plank"_s, [this](const auto&) {
+        m_reading = m_dock.read(*m_dock.running(), [this](const auto&) {
             if (m_random.bounded(3) == 0)
                 m_replacement->set(!m_replacement->isOn());
             flip();
@@ -75,7 +75,7 @@ private:
     Worker m_disk{u"disk"_s};
     SystemClock m_clock;
     SettingsFile m_settings;
-    DesktopDock m_dock{dockDrivers(std::make_shared<GSettingsConfiguration>())};
+    DesktopDock m_dock{dockDrivers(std::make_shared<GSettingsConfiguration>(), m_clock)};
     NullPointerGuard m_pointer;
     NullDisplays m_displays;
     std::optional<DockReplacement> m_replacement;

@@ -100,6 +100,8 @@ class Displays(harness.DesktopTest):
         for app, display in ((self.editor, "Left"), (self.chat, "Right"), (self.editor, "Left")):
             app.raise_window()
             self.docks_are_on(BESIDE[display])
+        self.put(self.editor, 800, 100)  # as when it is dragged there
+        self.docks_are_on(BESIDE["Right"])
         self.assertEqual(docks(), window, "another one was made")
 
     def test_none_covers_a_full_screen_window(self):

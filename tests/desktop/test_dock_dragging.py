@@ -7,6 +7,7 @@ import time
 
 import harness
 from harness import DOCK
+from test_displays import BESIDE, WHOLE, arrange
 from windows import SECONDS, Failed, Lines, geometry, titled, numbers, wait_window, xdotool
 
 SOURCE = pathlib.Path(__file__).with_name("drag_source.py")
@@ -52,11 +53,11 @@ def pixels(picture, color):
     return found
 
 
-def place_of(color, least=300):
-    """The middle of what is drawn in this colour, once it stands still."""
+def place_of(color, least=300, left=0):
+    """The middle of what is drawn in this colour, no further left, once it stands still."""
     def look():
         picture = grab()
-        spots = pixels(picture, color)
+        spots = [spot for spot in pixels(picture, color) if spot[0] >= left]
         if len(spots) >= least and picture == grab():
             return tuple(sum(values) // len(values) for values in zip(*spots))
         return None
@@ -121,6 +122,34 @@ class Dragging(harness.DesktopTest):
         self.names_are("Blue", "Red")
         self.fendrel.do("undo")
         self.names_are("Green", "Blue", "Red")
+
+    def test_the_dock_of_another_display(self):
+        """Not away from the dock: what is let go there goes back."""
+        self.fendrel.do("settings", "set", "dockDisplay", "all")
+        self.addCleanup(arrange, {})
+        arrange(BESIDE)
+        self.fendrel.expect("two docks", lambda state: len(state["dock"]["displays"]) == 2)
+        eventually("it on both", lambda: {2 * x // WIDTH for x, _ in pixels(grab(), COLORS["Red"])} == {0, 1})
+        x, y = place_of(COLORS["Red"])  # between the two
+        both = len(pixels(grab(), COLORS["Red"]))
+        drag((x - WIDTH // 4, y), (x + WIDTH // 4, y))
+        eventually("it carried", lambda: len(pixels(grab(), COLORS["Red"])) < both)
+        drop()
+        xdotool("mousemove", "10", "10")
+        place_of(COLORS["Red"], both)
+        self.names_are("Red", "Green", "Blue")
+
+    def test_its_display_goes_meanwhile(self):
+        self.addCleanup(arrange, {})
+        arrange(BESIDE)
+        self.fendrel.do("settings", "set", "dockDisplay", "all")
+        x, y = place_of(COLORS["Red"], left=WIDTH // 2)
+        drag((x, y), (x, y - 300))
+        eventually("no red one in the docks", lambda: not pixels(grab(), COLORS["Red"]))
+        arrange(WHOLE)
+        place_of(COLORS["Red"])
+        drop()
+        self.names_are("Red", "Green", "Blue")
 
     def drag_from_elsewhere(self, addresses, answered):
         """To the green one, let go when the dock has answered; what the other program is told then."""

@@ -48,10 +48,6 @@ class Extras(harness.DesktopTest):
         """A mode of which the editor is the only application, and a dock that is there without a movement."""
         super().setUp()
         first = self.start_with_modes()
-        for mode in first.do("modes"):
-            if mode["id"] == "writing":
-                for app in set(mode["apps"]) - {self.editor.id}:
-                    first.do("mode", "remove-app", "writing", app)
         first.do("dock", "replace", "on")
         first.do("settings", "set", "magnify", "false")
         first.end(lambda: first.do("quit"))
@@ -99,7 +95,7 @@ class Extras(harness.DesktopTest):
     def test_a_menu_by_the_keyboard_and_the_way_back(self):
         self.open_menu(PILLS)
         press("Down", "Down", "Down", "Right")  # past its window and New Window, to what it is added to
-        press("Down", "Return")                 # past the mode that it is in
+        press("Return")                         # the first that it is not in
         self.fendrel.expect("an offer", lambda state: state["undo"])
         self.assertIn(self.editor.id, self.apps_of("building"))
         x, y, width, height = wait_shown(UNDO)
@@ -107,6 +103,17 @@ class Extras(harness.DesktopTest):
         self.fendrel.expect("no offer any more", lambda state: not state["undo"])
         self.assertNotIn(self.editor.id, self.apps_of("building"))
         wait_gone(UNDO)
+
+    def test_a_menu_goes_with_what_it_needs(self):
+        self.open(self.chat)
+        self.fendrel.front_is(self.chat)
+        place = self.open_menu(PILLS + 1)
+        self.editor.raise_window()  # which has the keyboard from then on
+        wait_gone(MENU)
+        xdotool("mousemove", str(place), str(HEIGHT - 1), "click", "3")  # where a pointer that is thrown there stops
+        wait_shown(MENU)
+        self.chat.end()
+        wait_gone(MENU)
 
     def test_a_minimized_window(self):
         self.editor.tell(f"paint {0x12c034}")

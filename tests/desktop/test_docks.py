@@ -13,8 +13,8 @@ import harness
 from windows import EAR, SECONDS, Lines, numbers, titled, wait_window
 
 LEFT, BOTTOM = 2, 8  # Qt::Edge
-KILLS = 200
 SECONDS_BEFORE_KILL = 0.06
+FILE = pathlib.Path.home() / ".config/xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml"
 PLANK = "/net/launchpad/plank/docks/dock1/"
 os.environ["GSETTINGS_BACKEND"] = "dconf"
 
@@ -23,7 +23,7 @@ def told(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-class DockTest(harness.unittest.TestCase):
+class DockTest(harness.DesktopTest):
     def serve(self, name, *command):
         """Starts the program of a name on the bus, which nothing on this one does."""
         if not command:
@@ -36,19 +36,44 @@ class DockTest(harness.unittest.TestCase):
         return server
 
     def setUp(self):
+        super().setUp()
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.settings = pathlib.Path(folder.name) / "Settings.json"
 
-    def start(self, dock):
+    def switch(self):
         program = Lines(harness.PROGRAMS / "dock_switch", self.settings)
         self.addCleanup(program.end)
-        program.expect("the dock runs", dock.__eq__)
+        program.expect("the dock runs", self.running.__eq__)
         return program
 
     def stop(self, program):
         program.say("stop")
         program.expect("it is given back", "stopped".__eq__)
+
+    def kill(self, kills, ways):
+        """Kills what switches the dock all the time, and looks what the next start makes of that. Everything is tried
+        on each of the ways in which people have their dock."""
+        seed = random.randrange(1 << 30)
+        moments = random.Random(seed)
+        hidden = 0
+        for turn in range(kills):
+            if turn % (kills // len(ways)) == 0:
+                self.settings.unlink(missing_ok=True)  # else this would be the user's change of a hidden dock
+                self.begin(ways[turn // (kills // len(ways))])
+                before = self.now()
+            program = self.switch()
+            if moments.random() < 0.5:
+                program.say("settle")
+            self.give_back(program, before)
+            self.assertEqual(self.now(), before, f"seed {seed}, turn {turn}")
+            program.say(f"flip {moments.randrange(1 << 30)}")
+            time.sleep(moments.uniform(0, SECONDS_BEFORE_KILL))
+            if moments.random() < 0.3:
+                self.hold()
+            program.end()
+            hidden += self.now() != before
+        self.assertGreater(hidden, kills / 10, f"seed {seed}: it was hardly ever hidden when it was killed")
 
     def end(self, program):
         self.stop(program)
@@ -79,7 +104,7 @@ class Plank(DockTest):
         self.set(hide_mode="'none'", unhide_delay="250")
         EAR.expect("it holds space", lambda: any(numbers("_NET_WM_STRUT_PARTIAL", window)), window)
         before = self.now()
-        program = self.start(self.running)
+        program = self.switch()
         program.say("on")
         EAR.expect("it is gone", lambda: not any(numbers("_NET_WM_STRUT_PARTIAL", window)), window)
         program.say("off")
@@ -88,7 +113,7 @@ class Plank(DockTest):
         self.assertEqual(self.now(), before)
 
     def test_changes_of_the_user(self):
-        program = self.start(self.running)
+        program = self.switch()
         program.say("on")
         EAR.expect("it is hidden", lambda: "unhide-delay=1000000" in self.now(), wait_window("plank"))
         self.set(hide_mode="'window-dodge'")
@@ -100,39 +125,44 @@ class Plank(DockTest):
         self.assertEqual(self.now(), {"hide-mode='window-dodge'", "position='top'"})
 
     def test_killed_at_any_moment(self):
-        seed = random.randrange(1 << 30)
-        moments = random.Random(seed)
-        hidden = 0
-        for turn in range(KILLS):
-            if turn % (KILLS // 4) == 0:
-                self.keeper.send_signal(signal.SIGCONT)
-                self.settings.unlink(missing_ok=True)  # else this would be the user's change of a hidden dock
-                told("dconf", "reset", "-f", PLANK)
-                self.set(**[{}, {"hide_mode": "'none'"}, {"hide_mode": "'auto'", "pressure_reveal": "true"},
-                            {"hide_mode": "'auto'", "unhide_delay": "0"}][turn // (KILLS // 4)])
-                before = self.now()
-            program = self.start(self.running)
-            if moments.random() < 0.5:
-                program.say("settle")
-            program.say("stop")
-            self.keeper.send_signal(signal.SIGCONT)
-            program.expect("it is given back", "stopped".__eq__)
-            self.assertEqual(self.now(), before, f"seed {seed}, turn {turn}")
-            program.say(f"flip {moments.randrange(1 << 30)}")
-            time.sleep(moments.uniform(0, SECONDS_BEFORE_KILL))
-            if moments.random() < 0.3:
-                self.keeper.send_signal(signal.SIGSTOP)  # what is on its way to it then arrives after the next start
-            program.end()
-            hidden += self.now() != before
-        self.assertGreater(hidden, KILLS / 10, f"seed {seed}: it was hardly ever hidden when it was killed")
+        self.kill(120, [{}, {"hide_mode": "'none'"}, {"hide_mode": "'auto'", "pressure_reveal": "true"},
+                        {"hide_mode": "'auto'", "unhide_delay": "0"}])
+
+    def begin(self, values):
+        self.keeper.send_signal(signal.SIGCONT)
+        told("dconf", "reset", "-f", PLANK)
+        self.set(**values)
+
+    def hold(self):
+        """What is on its way to the disk arrives after the next start."""
+        self.keeper.send_signal(signal.SIGSTOP)
+
+    def give_back(self, program, before):
+        program.say("stop")
+        self.keeper.send_signal(signal.SIGCONT)
+        program.expect("it is given back", "stopped".__eq__)
+
+    def test_the_whole_program_killed(self):
+        window = wait_window("plank")
+        before = self.now()
+        killed = self.start_with_modes()
+        killed.do("dock", "replace", "on")
+        EAR.expect("it is hidden", lambda: "unhide-delay=1000000" in self.now(), window)
+        killed.process.kill()
+        killed.process.wait()
+        fendrel = self.start()
+        fendrel.do("dock", "replace", "off")
+        EAR.expect("it is back", lambda: self.now() == before, window)
+        fendrel.end(lambda: fendrel.do("quit"))
+        self.assertEqual(self.now(), before)
+        self.assertNotIn("savedDockSettings", (harness.CONFIG / "Settings.json").read_text())
 
 
 class XfcePanel(DockTest):
     def setUp(self):
         super().setUp()
-        if "org.xfce.Xfconf" not in told("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path",
-                                         "/", "--method", "org.freedesktop.DBus.ListNames"):
-            self.serve("org.xfce.Xfconf")
+        FILE.unlink(missing_ok=True)
+        self.keeper = self.serve("org.xfce.Xfconf")
         self.serve("org.xfce.Panel", "xfce4-panel")
         wait_window("xfce4-panel")  # it has made its settings by then
         self.set("autohide-behavior", "--reset")
@@ -144,6 +174,11 @@ class XfcePanel(DockTest):
     def set(self, key, *value):
         told("xfconf-query", "--channel", "xfce4-panel", "--property", f"/panels/panel-2/{key}", *value)
 
+    def watch(self, folder):
+        changes = Lines("gio", "monitor", "-d", folder)
+        self.addCleanup(changes.end)
+        return changes
+
     def lower(self):
         """The panel that holds space below."""
         return next((window for window in numbers("_NET_CLIENT_LIST") if titled([window], "xfce4-panel")
@@ -152,7 +187,7 @@ class XfcePanel(DockTest):
     def test_hidden_and_given_back(self):
         window = EAR.expect("it holds space", self.lower)
         before = self.now()
-        program = self.start(self.running)
+        program = self.switch()
         program.say("on")
         EAR.expect("it is gone", lambda: window not in numbers("_NET_CLIENT_LIST"))
         program.say("off")
@@ -167,9 +202,50 @@ class XfcePanel(DockTest):
         program.expect("its edge", f"xfce4-panel {LEFT}".__eq__)
         self.set("position", "--set", "p=9;x=0;y=0")
         program.expect("a menu bar is no dock", "none".__eq__)
-        self.end(program)
+        folder = self.watch(self.settings.parent)
+        program.say("off")
+        folder.expect("the record goes", lambda line: "savedDockSettings" not in self.settings.read_text())
+        self.assertNotIn("autohide-behavior", FILE.read_text())
         self.assertNotIn("autohide-behavior", self.now())
         self.assertRegex(self.now(), "output-name +Primary")
+
+    def test_power_cut_after_it_was_given_back(self):
+        folder = self.watch(FILE.parent)
+        before = self.now()
+        program = self.switch()
+        program.say("on")
+        folder.expect("it is hidden on the disk",
+                      lambda line: FILE.exists() and "hidden-by-fendrel" in FILE.read_text())
+        self.stop(program)
+        program.say("quit")
+        program.process.wait(SECONDS)
+        self.keeper.kill()
+        self.keeper.wait()
+        self.keeper = self.serve("org.xfce.Xfconf")
+        self.stop(self.switch())
+        self.assertEqual(self.now(), before)
+
+    def test_killed_at_any_moment(self):
+        self.kill(80, [{}, {"autohide-behavior": ("uint", "0")}, {"autohide-behavior": ("uint", "1")},
+                       {"autohide-behavior": ("uint", "2"), "output-name": ("string", "Primary")}])
+
+    def begin(self, values):
+        for key in ("output-name", "autohide-behavior"):
+            self.set(key, "--reset")
+        for key, (kind, value) in values.items():
+            self.set(key, "--create", "--type", kind, "--set", value)
+
+    def hold(self):
+        """The service takes everything at once."""
+
+    def give_back(self, program, before):
+        """Without waiting for the disk, which takes seconds."""
+        changes = Lines("xfconf-query", "--channel", "xfce4-panel", "--monitor")
+        changes.expect("it listens")
+        program.say("stop")
+        if self.now() != before:
+            changes.expect("it is given back", lambda line: self.now() == before)
+        changes.end()
 
 
 if __name__ == "__main__":

@@ -9,7 +9,7 @@ import unittest
 
 import harness
 from harness import DATA, HOME, IS_SANITIZED, PROGRAMS, SETTINGS, STATE
-from windows import SECONDS, press, wait_active
+from windows import SECONDS, press, wait_active, xdotool
 
 
 def run(*arguments, without=(), **environment):
@@ -75,6 +75,28 @@ class Starts(harness.DesktopTest):
         fendrel = self.start("--settings-page", "about", XDG_SESSION_TYPE="wayland", WAYLAND_DISPLAY="wayland-0")
         wait_active(SETTINGS)
         self.assertTrue(fendrel.do("modes"))
+
+
+class Settings(harness.DesktopTest):
+    def test_a_mode_is_edited_with_the_keyboard(self):
+        fendrel = self.start_with_modes()
+        mode = fendrel.do("modes")[0]
+        fendrel.do("settings", "open", "modes")
+        wait_active(SETTINGS)
+        panes, before = 5, 1  # the pills are one stop
+        press(*["Tab"] * (panes + before + 1))  # the name
+        # Color, wait, allowance and "Add…", each application's button, and then the field for sites.
+        to_sites = 4 + len(mode["apps"]) + 1
+        press(*["Tab"] * to_sites)
+        xdotool("type", "nonsense")
+        press("Return", "ctrl+a")
+        xdotool("type", "https://WWW.Wanted.example/a?b")
+        press("Return")
+        press(*["shift+Tab"] * to_sites, "ctrl+a")
+        xdotool("type", "Prose")
+        subprocess.run(["wmctrl", "-F", "-c", SETTINGS], check=True)  # what was typed counts
+        fendrel.expect("the new name", lambda state: state["mode"]["name"] == "Prose")
+        self.assertEqual(fendrel.do("modes")[0]["sites"], [*mode["sites"], "wanted.example"])
 
 
 @unittest.skipIf(IS_SANITIZED, "the sanitizer reports crashes itself")

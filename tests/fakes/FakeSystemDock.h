@@ -25,6 +25,8 @@ public:
         });
     }
     Handle write(const SystemDockSettings& wanted, WriteDone done) override {
+        if (wanted.dock != settings.dock) // that one is gone
+            return answerLater([done = std::move(done)] { done(false); });
         settings = wanted;
         const bool hides = wanted.autohide == true && wanted.delay == 1000.0;
         log.append(hides ? QStringLiteral("hide") : QStringLiteral("give back"));

@@ -19,8 +19,8 @@
 #include "Platform/Linux/X11/X11HotKeys.h"
 #include "Platform/Linux/X11/X11IdleTime.h"
 #include "Platform/Linux/X11/X11Panels.h"
-#include "Platform/Linux/X11/X11WindowPreviews.h"
 #include "Platform/Linux/X11/X11PointerGuard.h"
+#include "Platform/Linux/X11/X11WindowPreviews.h"
 #include "Platform/Null/NullPlatform.h"
 #include "Platform/Shared/NetworkClient.h"
 #include "Platform/Shared/SettingsFile.h"
@@ -56,7 +56,7 @@ QList<BrowserHome> standardBrowsers() {
     return browserHomes(QDir::homePath(), QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
 }
 
-Platform makePlatform() {
+Platform makePlatformWithoutDisplay() {
     Platform platform = nullPlatform();
     platform.folders = standardFolders();
     platform.relay = QCoreApplication::applicationDirPath() + u"/fendrel-bridge"_s;
@@ -64,10 +64,17 @@ Platform makePlatform() {
     platform.isPeerOwnUser = isPeerOwnUser;
     platform.disk = std::make_unique<Worker>(u"disk"_s);
     platform.clock = std::make_unique<SystemClock>();
-    Clock& clock = *platform.clock;
     platform.settings =
-        std::make_unique<SettingsFile>(platform.folders.config + u"/Settings.json"_s, *platform.disk, clock);
+        std::make_unique<SettingsFile>(platform.folders.config + u"/Settings.json"_s, *platform.disk, *platform.clock);
+    platform.notificationBanners = std::make_unique<DesktopBanners>(*platform.settings);
+    platform.systemDock =
+        std::make_unique<DesktopDock>(dockDrivers(std::make_shared<GSettingsConfiguration>(), *platform.clock));
+    return platform;
+}
 
+Platform makePlatform() {
+    Platform platform = makePlatformWithoutDisplay();
+    Clock& clock = *platform.clock;
     const auto connection = X11Connection::open(clock);
     if (!connection)
         qFatal("The X server does not answer any more");
@@ -94,8 +101,6 @@ Platform makePlatform() {
     platform.shell = std::make_unique<DesktopShell>(catalog, clock);
     platform.languageModel = std::make_unique<ModelServer>(clock);
     platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
-    platform.notificationBanners = std::make_unique<DesktopBanners>(*platform.settings);
-    platform.systemDock = std::make_unique<DesktopDock>(dockDrivers(std::make_shared<GSettingsConfiguration>()));
     platform.http = std::make_unique<NetworkClient>(clock);
     return platform;
 }

@@ -25,6 +25,7 @@ DockItem {
     required property Wave wave
     required property color markColor
     property color background: colors.card // of the bar
+    property real spacing: 0 // to the button before it
     property real fullSize: iconSize // of the largest picture that is ever shown
     property bool cyclesWithWheel: true // else only with Ctrl, because the row itself scrolls
 
@@ -74,14 +75,7 @@ DockItem {
     aside: drawnStart - restingStart + (drawnSize - iconSize) / 2
     rise: Math.max(0, drawnSize - iconSize - 7)
 
-    // The pointer finds the part beyond the bar, too.
-    containmentMask: Item {
-        readonly property real room: button.wave.isUp ? button.fullSize - button.iconSize : 0
-        x: button.edge === Qt.RightEdge ? -room : 0
-        y: button.isVertical ? 0 : -room
-        width: button.width + (button.isVertical ? room : 0)
-        height: button.height + (button.isVertical ? 0 : room)
-    }
+    reach: wave.isUp ? fullSize - iconSize : 0 // the pointer finds the part beyond the bar, too
 
     onIsRunningChanged: isOpening = false
     onPressed: if (!isRunning) open()
@@ -106,10 +100,14 @@ DockItem {
         enabled: false
         active: button.leading > 0
         sourceComponent: Separator {
+            // In the middle between the icons.
+            readonly property real resting: (button.leading - button.spacing) / 2
+            readonly property real start: button.isVertical ? button.y : button.x
+            readonly property real along: Math.round(button.wave.place(start + resting) - start - length / 2)
             colors: button.colors
             isVertical: button.isVertical
-            x: button.isVertical ? (button.width - width) / 2 : Math.round(button.wave.place(button.x) - button.x)
-            y: button.isVertical ? Math.round(button.wave.place(button.y) - button.y) : (button.height - height) / 2
+            x: isVertical ? (button.width - width) / 2 : along
+            y: isVertical ? along : (button.height - height) / 2
         }
     }
 

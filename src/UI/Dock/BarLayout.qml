@@ -1,12 +1,14 @@
 import QtQuick
 
-// How a bar fits its display. Icons shrink first; then the pills, which lose their names; what still does not fit
-// scrolls, the applications before the modes. Everything else keeps its place. Sizes follow from the longest that an item
-// can be, so that they stay when only a text changes.
+// How a bar fits its display. Icons shrink first, as long as that costs them little; then the verdict's words, then icons
+// as far as they go; then the pills, which lose their names; what still does not fit scrolls, the applications before the
+// modes. Everything else keeps its place. Sizes follow from the longest that an item can be, so that they stay when only
+// a text changes.
 QtObject {
     required property real room        // pixels along the edge, for everything in the bar
     required property real steady      // of what neither shrinks nor scrolls, at its longest
-    required property real current     // of the same, as it is now
+    required property real current     // of all but modes and applications, as it is now
+    required property int fullWordsRoom // of the verdict's words, where there is room
     required property int modeCount
     required property real nameLength  // of the longest name of a mode
     required property int appCount
@@ -22,12 +24,18 @@ QtObject {
     readonly property int leastIconSize: Math.ceil(fullIconSize * 0.6)
     readonly property real leastApps: Math.min(appCount, 4) * (leastIconSize + iconRoom)
 
-    readonly property bool isCompact: free - steady - pillsLength(36, nameLength) < leastApps
+    readonly property int leastWordsRoom: Math.min(fullWordsRoom, 80)
+    readonly property int easyIconSize: Math.min(fullIconSize, 40) // down to which words keep their room
+
+    readonly property bool isCompact: free - steady - leastWordsRoom - pillsLength(36, nameLength) < leastApps
     readonly property int pillSize: isCompact ? 30 : 36
 
+    // For the applications and the words.
+    readonly property real shared: free - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers
+    readonly property int wordsRoom: Math.max(leastWordsRoom, Math.min(fullWordsRoom, shared - appCount * (easyIconSize + iconRoom + fullSpacing)))
+
     readonly property int iconSize: {
-        const left = free - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers
-        const fitting = left / Math.max(1, appCount) - iconRoom - fullSpacing
+        const fitting = (shared - wordsRoom) / Math.max(1, appCount) - iconRoom - fullSpacing
         // In steps: other windows move when the bar's depth changes.
         return Math.max(leastIconSize, Math.min(fullIconSize, 4 * Math.floor(fitting / 4)))
     }

@@ -117,6 +117,10 @@ void DockController::openSettings(const QString& pane) {
     m_controller.showSettings(pane);
 }
 
+void DockController::editMode(const QString& modeID) {
+    m_controller.editMode(modeID);
+}
+
 void DockController::quit() {
     m_controller.quit();
 }

@@ -88,6 +88,7 @@ public:
     Q_INVOKABLE QString budgetUsed(const QString& modeID) const; ///< of today's; empty for a mode without an allowance
     Q_INVOKABLE void replaceDock(bool on);                       ///< asks first
     Q_INVOKABLE void openSettings(const QString& pane);
+    Q_INVOKABLE void editMode(const QString& modeID);
     Q_INVOKABLE void quit();
 
 Q_SIGNALS:

@@ -6,6 +6,7 @@ import Fendrel.Types
 QtObject {
     id: drops
 
+    required property DockPanel panel
     required property DockController dock
     required property Item view  // in whose coordinates the pointer is told
     required property Item bar
@@ -37,7 +38,7 @@ QtObject {
     function moveTo(x: real, y: real): bool {
         if (!isActive)
             return false
-        aim(itemAt(items, items.mapFromItem(view, x, y)))
+        aim(itemAt(items, items.mapFromItem(view, onLine(Qt.point(x, y)))))
         if (load.app === "")
             return target !== null
         place = target ? (load.isOurs ? DockAppsModel.AtHome : DockAppsModel.Nowhere) : placeAt(x, y)
@@ -87,6 +88,13 @@ QtObject {
             target.isTarget = true
     }
 
+    // Items stand in one line, and take what is let go between them and the bar's sides or the screen's edge, too.
+    function onLine(point: point): point {
+        const middle = items.mapToItem(view, items.width / 2, items.height / 2)
+        const across = isVertical ? Math.abs(point.x - middle.x) - bar.width / 2 : Math.abs(point.y - middle.y) - bar.height / 2
+        return across > 10 ? point : isVertical ? Qt.point(middle.x, point.y) : Qt.point(point.x, middle.y)
+    }
+
     // The item at a point that takes what is carried.
     function itemAt(parent: Item, point: point): DockItem {
         const child = parent.childAt(point.x, point.y)
@@ -103,8 +111,8 @@ QtObject {
         const across = isVertical ? Math.max(-inBar.x, inBar.x - bar.width) : Math.max(-inBar.y, inBar.y - bar.height)
         const along = isVertical ? Math.max(-inBar.y, inBar.y - bar.height) : Math.max(-inBar.x, inBar.x - bar.width)
         const elsewhere = load.isOurs ? DockAppsModel.AtHome : DockAppsModel.Nowhere
-        if (Math.max(across, along) > iconSize)
-            return DockAppsModel.Nowhere
+        if (Math.max(across, along) > iconSize) // away, unless it is over the dock of another display
+            return panel.isOverOther(Qt.point(x, y), iconSize) ? elsewhere : DockAppsModel.Nowhere
         if (dock.apps.rowCount() === 0)
             return 0
         const inRow = strip.row.mapFromItem(view, x, y)

@@ -46,6 +46,17 @@ Item {
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) pressed() }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) pressed() }
     Keys.onMenuPressed: menuAsked()
+    Keys.onPressed: event => { if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) menuAsked() }
+
+    // Between it and the screen's edge nothing else is to be pressed.
+    property real reach: 0 // pixels beyond it towards the middle of the screen that are its own, too
+    containmentMask: Item {
+        readonly property real gap: 64 // at least as far as the edge
+        x: !item.isVertical ? 0 : item.tip.edge === Qt.LeftEdge ? -gap : -item.reach
+        y: item.isVertical ? 0 : -item.reach
+        width: item.width + (item.isVertical ? gap + item.reach : 0)
+        height: item.height + (item.isVertical ? 0 : gap + item.reach)
+    }
 
     FocusRing {
         target: item

@@ -2,9 +2,10 @@ import QtQuick
 import Fendrel.Style
 import Fendrel.Types
 
-// A menu beside the dock. `open` takes a list of entries, { text, value, symbol, tint, isChecked, isQuiet, isGrave },
-// { header } or { separator: true }, and a function that is called with the value of the chosen one. An entry with a
-// `page`, a list of entries, leads there; a text without either only says something.
+// A menu beside the dock, for as long as the item that it belongs to is there. `open` takes a list of entries,
+// { text, value, symbol, tint, isChecked, isQuiet, isGrave }, { header } or { separator: true }, and a function that is
+// called with the value of the chosen one. An entry with a `page`, a list of entries, leads there; a text without either
+// only says something.
 PopupWindow {
     id: menu
     title: qsTr("Fendrel menu")
@@ -15,11 +16,16 @@ PopupWindow {
     property var action: null
     property var trail: [] // the pages that lead here: { entries, current }
     property DockPanel view: null
-    property Item place: null
+    property Item owner: null
+    property rect anchor // beside which it is, in the dock's window
 
-    function open(panel: DockPanel, item: Item, list: var, chosen: var) {
+    readonly property bool isOwned: owner?.visible ?? false
+    onIsOwnedChanged: if (!isOwned) dismiss()
+
+    function open(panel: DockPanel, item: Item, spot: rect, list: var, chosen: var) {
         view = panel
-        place = item
+        owner = item
+        anchor = spot
         action = chosen
         trail = []
         show(list, -1)
@@ -39,13 +45,12 @@ PopupWindow {
     function show(list: var, current: int) {
         entries = list
         column.forceLayout()
-        const corner = place.mapToItem(null, 0, 0)
         let widest = 180
         for (let index = 0; index < rows.count; ++index)
             widest = Math.max(widest, rows.itemAt(index).implicitWidth)
         width = Math.ceil(widest) + 2 * (margin + inset)
         height = Math.ceil(column.implicitHeight) + 2 * (margin + inset)
-        view.openMenu(menu, Qt.rect(corner.x, corner.y, place.width, place.height), 8 - margin)
+        view.openMenu(menu, anchor, 8 - margin)
         scroller.contentY = 0
         column.current = -1
         column.forceActiveFocus()

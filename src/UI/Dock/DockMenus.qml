@@ -3,15 +3,26 @@ import Fendrel.Types
 
 // What the menus of the dock offer, and what is done with the choice.
 QtObject {
+    id: menus
+
     required property DockMenu popup
     required property DockPanel panel
     required property DockController dock
     required property FocusController focusState
     required property VerdictController verdict
 
+    // Another menu is right when its application starts or ends.
+    readonly property Connections life: Connections {
+        target: menus.popup.owner as AppButton
+        function onIsRunningChanged() { menus.popup.dismiss() }
+    }
+
     // What is chosen often brings something else to the front, which is to have the keyboard.
     function open(item: Item, entries: var, chosen: var) {
-        popup.open(panel, item, entries, value => {
+        openAt(item, item.mapToItem(null, 0, 0, item.width, item.height), entries, chosen)
+    }
+    function openAt(item: Item, spot: rect, entries: var, chosen: var) {
+        popup.open(panel, item, spot, entries, value => {
             panel.releaseKeyboard()
             chosen(value)
         })
@@ -55,9 +66,9 @@ QtObject {
         const hasNewWindow = own.some(action => action.id.replace("-", "").toLowerCase() === "newwindow")
         const start = isRunning ? [] : [{ text: qsTr("Open"), value: () => actions.open(bundleID), symbol: "arrow.right" }]
         const another = isRunning && !hasNewWindow ? [{ text: qsTr("New Window"), value: () => actions.openWindow(bundleID), symbol: "plus" }] : []
-        const hiding = isRunning ? [{ text: qsTr("Hide"), value: () => actions.hide(bundleID) },
-                                    { text: qsTr("Hide Others"), value: () => actions.hideOthers(bundleID) },
-                                    { text: qsTr("Show All Windows"), value: () => actions.showAllWindows(bundleID) }] : []
+        const hiding = isRunning ? [{ text: qsTr("Hide"), value: () => actions.hide(bundleID), symbol: "eye.slash" },
+                                    { text: qsTr("Hide Others"), value: () => actions.hideOthers(bundleID), symbol: "square.on.square.dashed" },
+                                    { text: qsTr("Show All Windows"), value: () => actions.showAllWindows(bundleID), symbol: "square.grid.2x2" }] : []
         const ending = isRunning ? [{ text: qsTr("Quit"), value: () => actions.quit(bundleID), symbol: "stop" },
                                     { text: qsTr("Force Quit"), value: () => actions.forceQuit(bundleID), symbol: "bolt", isGrave: true }] : []
         offer(item, [{ header: name },
@@ -73,11 +84,11 @@ QtObject {
     function membership(bundleID: string, isInMode: bool): var {
         const actions = dock.actions
         const modes = actions.modes(bundleID)
-        const entry = (mode, run) => ({ text: mode.name, symbol: mode.symbol, tint: mode.tint, isChecked: mode.hasApp, value: run })
-        const add = modes.map(mode => entry(mode, () => mode.hasApp ? actions.remove(bundleID, mode.id) : actions.add(bundleID, mode.id)))
+        const entry = (mode, run) => ({ text: mode.name, symbol: mode.symbol, tint: mode.tint, value: run })
+        const add = modes.filter(mode => !mode.hasApp).map(mode => entry(mode, () => actions.add(bundleID, mode.id)))
         const move = modes.filter(mode => mode.id !== dock.modeID).map(mode => entry(mode, () => actions.move(bundleID, dock.modeID, mode.id)))
-        return [{ text: qsTr("Add to"), symbol: "square.stack", page: add },
-                ...isInMode && move.length > 0 ? [{ text: qsTr("Move to"), symbol: "arrow.right", page: move }] : [],
+        return [...add.length > 0 ? [{ text: qsTr("Add to"), symbol: "square.stack", page: add }] : [],
+                ...isInMode && move.length > 0 ? [{ text: qsTr("Move to"), symbol: "arrow.left.arrow.right", page: move }] : [],
                 ...isInMode ? [{ text: qsTr("Remove from %1").arg(dock.modeName), symbol: "xmark", value: () => actions.remove(bundleID, dock.modeID) }] : []]
     }
 
@@ -88,7 +99,8 @@ QtObject {
         const held = heldCount === 0 ? [] : [{ text: qsTr("Held Messages (%1)…").arg(heldCount), value: () => dock.showHeld(modeID, isByKeyboard), symbol: "bell.badge" }]
         offer(item, [{ header: name },
                      ...parted(budget === "" ? [] : [{ text: budget, symbol: "hourglass" }], [...change, ...held],
-                               [{ text: qsTr("Edit Mode…"), value: () => dock.openSettings("modes"), symbol: "pencil" },
+                               [{ text: qsTr("Edit Mode…"), value: () => dock.editMode(modeID), symbol: "pencil" },
+                                { text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" },
                                 { text: qsTr("Settings…"), value: () => dock.openSettings("general"), symbol: "gearshape" }])])
     }
 
@@ -102,16 +114,21 @@ QtObject {
         offer(item, [{ header: qsTr("Trash") }, { text: qsTr("Open"), value: () => dock.trash.open(), symbol: "folder" }, ...empty])
     }
 
+    // Where it is asked for.
     function showDockMenu(item: Item) {
+        const spot = panel.pointer()
+        openAt(item, Qt.rect(spot.x, spot.y, 0, 0), dockEntries(), run => run())
+    }
+    function dockEntries(): var {
         const settings = dock.preferences
         const choice = (property, names) => names.map((text, index) => ({ text: text, isChecked: settings[property] === index, value: () => settings[property] = index }))
         const flag = (property, text) => ({ text: text, isChecked: settings[property], value: () => settings[property] = !settings[property] })
         const name = dock.systemDock
         const replace = name === "" ? [] : [{ text: qsTr("Replace %1").arg(name), isChecked: dock.replacesDock, value: () => dock.replaceDock(!dock.replacesDock) }]
-        offer(item, parted([{ text: qsTr("Position"), page: choice("dockPosition", [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]) },
-                            { text: qsTr("Size"), page: choice("dockSize", [qsTr("Small"), qsTr("Medium"), qsTr("Large")]) }],
-                           [flag("autoHide", qsTr("Hide Automatically")), flag("magnify", qsTr("Magnify Icons")), ...replace],
-                           [{ text: qsTr("Settings…"), value: () => dock.openSettings("dock"), symbol: "gearshape" }],
-                           [{ text: qsTr("Quit Fendrel"), value: () => dock.quit(), symbol: "stop" }]))
+        return parted([{ text: qsTr("Position"), page: choice("dockPosition", [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]) },
+                       { text: qsTr("Size"), page: choice("dockSize", [qsTr("Small"), qsTr("Medium"), qsTr("Large")]) }],
+                      [flag("autoHide", qsTr("Hide Automatically")), flag("magnify", qsTr("Magnify Icons")), ...replace],
+                      [{ text: qsTr("Settings…"), value: () => dock.openSettings("dock"), symbol: "gearshape" }],
+                      [{ text: qsTr("Quit Fendrel"), value: () => dock.quit(), symbol: "stop" }])
     }
 }

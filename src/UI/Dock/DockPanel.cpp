@@ -6,6 +6,7 @@
 #include "UI/Focus/VerdictController.h"
 #include "UI/ScreenSpace.h"
 
+#include <QGuiApplication>
 #include <QPainterPath>
 #include <QQuickItem>
 #include <QtMath>
@@ -45,12 +46,20 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
         Q_EMIT visibilityWanted();
     });
     connect(&controller.preferences(), &Preferences::changed, this, &DockPanel::updateRegions);
-    connect(&m_keyboard, &BorrowedKeyboard::changed, this, &DockPanel::keyboardChanged);
+    // It takes the menu's keyboard along, whichever of them had it.
+    connect(&m_keyboard, &BorrowedKeyboard::changed, this, [this] {
+        dismissMenu();
+        Q_EMIT keyboardChanged();
+    });
     setInitialProperties({{u"panel"_s, QVariant::fromValue(this)},
                           {u"dock"_s, QVariant::fromValue(&dock)},
                           {u"focusState"_s, QVariant::fromValue(&focus)},
                           {u"verdict"_s, QVariant::fromValue(&verdict)}});
     controller.platform().panels->prepare(winId(), Panels::Kind::dock);
+}
+
+DockPanel::~DockPanel() {
+    m_dock.apps()->letGo(); // a display can go while something is carried on it
 }
 
 void DockPanel::place(const Display& display) {
@@ -63,6 +72,7 @@ void DockPanel::place(const Display& display) {
         return;
     }
     m_keyboard.release();
+    dismissMenu();
     m_departure = m_controller.platform().clock->after(slideOut, [this] { arrive(); });
     updateInput(inputArea());
     updateMask();
@@ -87,6 +97,8 @@ void DockPanel::arrive() {
         window.setWidth(thickness + roomBeside);
     else
         window.setLeft(window.right() + 1 - thickness - roomBeside);
+    if (window != m_frame)
+        dismissMenu();
     m_frame = window;
     setGeometry(window);
     m_input.reset(); // what was said holds for the displays as they were
@@ -199,8 +211,9 @@ QRect DockPanel::inputArea() const {
     const QRect bar = m_bar.toAlignedRect();
     if (!isShown())
         return hiddenStrip();
-    // A dock that hides by itself stays while the pointer is at the very edge that brought it.
-    return m_controller.preferences().autoHide() ? toEdge(bar) : bar;
+    // At the screen's edge nothing else is to be pressed, and a pointer thrown there stops. A dock that hides by itself
+    // stays while the pointer is at the very edge that brought it.
+    return m_controller.replacement().isOn() || m_controller.preferences().autoHide() ? toEdge(bar) : bar;
 }
 
 void DockPanel::updateInput(const QRect& input) {
@@ -279,7 +292,17 @@ QRectF DockPanel::beside(const QRectF& item) const {
 
 void DockPanel::openMenu(PopupWindow* menu, const QRectF& item, double gap) {
     m_controller.platform().panels->prepare(menu->winId(), Panels::Kind::menu);
+    m_menu = menu;
     menu->openBeside(this, beside(item), m_dock.edge(), gap);
+}
+
+void DockPanel::dismissMenu() {
+    if (m_menu)
+        m_menu->dismiss();
+}
+
+QPointF DockPanel::pointer() const {
+    return mapFromGlobal(QCursor::pos().toPointF());
 }
 
 void DockPanel::openBeside(BesideWindow* window, const QRectF& item, double gap, const QRectF& input) {
@@ -290,7 +313,18 @@ void DockPanel::openBeside(BesideWindow* window, const QRectF& item, double gap,
     panels.setInputRegion(window->winId(), QRectF(input.topLeft() * ratio, input.size() * ratio).toAlignedRect());
 }
 
+bool DockPanel::isOverOther(const QPointF& point, int near) const {
+    const QPoint spot = point.toPoint() + m_frame.topLeft();
+    const auto isUnder = [this, spot, near](const QWindow* window) {
+        const auto* dock = qobject_cast<const DockPanel*>(window);
+        return dock != nullptr && dock != this && dock->isShown() &&
+               dock->restingPlace().adjusted(-near, -near, near, near).contains(spot);
+    };
+    return std::ranges::any_of(QGuiApplication::topLevelWindows(), isUnder);
+}
+
 void DockPanel::transparencyDidChange() {
+    dismissMenu(); // its size is another then
     updateRegions();
     Q_EMIT transparencyChanged();
 }

@@ -6,6 +6,7 @@
 #include "UI/PacedMotion.h"
 #include "UI/PopupWindow.h"
 
+#include <QPointer>
 #include <QQuickView>
 #include <QRectF>
 #include <QRegion>
@@ -38,6 +39,7 @@ class DockPanel : public QQuickView {
 public:
     DockPanel(QQmlEngine& engine, AppController& controller, DockController& dock, FocusController& focus,
               VerdictController& verdict);
+    ~DockPanel() override;
 
     /// Takes over a changed edge too. To another edge or display it slides: out of the old place, into the new one.
     void place(const Display& display);
@@ -67,11 +69,15 @@ public:
     /// Leads the keyboard here while something is carried, so that Escape takes it back.
     Q_INVOKABLE void borrowKeyboard() { m_keyboard.take(); }
 
-    /// Opens a menu beside the bar, at one of its items.
+    /// Opens a menu beside the bar, at one of its items. It closes when it could not stay as it is: when the dock
+    /// moves, when a compositor comes or goes, and when the keyboard goes elsewhere.
     Q_INVOKABLE void openMenu(fendrel::PopupWindow* menu, const QRectF& item, double gap);
     /// Opens what is only for the pointer in the same way. `input`: where that window takes the pointer.
     Q_INVOKABLE void openBeside(fendrel::BesideWindow* window, const QRectF& item, double gap, const QRectF& input);
+    /// Whether a point of this window is on another display's bar, or `near` pixels from it.
+    Q_INVOKABLE bool isOverOther(const QPointF& point, int near) const;
     Q_INVOKABLE void menuClosed() { m_keyboard.resume(); }
+    Q_INVOKABLE QPointF pointer() const; ///< where it is, in the window
 
 Q_SIGNALS:
     void barChanged();
@@ -90,6 +96,7 @@ protected:
 
 private:
     bool canSlideAway() const;
+    void dismissMenu();
     void arrive();
     QRectF beside(const QRectF& item) const;
     QRect toEdge(QRect rect) const;
@@ -117,6 +124,7 @@ private:
     bool m_isPointerInside = false;
     bool m_isHeld = false;
     BorrowedKeyboard m_keyboard;
+    QPointer<PopupWindow> m_menu; ///< the last one opened
     PacedMotion m_motion;
 };
 

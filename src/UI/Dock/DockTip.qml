@@ -22,6 +22,9 @@ Item {
     readonly property var current: asking.filter(other => !other.isForced)[0] ?? asking[0] ?? null
     readonly property bool isWanted: current !== null && !isSuppressed
 
+    // Of the label, when it has stopped moving; empty while there is none.
+    readonly property rect area: isWanted ? Qt.rect(bubble.restingX, bubble.restingY, bubble.width, bubble.height) : Qt.rect(0, 0, 0, 0)
+
     // Where it points: kept when it goes, so that it fades where it was.
     property point spot: Qt.point(0, 0)
     property string spotText: ""
@@ -60,8 +63,11 @@ Item {
                                       : tip.edge === Qt.LeftEdge ? tip.spot.x : tip.spot.x - width
         readonly property real wantedY: tip.edge === Qt.BottomEdge ? tip.spot.y - height : tip.spot.y - height / 2
 
-        x: Math.max(8, Math.min(tip.width - width - 8, wantedX))
-        y: Math.max(2, Math.min(tip.height - height - 2, wantedY))
+        readonly property real restingX: Math.max(8, Math.min(tip.width - width - 8, wantedX))
+        readonly property real restingY: Math.max(2, Math.min(tip.height - height - 2, wantedY))
+
+        x: restingX
+        y: restingY
         width: Math.min(label.implicitWidth + 24, 520)
         height: 30
         radius: 9

@@ -2,7 +2,7 @@ import QtQuick
 import Fendrel.Style
 import Fendrel.Types
 
-// The dock of one display: modes, applications, and how the focus stands.
+// The dock of one display: modes, applications, and how the focus stands. Here is where its parts are and how they meet.
 FocusScope {
     id: root
 
@@ -16,6 +16,7 @@ FocusScope {
     readonly property int margin: 8
     readonly property int padding: 9
     readonly property real spacing: dock.spacing
+    readonly property real separatorLength: 9 + 2 * spacing // with the room around it
 
     Colors {
         id: lookColors
@@ -23,8 +24,8 @@ FocusScope {
     }
 
     // Where the bar is when it shows; it slides out from there.
-    readonly property real barLength: layout.current + pillStrip.length + (apps.count > 0 ? appStrip.length : 0) + 2 * padding
-    readonly property real barDepth: (isVertical ? strip.width : strip.height) + 2 * 6
+    readonly property real barLength: layout.current + modes.length + (apps.count > 0 ? apps.length : 0) + 2 * padding
+    readonly property real barDepth: (isVertical ? sections.width : sections.height) + 2 * 6
     readonly property real barWidth: isVertical ? barDepth : barLength
     readonly property real barHeight: isVertical ? barLength : barDepth
     readonly property rect resting: Qt.rect(
@@ -35,18 +36,15 @@ FocusScope {
     BarLayout {
         id: layout
 
-        // The lines between the sections and the room around them.
-        readonly property real separators: (apps.count > 0 ? 9 + 2 * root.spacing : 0) + 9 + 2 * root.spacing
-                                         + (minimized.visible ? 9 + 2 * root.spacing : 0) + (trash.visible ? root.spacing : 0)
+        readonly property real appsSeparator: apps.count > 0 ? root.separatorLength : 0
 
         room: (root.isVertical ? root.height : root.width) - 2 * root.margin - 2 * root.padding
-        steady: separators + chip.longest + focusButton.longest + meter.length + 2 * root.spacing
-        current: separators + focusButton.length + (chip.visible ? chip.length + root.spacing : 0)
-                 + (meter.visible ? meter.length + root.spacing : 0)
-                 + minimized.tilesLength + (trash.visible ? trash.length : 0)
-        modeCount: pills.count
-        nameLength: root.longestName
-        appCount: apps.count + minimized.count + (trash.visible ? 1 : 0)
+        steady: appsSeparator + end.steady
+        current: appsSeparator + end.current
+        fullWordsRoom: root.isVertical ? 0 : Math.min(150, Math.round(root.width / 9))
+        modeCount: modes.count
+        nameLength: modes.longestName
+        appCount: apps.count + end.tileCount
         fullIconSize: root.dock.iconSize
         fullSpacing: Math.max(0, root.spacing - 4)
         swelling: root.swells ? (root.dock.magnification - 1) * 2.5 * (fullIconSize + iconRoom + fullSpacing) : 0
@@ -54,41 +52,14 @@ FocusScope {
 
     // Where nothing blends windows, the bar's outline is the window's own, which nothing can stand out of.
     readonly property bool swells: dock.magnification > 1 && panel.isTransparent && !Theme.reducesMotion
-
-    Wave {
-        id: rowWave
-        start: appStrip.position
-        end: appStrip.position + appStrip.length
-        pointer: 0
-        factor: root.dock.magnification
-        reach: 2.5 * layout.pitch
-        amount: isWanted ? 1 : 0
-
-        // It follows the pointer as far as the ends of the row, and sinks where it was last when the pointer leaves.
-        readonly property bool isWanted: root.swells && isNear && hover.hovered && !drops.isActive && !picking.active && apps.count > 0
-        property bool isNear: false
-        function follow() {
-            const point = appStrip.row.mapFromItem(root, hover.point.position)
-            pointer = root.isVertical ? point.y : point.x
-            isNear = pointer >= start && pointer <= end
-        }
-        Behavior on amount { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
-    }
-    // Of the pills when they have stopped moving.
-    property real pillsLength: 0
-    property real longestName: 0
-    function measurePills() {
-        let length = (pills.count - 1) * layout.pillSpacing
-        let name = 0
-        for (let index = 0; index < pills.count; ++index) {
-            const pill = pills.itemAt(index) as ModePill
-            if (!pill)
-                continue
-            length += pill.length
-            name = Math.max(name, pill.nameLength)
-        }
-        longestName = name
-        pillsLength = length
+    // Where icons can stand out of the bar under the pointer.
+    readonly property rect swollen: {
+        if (!apps.isSwelling)
+            return Qt.rect(0, 0, 0, 0)
+        const rise = apps.highestRise
+        const along = (isVertical ? resting.y : resting.x) + padding + modes.length + separatorLength
+        return edge === Qt.BottomEdge ? Qt.rect(along, resting.y - rise, apps.length, rise)
+             : Qt.rect(edge === Qt.LeftEdge ? resting.x + resting.width : resting.x - rise, along, rise, apps.length)
     }
 
     Binding { target: root.panel; property: "bar"; value: root.resting; when: root.width > 0 }
@@ -98,66 +69,21 @@ FocusScope {
 
     HoverHandler {
         id: hover
-        onPointChanged: if (hovered && root.swells) rowWave.follow()
-    }
-
-    // Where icons can stand out of the bar under the pointer.
-    readonly property real overhang: Math.ceil(layout.iconSize * (dock.magnification - 1))
-    readonly property rect swollen: {
-        if (!rowWave.isWanted)
-            return Qt.rect(0, 0, 0, 0)
-        const row = appStrip.length
-        const along = (isVertical ? resting.y : resting.x) + padding + pillStrip.length + 9 + 2 * spacing
-        return edge === Qt.BottomEdge ? Qt.rect(along, resting.y - overhang, row, overhang)
-             : Qt.rect(edge === Qt.LeftEdge ? resting.x + resting.width : resting.x - overhang, along, overhang, row)
+        onPointChanged: if (hovered && root.swells) apps.follow(point.scenePosition)
     }
 
     Accessible.role: Accessible.ToolBar
     Accessible.name: qsTr("Fendrel dock")
 
-    // Arrows go through the items, Home and End to the first and last; Escape gives the keyboard back.
-    Keys.onPressed: event => {
-        if (event.key === Qt.Key_Escape && drops.isActive) {
-            drops.end()
-            return
-        }
-        if (event.matches(StandardKey.Undo)) {
-            root.dock.undo.undo()
-            event.accepted = true
-            return
-        }
-        const forward = [Qt.Key_Right, Qt.Key_Down].includes(event.key)
-        const backward = [Qt.Key_Left, Qt.Key_Up].includes(event.key)
-        if (forward || backward) {
-            const item = root.Window.activeFocusItem?.nextItemInFocusChain(forward)
-            item?.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
-            event.accepted = true
-        } else if (event.key === Qt.Key_Home || event.key === Qt.Key_End) {
-            const first = pills.itemAt(0)
-            const item = event.key === Qt.Key_Home ? first : first?.nextItemInFocusChain(false)
-            item?.forceActiveFocus(Qt.TabFocusReason)
-            event.accepted = true
-        } else if (event.key === Qt.Key_Escape) {
-            root.panel.releaseKeyboard()
-            event.accepted = true
-        } else if (event.text > " " && !(event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier))) {
-            // A letter goes to the next application whose name begins with it.
-            const from = Array.from({ length: apps.count }, (none, index) => apps.itemAt(index)).findIndex(app => app.activeFocus)
-            apps.itemAt(root.dock.apps.find(event.text, from))?.forceActiveFocus(Qt.TabFocusReason)
-            event.accepted = true
-        }
+    Keys.onPressed: event => keys.press(event)
+    DockKeys {
+        id: keys
+        panel: root.panel
+        dock: root.dock
+        drops: drops
+        modes: modes
+        apps: apps
     }
-    Connections {
-        target: root.panel
-        function onKeyboardTaken() {
-            pills.itemAt(0)?.forceActiveFocus(Qt.TabFocusReason)
-        }
-    }
-    // A switch that takes its time can still be hurried with the keyboard; when it is done, the keyboard goes back.
-    readonly property string modeID: dock.modeID
-    onModeIDChanged: panel.releaseKeyboard()
-    readonly property bool isGateOpen: dock.isGateOpen
-    onIsGateOpenChanged: if (isGateOpen) panel.releaseKeyboard()
 
     // Where nothing blends windows, the window's own shape makes the corners, and the edge of a dock that hides.
     Rectangle {
@@ -182,26 +108,14 @@ FocusScope {
             y: root.edge === Qt.BottomEdge ? slider.offset : 0
         }
 
-        Shadow {
-            caster: surface
-            casterRadius: surface.radius
-            opacity: root.dock.shadow
-            visible: root.panel.isTransparent
-        }
-
-        // What is seen of the bar, which grows with the row of applications; the bar itself keeps its place.
-        Rectangle {
-            id: surface
-            x: bar.x + (root.isVertical ? 0 : rowWave.before)
-            y: bar.y + (root.isVertical ? rowWave.before : 0)
-            width: bar.width + (root.isVertical ? 0 : rowWave.after - rowWave.before)
-            height: bar.height + (root.isVertical ? rowWave.after - rowWave.before : 0)
-            radius: root.dock.cornerRadius
-            color: lookColors.faded(root.dock.background, root.panel.isTransparent && !Theme.increasesContrast ? root.dock.opacity : 1)
-            border.width: Theme.increasesContrast ? 2 : 1
-            readonly property color line: Theme.increasesContrast ? lookColors.text : lookColors.faded(lookColors.text, root.dock.border)
-            border.color: root.panel.isTransparent ? line : Qt.tint(root.dock.background, line)
-            Behavior on color { ColorAnimation { duration: Theme.slow } }
+        BarSurface {
+            anchors.fill: parent
+            colors: lookColors
+            panel: root.panel
+            dock: root.dock
+            bar: bar
+            wave: apps.wave
+            isVertical: root.isVertical
         }
 
         Item {
@@ -226,214 +140,63 @@ FocusScope {
             }
 
             Line {
-                id: strip
+                id: sections
                 anchors.centerIn: parent
                 isVertical: root.isVertical
                 spacing: root.spacing
 
-                ScrollStrip {
-                    id: pillStrip
-                    transform: Translate { x: root.isVertical ? 0 : rowWave.before; y: root.isVertical ? rowWave.before : 0 }
+                ModeSection {
+                    id: modes
+                    transform: Translate { x: root.isVertical ? 0 : apps.before; y: root.isVertical ? apps.before : 0 }
                     isVertical: root.isVertical
-                    room: layout.pillsRoom
-                    fullLength: root.pillsLength
                     isMoving: bar.moves
-                    spacing: layout.pillSpacing
-
-                    Accessible.role: Accessible.Grouping
-                    Accessible.name: qsTr("Modes")
-
-                    Repeater {
-                        id: pills
-                        model: root.dock.modes
-                        onItemRemoved: root.measurePills()
-                        ModePill {
-                            id: pill
-                            readonly property bool isSought: isCurrent || isPending || activeFocus
-                            colors: lookColors
-                            tip: dockTip
-                            isVertical: root.isVertical
-                            pendingSeconds: root.focusState.pendingSeconds
-                            size: layout.pillSize
-                            isCompact: layout.isCompact
-                            isTipForced: isPending && !root.dock.isGateOpen
-                            opacity: pillStrip.visibility(pill)
-                            onLengthChanged: root.measurePills()
-                            onNameLengthChanged: root.measurePills()
-                            onIsSoughtChanged: if (isSought) pillStrip.reveal(pill)
-                            Component.onCompleted: if (isSought) pillStrip.reveal(pill)
-                            background: root.dock.background
-                            onPressed: root.dock.requestMode(modeID)
-                            onAppDropped: bundleID => root.dock.actions.add(bundleID, modeID)
-                            onMenuAsked: menus.showModeMenu(pill, modeID, name, isCurrent, heldCount)
-                        }
-                    }
-                }
-
-                Separator {
                     colors: lookColors
-                    isVertical: root.isVertical
-                    visible: apps.count > 0
-                    transform: Translate { x: root.isVertical ? 0 : rowWave.before; y: root.isVertical ? rowWave.before : 0 }
+                    tip: dockTip
+                    dock: root.dock
+                    focusState: root.focusState
+                    menus: menus
+                    layout: layout
                 }
-
-                ScrollStrip {
-                    id: appStrip
+                Separator {
+                    transform: Translate { x: root.isVertical ? 0 : apps.before; y: root.isVertical ? apps.before : 0 }
                     isVertical: root.isVertical
-                    room: layout.appsRoom(pillStrip.length)
+                    colors: lookColors
+                    visible: apps.count > 0
+                }
+                AppSection {
+                    id: apps
+                    isVertical: root.isVertical
                     isMoving: bar.moves
-                    isDraggable: false // a mouse picks applications up
-                    before: rowWave.before
-                    after: rowWave.after
-                    overhang: root.overhang + 32
-                    spacing: layout.spacing
-                    visible: apps.count > 0
-
-                    Accessible.role: Accessible.Grouping
-                    Accessible.name: qsTr("Applications")
-
-                    move: Transition {
-                        NumberAnimation { properties: "x,y"; duration: Theme.normal; easing.type: Easing.OutCubic }
-                    }
-
-                    // Applications are picked up in the row, and taken back with Escape.
-                    DragHandler {
-                        id: picking
-                        target: null
-                        margin: rowWave.isUp ? root.overhang : 0
-                        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
-                        onActiveChanged: {
-                            if (!active) {
-                                drops.drop()
-                                root.panel.releaseKeyboard()
-                                return
-                            }
-                            const point = appStrip.row.mapFromItem(null, centroid.scenePressPosition)
-                            const app = appStrip.row.childAt(root.isVertical ? appStrip.row.width / 2 : point.x, root.isVertical ? point.y : appStrip.row.height / 2) as AppButton
-                            if (!app)
-                                return
-                            root.panel.borrowKeyboard()
-                            root.forceActiveFocus()
-                            drops.pickUp(app.bundleID)
-                            follow()
-                        }
-                        onCentroidChanged: if (active) follow()
-                        function follow() {
-                            const point = centroid.scenePosition
-                            drops.moveTo(point.x, point.y)
-                        }
-                    }
-
-                    Repeater {
-                        id: apps
-                        model: root.dock.apps
-                        delegate: AppButton {
-                            id: app
-                            required property bool startsOthers
-                            readonly property bool isSought: isFront || activeFocus
-                            colors: lookColors
-                            tip: dockTip
-                            isVertical: root.isVertical
-                            edge: root.edge
-                            iconSize: layout.iconSize
-                            wave: rowWave
-                            fullSize: Math.ceil(layout.iconSize * root.dock.magnification)
-                            cyclesWithWheel: !appStrip.isCut
-                            share: appStrip.visibility(app)
-                            markColor: root.dock.tint
-                            background: root.dock.background
-                            leading: startsOthers ? layout.startOfOthers : 0
-                            onIsSoughtChanged: if (isSought) appStrip.reveal(app)
-                            Component.onCompleted: if (isSought) appStrip.reveal(app)
-                            onIsHoveredChanged: isHovered ? root.dock.restingPointer.enter(app) : root.dock.restingPointer.leave(app)
-                            onPressed: {
-                                root.dock.restingPointer.close()
-                                root.panel.releaseKeyboard()
-                                root.dock.actions.click(bundleID)
-                            }
-                            onWindowAsked: root.dock.actions.openWindow(bundleID)
-                            onTurned: step => root.dock.actions.cycle(bundleID, step)
-                            onReceived: load => root.dock.actions.openFiles(bundleID, load.files)
-                            onMoveAsked: forward => {
-                                const neighbour = forward ? root.dock.apps.next(bundleID) : root.dock.apps.previous(bundleID)
-                                if (neighbour !== "")
-                                    root.dock.actions.place(bundleID, neighbour, forward)
-                            }
-                            onMenuAsked: menus.showAppMenu(app, bundleID, name, isRunning, isInMode)
-                        }
-                    }
+                    room: layout.appsRoom(modes.length)
+                    colors: lookColors
+                    tip: dockTip
+                    panel: root.panel
+                    dock: root.dock
+                    menus: menus
+                    drops: drops
+                    layout: layout
+                    swells: root.swells
                 }
-
-                // What stands behind the applications.
-                Line {
+                EndSection {
+                    id: end
+                    transform: Translate { x: root.isVertical ? 0 : apps.after; y: root.isVertical ? apps.after : 0 }
                     isVertical: root.isVertical
+                    isMoving: bar.moves
                     spacing: root.spacing
-                    transform: Translate { x: root.isVertical ? 0 : rowWave.after; y: root.isVertical ? rowWave.after : 0 }
-
-                    MinimizedStrip {
-                        id: minimized
-                        colors: lookColors
-                        tip: dockTip
-                        isVertical: root.isVertical
-                        spacing: root.spacing
-                        dock: root.dock
-                        menus: menus
-                        iconSize: layout.iconSize
-                        isMoving: bar.moves
-                    }
-
-                    Separator { colors: lookColors; isVertical: root.isVertical }
-
-                    // Where widgets go.
-                    Item { id: widgets }
-
-                    VerdictChip {
-                        id: chip
-                        colors: lookColors
-                        tip: dockTip
-                        isVertical: root.isVertical
-                        verdict: root.verdict
-                        wordsRoom: Math.min(150, Math.round(root.width / 9))
-                        onPressed: menus.correct(chip)
-                    }
-
-                    FocusButton {
-                        id: focusButton
-                        colors: lookColors
-                        tip: dockTip
-                        isVertical: root.isVertical
-                        focusState: root.focusState
-                        tint: root.dock.tint
-                        onPressed: menus.chooseFocus(focusButton)
-                        onMenuAsked: pressed()
-                    }
-
-                    BudgetMeter {
-                        id: meter
-                        colors: lookColors
-                        tip: dockTip
-                        isVertical: root.isVertical
-                        focusState: root.focusState
-                        tint: root.dock.tint
-                    }
-
-                    TrashTile {
-                        id: trash
-                        visible: root.dock.trash.isShown
-                        colors: lookColors
-                        tip: dockTip
-                        isVertical: root.isVertical
-                        dock: root.dock
-                        iconSize: layout.iconSize
-                        onMenuAsked: menus.showTrashMenu(trash)
-                    }
+                    colors: lookColors
+                    tip: dockTip
+                    dock: root.dock
+                    focusState: root.focusState
+                    verdict: root.verdict
+                    menus: menus
+                    layout: layout
                 }
             }
 
             // The rest of the bar has the menu of the dock itself.
             TapHandler {
                 acceptedButtons: Qt.RightButton
-                onTapped: menus.showDockMenu(focusButton)
+                onTapped: menus.showDockMenu(end.center)
             }
         }
 
@@ -443,17 +206,18 @@ FocusScope {
             edge: root.edge
             bar: bar
             isSuppressed: menu.visible || popover.isWanted || (drops.isActive && !drops.target)
-            scrolled: appStrip.position + pillStrip.position
+            scrolled: apps.position + modes.position
         }
     }
 
     DockDrops {
         id: drops
+        panel: root.panel
         dock: root.dock
         view: root
         bar: bar
-        items: strip
-        strip: appStrip
+        items: sections
+        strip: apps
         isVertical: root.isVertical
         iconSize: layout.iconSize
         pitch: layout.pitch
@@ -463,7 +227,7 @@ FocusScope {
         visible: drops.isActive && drops.load.isOurs
         icon: visible ? root.dock.apps.icon(drops.load.app) : ""
         size: layout.iconSize
-        pointer: Qt.point(root.panel.x + picking.centroid.scenePosition.x, root.panel.y + picking.centroid.scenePosition.y)
+        pointer: Qt.point(root.panel.x + apps.hand.x, root.panel.y + apps.hand.y)
         isFading: drops.isLeaving && root.dock.apps.isInMode(drops.load?.app ?? "")
         hint: isFading ? qsTr("Remove") : ""
     }
@@ -504,6 +268,8 @@ FocusScope {
         panel: root.panel
         undo: root.dock.undo
         isTransparent: root.panel.isTransparent
+        rise: root.swells ? apps.highestRise : 0
+        label: dockTip.area
     }
 
     DockMenus {

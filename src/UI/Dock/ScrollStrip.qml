@@ -13,7 +13,7 @@ Item {
     // How far what it shows reaches beyond its place, while the row swells: at most 0, and at least 0.
     property int before: 0
     property int after: 0
-    property int overhang: 32 // pixels that items may stand out of the bar
+    property int overhang: 64 // pixels that items may stand out of the bar
 
     default property alias content: line.data
     readonly property Item row: line // whose coordinates are those of the items
@@ -52,12 +52,22 @@ Item {
         const length = isVertical ? item.height : item.width
         const start = isVertical ? item.y : item.x
         const beyond = 0.6 * length // shows what comes next, too
-        scrollTo(Math.max(start + length + beyond - room, Math.min(start - beyond, glide.running ? glide.to : position)))
+        glideTo(Math.max(start + length + beyond - room, Math.min(start - beyond, glide.running ? glide.to : position)))
+    }
+    // Items move to their places, and only then it is known whether they are in sight.
+    Connections {
+        target: strip.revealed
+        function onXChanged() { strip.reveal(strip.revealed) }
+        function onYChanged() { strip.reveal(strip.revealed) }
     }
     function show(wanted: real) {
         flickable[strip.isVertical ? "contentY" : "contentX"] = Math.max(0, Math.min(fullLength - room, wanted))
     }
     function scrollTo(wanted: real) {
+        revealed = null // who scrolls wants to see something else
+        glideTo(wanted)
+    }
+    function glideTo(wanted: real) {
         glide.to = Math.max(0, Math.min(fullLength - room, wanted))
         glide.restart()
     }
@@ -124,7 +134,6 @@ Item {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onWheel: event => {
             const turn = Math.abs(event.angleDelta.y) >= Math.abs(event.angleDelta.x) ? event.angleDelta.y : event.angleDelta.x
-            strip.revealed = null
             strip.scrollTo((glide.running ? glide.to : strip.position) - turn * 0.9)
         }
     }

@@ -6,8 +6,9 @@ Item {
     required property Colors colors
     required property bool isVertical
 
-    implicitWidth: isVertical ? 30 : 9
-    implicitHeight: isVertical ? 9 : 30
+    readonly property int length: 9 // along the bar
+    implicitWidth: isVertical ? 30 : length
+    implicitHeight: isVertical ? length : 30
 
     Rectangle {
         anchors.centerIn: parent

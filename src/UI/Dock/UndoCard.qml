@@ -11,6 +11,8 @@ BesideWindow {
     required property DockPanel panel
     required property UndoController undo
     required property bool isTransparent
+    required property real rise // pixels by which icons may stand out of the bar, and their labels with them
+    required property rect label // of the bar's item that says what it is; empty: none
 
     readonly property int margin: isTransparent ? 22 : 0
     readonly property bool isWanted: undo.isOffered && panel.isShown
@@ -19,16 +21,43 @@ BesideWindow {
     width: 16 + mark.width + 10 + textWidth + 14 + button.width + 8 + 2 * margin
     height: 48 + 2 * margin
 
-    onIsWantedChanged: isWanted ? open() : leave.start()
+    readonly property rect bar: panel.bar
+    property real middle: 0 // down the window
+
+    onIsWantedChanged: {
+        if (!isWanted) {
+            leave.start()
+            return
+        }
+        leave.stop()
+        middle = bar.y + bar.height / 2
+        giveWay()
+        open()
+    }
     onWidthChanged: if (isWanted) open()
     function open() {
-        leave.stop()
-        const bar = panel.bar
-        const middle = Qt.rect(bar.x + bar.width / 2, bar.y + bar.height / 2, 0, 0)
-        // Farther away than the labels of the bar's items.
-        const gap = (panel.edge === Qt.BottomEdge ? 46 : 12) - margin
-        panel.openBeside(card, middle, gap, Qt.rect(margin, margin, width - 2 * margin, height - 2 * margin))
+        place()
         appear.restart()
+    }
+    onBarChanged: place()
+    onRiseChanged: place()
+    onMiddleChanged: place()
+    onLabelChanged: giveWay()
+
+    // Above the lower edge it is always farther away than labels are. Beside the others it moves up when one comes there,
+    // or down where it would not fit, and stays: the pointer may be on its way to it.
+    function giveWay() {
+        const center = label.y + label.height / 2
+        const away = (label.height + content.height) / 2 + 6
+        if (isWanted && panel.edge !== Qt.BottomEdge && label.width > 0 && Math.abs(center - middle) < away)
+            middle = center - away < height / 2 + 8 ? center + away : center - away
+    }
+    function place() {
+        if (!isWanted)
+            return
+        const gap = (panel.edge === Qt.BottomEdge ? 46 + rise : 12) - margin
+        const input = Qt.rect(margin, margin, width - 2 * margin, height - 2 * margin)
+        panel.openBeside(card, Qt.rect(bar.x + bar.width / 2, middle, 0, 0), gap, input)
     }
 
     Item {

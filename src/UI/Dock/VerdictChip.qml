@@ -10,7 +10,7 @@ DockItem {
     property real wordsRoom: 150 // pixels; longer words are cut
 
     implicitWidth: isVertical ? 36 : lengthWith(words.width)
-    readonly property real longest: isVertical ? 36 : lengthWith(wordsRoom)
+    readonly property real frame: isVertical ? 36 : lengthWith(0) // without the words
     function lengthWith(text: real): real { return 12 + 9 + 9 + text + 14 }
     implicitHeight: 36
     visible: verdict.isShown

@@ -53,6 +53,8 @@ void Dialog::present() {
 }
 
 void Dialog::closeEvent(QCloseEvent* event) {
+    if (QQuickItem* focused = activeFocusItem())
+        focused->setFocus(false); // a field that is left takes over what was typed in it
     QQuickView::closeEvent(event);
     onClosed();
 }

@@ -8,7 +8,8 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-SettingsController::SettingsController(AppController& controller) : m_controller(controller) {
+SettingsController::SettingsController(AppController& controller, AppIcons& icons)
+    : m_controller(controller), m_icons(icons) {
     connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
     connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
     connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
@@ -24,6 +25,12 @@ void SettingsController::setPane(const QString& pane) {
         return;
     m_pane = pane;
     Q_EMIT paneChanged();
+}
+
+ModeEditor* SettingsController::modeEditor() {
+    if (!m_modeEditor)
+        m_modeEditor = std::make_unique<ModeEditor>(m_controller, m_icons);
+    return m_modeEditor.get();
 }
 
 bool SettingsController::isDark() const {

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "App/Preferences.h"
+#include "UI/Setup/ModeEditor.h"
 
 #include <QObject>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
+#include <memory>
+
 namespace fendrel {
 
 class AppController;
+class AppIcons;
 
 /// The settings window: the pane it shows, and what its controls need beside the preferences themselves.
 class SettingsController : public QObject {
@@ -17,6 +21,7 @@ class SettingsController : public QObject {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(fendrel::Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(QString pane READ pane WRITE setPane NOTIFY paneChanged)
+    Q_PROPERTY(fendrel::ModeEditor* modeEditor READ modeEditor CONSTANT)
     Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
     Q_PROPERTY(QString modelProblem READ modelProblem NOTIFY stateChanged)
     Q_PROPERTY(QString messagesProblem READ messagesProblem NOTIFY stateChanged)
@@ -27,11 +32,12 @@ class SettingsController : public QObject {
     Q_PROPERTY(QVariantList presets READ presets NOTIFY looksChanged)
 
 public:
-    explicit SettingsController(AppController& controller);
+    SettingsController(AppController& controller, AppIcons& icons);
 
     Preferences* preferences();
     const QString& pane() const { return m_pane; }
     void setPane(const QString& pane);
+    ModeEditor* modeEditor();
     bool isDark() const;
     QString modelProblem() const;    ///< why no language model can be asked; empty while all is well
     QString messagesProblem() const; ///< why no messages are held; empty while all is well
@@ -51,7 +57,9 @@ Q_SIGNALS:
 
 private:
     AppController& m_controller;
+    AppIcons& m_icons;
     QString m_pane{QStringLiteral("general")};
+    std::unique_ptr<ModeEditor> m_modeEditor; ///< made when it is asked for first
 };
 
 } // namespace fendrel

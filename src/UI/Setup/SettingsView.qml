@@ -18,6 +18,7 @@ FocusScope {
         { id: "general", name: qsTr("General"), symbol: "gearshape", view: general },
         { id: "dock", name: qsTr("Dock"), symbol: "list.bullet", view: dock },
         { id: "appearance", name: qsTr("Appearance"), symbol: "paintbrush", view: appearance },
+        { id: "modes", name: qsTr("Modes"), symbol: "square.stack", view: modes },
         { id: "about", name: qsTr("About"), symbol: "questionmark.circle", view: about },
     ]
     // A pane that has no page yet leads to the first.
@@ -85,7 +86,13 @@ FocusScope {
                     }
                     FocusRing { target: tab; targetRadius: 9 }
                     HoverHandler { id: tabHover }
-                    TapHandler { onTapped: tab.open() }
+                    TapHandler {
+                        onTapped: {
+                            if (scroller.focused)
+                                scroller.focused.focus = false // a field that is left takes over what was typed in it
+                            tab.open()
+                        }
+                    }
                 }
             }
         }
@@ -98,12 +105,16 @@ FocusScope {
         readonly property Item focused: Window.activeFocusItem
         onFocusedChanged: {
             let parent = focused
-            while (parent && parent !== page)
+            let whole = focused // with what belongs to it, as a list below a field
+            while (parent && parent !== page) {
+                if (parent instanceof FocusScope)
+                    whole = parent
                 parent = parent.parent
+            }
             if (!parent)
                 return
-            const top = focused.mapToItem(contentItem, 0, 0).y
-            const wanted = Math.max(top + focused.height + 40 - height, Math.min(top - 40, contentY))
+            const top = whole.mapToItem(contentItem, 0, 0).y
+            const wanted = Math.max(top + whole.height + 40 - height, Math.min(top - 40, contentY))
             contentY = Math.max(0, Math.min(contentHeight - height, wanted))
         }
 
@@ -209,6 +220,14 @@ FocusScope {
                     Toggle { colors: viewColors; name: qsTr("Match light and dark mode"); isOn: root.preferences.matchSystem; onToggled: on => root.preferences.matchSystem = on }
                 }
             }
+        }
+    }
+
+    Component {
+        id: modes
+        ModeSettings {
+            colors: viewColors
+            editor: root.settings.modeEditor
         }
     }
 

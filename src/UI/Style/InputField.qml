@@ -8,8 +8,10 @@ FocusScope {
     property string placeholder: ""
     property string name: placeholder
     property alias text: input.text
+    property alias maximumLength: input.maximumLength
 
     signal edited(text: string)
+    signal accepted() // with Return
     signal committed(text: string) // with Return, or by leaving the field
 
     implicitHeight: 40
@@ -47,6 +49,7 @@ FocusScope {
         focus: true
         maximumLength: 280
         onTextEdited: field.edited(text)
+        onAccepted: field.accepted()
         onEditingFinished: field.committed(text)
         Accessible.role: Accessible.EditableText
         Accessible.name: field.name

@@ -48,6 +48,28 @@
     </message>
 </context>
 <context>
+    <name>AppPicker</name>
+    <message>
+        <source>Search applications</source>
+        <translation>Programme suchen</translation>
+    </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Installierte Programme</translation>
+    </message>
+    <message>
+        <source>No other application is found</source>
+        <translation>Kein weiteres Programm gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>Applications</source>
+        <translation>Programme</translation>
+    </message>
+</context>
+<context>
     <name>BudgetMeter</name>
     <message>
         <source>Drift allowance</source>
@@ -265,6 +287,10 @@
         <source>Magnify Icons</source>
         <translation>Symbole vergrößern</translation>
     </message>
+    <message>
+        <source>Dock</source>
+        <translation>Dock</translation>
+    </message>
 </context>
 <context>
     <name>DockSettings</name>
@@ -373,7 +399,7 @@
         <translation>Leuchten bei Fokus</translation>
     </message>
     <message>
-        <source>The edges of the screen shine in the mode&apos;s color while a focus session runs.</source>
+        <source>The edges of the screen shine in the mode's color while a focus session runs.</source>
         <translation>Während einer Fokussitzung leuchten die Bildschirmränder in der Farbe des Modus.</translation>
     </message>
 </context>
@@ -384,16 +410,38 @@
         <translation>Fendrel-Dock</translation>
     </message>
     <message>
-        <source>Modes</source>
-        <translation>Modi</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>Programme</translation>
-    </message>
-    <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Docks</name>
+    <message>
+        <source>the Cinnamon panel</source>
+        <translation>Cinnamon-Leiste</translation>
+    </message>
+    <message>
+        <source>the GNOME dock</source>
+        <translation>GNOME-Dock</translation>
+    </message>
+    <message>
+        <source>the MATE panel</source>
+        <translation>MATE-Panel</translation>
+    </message>
+    <message>
+        <source>the Plasma panel</source>
+        <translation>Plasma-Kontrollleiste</translation>
+    </message>
+    <message>
+        <source>the Xfce panel</source>
+        <translation>Xfce-Panel</translation>
+    </message>
+</context>
+<context>
+    <name>EntryChips</name>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
     </message>
 </context>
 <context>
@@ -408,10 +456,7 @@
     </message>
     <message numerus="yes">
         <source>%n mode(s) chosen</source>
-        <translation>
-            <numerusform>Ein Modus gewählt</numerusform>
-            <numerusform>%n Modi gewählt</numerusform>
-        </translation>
+        <translation><numerusform>Ein Modus gewählt</numerusform><numerusform>%n Modi gewählt</numerusform></translation>
     </message>
     <message>
         <source>Start</source>
@@ -524,7 +569,7 @@
         <translation>Nachrichten mit einem dieser Wörter erscheinen sofort. Dazwischen Kommas.</translation>
     </message>
     <message>
-        <source>Quiet the desktop&apos;s banners</source>
+        <source>Quiet the desktop's banners</source>
         <translation>Banner der Arbeitsfläche unterdrücken</translation>
     </message>
     <message>
@@ -564,7 +609,7 @@
         <translation>Welches seiner Modelle gefragt wird.</translation>
     </message>
     <message>
-        <source>Connected. It judges what the modes&apos; lists don&apos;t name.</source>
+        <source>Connected. It judges what the modes' lists don't name.</source>
         <translation>Verbunden. Es beurteilt, was die Listen der Modi nicht nennen.</translation>
     </message>
 </context>
@@ -604,10 +649,7 @@
     </message>
     <message numerus="yes">
         <source>%n held message(s)</source>
-        <translation>
-            <numerusform>%n zurückgehaltene Nachricht</numerusform>
-            <numerusform>%n zurückgehaltene Nachrichten</numerusform>
-        </translation>
+        <translation><numerusform>%n zurückgehaltene Nachricht</numerusform><numerusform>%n zurückgehaltene Nachrichten</numerusform></translation>
     </message>
     <message>
         <source>Add to %1</source>
@@ -624,6 +666,108 @@
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>ModeSection</name>
+    <message>
+        <source>Modes</source>
+        <translation>Modi</translation>
+    </message>
+</context>
+<context>
+    <name>ModeSettings</name>
+    <message>
+        <source>Mode to edit</source>
+        <translation>Modus zum Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What the dock and the menus call this mode.</source>
+        <translation>So heißt der Modus im Dock und in den Menüs.</translation>
+    </message>
+    <message>
+        <source>Name of the mode</source>
+        <translation>Name des Modus</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Marks the mode wherever it shows.</source>
+        <translation>Kennzeichnet den Modus überall, wo er erscheint.</translation>
+    </message>
+    <message>
+        <source>Wait before entering</source>
+        <translation>Wartezeit vor dem Wechsel</translation>
+    </message>
+    <message>
+        <source>During focus, switching to this mode takes a moment to think.</source>
+        <translation>Im Fokus lässt dir der Wechsel in diesen Modus einen Moment zum Nachdenken.</translation>
+    </message>
+    <message>
+        <source>Drift allowance</source>
+        <translation>Ablenkungsbudget</translation>
+    </message>
+    <message>
+        <source>How long a day you may stray from this mode.</source>
+        <translation>Wie lange du am Tag von diesem Modus abschweifen darfst.</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>None belong to this mode yet.</source>
+        <translation>Noch gehört keines zu diesem Modus.</translation>
+    </message>
+    <message>
+        <source>They belong to this mode, and are in the dock while you are in it.</source>
+        <translation>Sie gehören zu diesem Modus und sind im Dock, solange du in ihm bist.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Web sites</source>
+        <translation>Websites</translation>
+    </message>
+    <message>
+        <source>Type or paste addresses. What is below a site, such as docs.example.org, belongs to it.</source>
+        <translation>Tippe Adressen oder füge sie ein. Was unter einer Website liegt, etwa docs.example.org, gehört dazu.</translation>
+    </message>
+    <message>
+        <source>Address of a web site</source>
+        <translation>Adresse einer Website</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete this mode</source>
+        <translation>Diesen Modus löschen</translation>
+    </message>
+    <message>
+        <source>Its list of applications and web sites goes with it.</source>
+        <translation>Seine Liste der Programme und Websites geht mit verloren.</translation>
+    </message>
+    <message>
+        <source>There has to be one, and this is the last.</source>
+        <translation>Einen muss es geben, und das ist der letzte.</translation>
+    </message>
+    <message>
+        <source>Delete…</source>
+        <translation>Löschen …</translation>
     </message>
 </context>
 <context>
@@ -681,7 +825,7 @@
         <translation>Beim Wechseln aufräumen</translation>
     </message>
     <message>
-        <source>Hides the applications that don&apos;t belong to the new mode.</source>
+        <source>Hides the applications that don't belong to the new mode.</source>
         <translation>Blendet Programme aus, die nicht zum neuen Modus gehören.</translation>
     </message>
     <message>
@@ -715,6 +859,10 @@
     <message>
         <source>What Fendrel learns about your work never leaves this computer.</source>
         <translation>Was Fendrel über deine Arbeit lernt, verlässt diesen Rechner nie.</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modi</translation>
     </message>
 </context>
 <context>
@@ -830,7 +978,7 @@
 <context>
     <name>fendrel::AppController</name>
     <message>
-        <source>Fendrel couldn&apos;t read your modes</source>
+        <source>Fendrel couldn't read your modes</source>
         <translation>Fendrel konnte deine Modi nicht lesen</translation>
     </message>
     <message>
@@ -948,7 +1096,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
 <context>
     <name>fendrel::HeldMessages</name>
     <message>
-        <source>The record of notifications can&apos;t be read.</source>
+        <source>The record of notifications can't be read.</source>
         <translation>Das Verzeichnis der Benachrichtigungen kann nicht gelesen werden.</translation>
     </message>
 </context>
@@ -964,10 +1112,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message numerus="yes">
         <source>%n message(s)</source>
-        <translation>
-            <numerusform>%n Nachricht</numerusform>
-            <numerusform>%n Nachrichten</numerusform>
-        </translation>
+        <translation><numerusform>%n Nachricht</numerusform><numerusform>%n Nachrichten</numerusform></translation>
     </message>
     <message>
         <source>Looks urgent</source>
@@ -983,13 +1128,80 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
 </context>
 <context>
+    <name>fendrel::ModeEditor</name>
+    <message>
+        <source>Amber</source>
+        <translation>Bernstein</translation>
+    </message>
+    <message>
+        <source>Coral</source>
+        <translation>Koralle</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Petrol</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Graphite</source>
+        <translation>Graphit</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>“%1” is not the address of a web site. One looks like example.org.</source>
+        <translation>„%1“ ist keine Adresse einer Website. Eine sieht aus wie example.org.</translation>
+    </message>
+    <message>
+        <source>%1 is on the list already.</source>
+        <translation>%1 steht schon auf der Liste.</translation>
+    </message>
+    <message>
+        <source>Delete the mode %1?</source>
+        <translation>Den Modus %1 löschen?</translation>
+    </message>
+    <message>
+        <source>Its list of applications and web sites is lost. You can't undo this.</source>
+        <translation>Seine Liste der Programme und Websites geht verloren. Du kannst das nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Delete Mode</source>
+        <translation>Modus löschen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>fendrel::TrashController</name>
     <message>
-        <source>The Trash couldn&apos;t be emptied</source>
+        <source>The Trash couldn't be emptied</source>
         <translation>Der Papierkorb konnte nicht geleert werden</translation>
     </message>
     <message>
-        <source>Some of what is in it can&apos;t be deleted.</source>
+        <source>Some of what is in it can't be deleted.</source>
         <translation>Einiges darin lässt sich nicht löschen.</translation>
     </message>
     <message>
@@ -1001,7 +1213,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Papierkorb leeren?</translation>
     </message>
     <message>
-        <source>What is in it is deleted for good. You can&apos;t undo this.</source>
+        <source>What is in it is deleted for good. You can't undo this.</source>
         <translation>Der Inhalt wird endgültig gelöscht. Das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message>
@@ -1013,11 +1225,11 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>“%1” couldn&apos;t be moved to the Trash</source>
+        <source>“%1” couldn't be moved to the Trash</source>
         <translation>„%1“ konnte nicht in den Papierkorb bewegt werden</translation>
     </message>
     <message>
-        <source>%1 items couldn&apos;t be moved to the Trash</source>
+        <source>%1 items couldn't be moved to the Trash</source>
         <translation>%1 Objekte konnten nicht in den Papierkorb bewegt werden</translation>
     </message>
 </context>

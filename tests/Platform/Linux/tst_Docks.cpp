@@ -1,11 +1,13 @@
+#include "Platform/Linux/Desktop/XfconfFile.h"
 #include "Platform/Linux/Docks/DockDrivers.h"
 #include "Table.h"
+#include "fakes/FakeClock.h"
 
 #include <QDBusConnection>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <QJSEngine>
 
 using namespace fendrel;
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -73,38 +75,64 @@ Values operator+(Values values, const Values& more) {
     return values;
 }
 
-/// A desktop shell that knows the scripts of its panels by what they do.
+/// What scripts find in the desktop's shell.
+const QString shellOfPanels = uR"(
+    var printed = '';
+    function print(text) { printed += text + '\n'; }
+    function panel(id, location, hiding) {
+        var entries = {};
+        return {
+            id: id, location: location, currentConfigGroup: [],
+            get hiding() { return hiding; },
+            set hiding(value) {
+                hiding = ['none', 'autohide', 'dodgewindows', 'windowscover'].includes(value) ? value : 'none';
+            },
+            place: function(key) { return this.currentConfigGroup.join('/') + '/' + key; },
+            readConfig: function(key, fallback) { return this.place(key) in entries ? entries[this.place(key)] : fallback; },
+            writeConfig: function(key, value) { entries[this.place(key)] = String(value); }
+        };
+    }
+    var all = [panel(1, 'top', 'none'), panel(2, 'bottom', 'dodgewindows'), panel(3, 'left', 'none')];
+    function panels() { return all; }
+    function panelById(id) { return all.find(function(each) { return each.id === id; }); }
+)"_s;
+
 class FakeShell : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.PlasmaShell")
 
 public:
-    QJsonObject hiding{{u"1"_s, u"none"_s}, {u"2"_s, u"dodgewindows"_s}, {u"3"_s, u"none"_s}};
-    QJsonObject marks{};
+    FakeShell() { run(shellOfPanels); }
 
-    Q_SCRIPTABLE Q_SLOT QString evaluateScript(const QString& script);
+    QString run(const QString& script) { return m_engine.evaluate(script).toString(); }
+    /// How each panel hides, and what is noted there.
+    QString panels() {
+        return run(u"all.map(function(each) {"
+                   "each.currentConfigGroup = ['Fendrel'];"
+                   "return each.hiding + '/' + each.readConfig('hidden', '');"
+                   "}).join(' ')"_s);
+    }
+
+    Q_SCRIPTABLE Q_SLOT QString evaluateScript(const QString& script) {
+        run(u"printed = ''"_s);
+        run(u"(function() {%1})()"_s.arg(script));
+        return run(u"printed"_s);
+    }
+
+private:
+    QJSEngine m_engine;
 };
 
-QString FakeShell::evaluateScript(const QString& script) {
-    const qsizetype start = script.indexOf(u"var changes = "_s);
-    if (start < 0) {
-        const QMap<QString, QString> places{{u"1"_s, u"top"_s}, {u"2"_s, u"bottom"_s}, {u"3"_s, u"left"_s}};
-        QJsonArray panels;
-        for (const QString& id : hiding.keys())
-            panels.append(QJsonObject{{u"id"_s, id},
-                                      {u"location"_s, places.value(id)},
-                                      {u"hiding"_s, hiding.value(id)},
-                                      {u"mark"_s, marks.value(id).toString()}});
-        return QString::fromUtf8(QJsonDocument(panels).toJson());
-    }
-    const QString json = script.sliced(start + 14, script.indexOf(u';', start) - start - 14);
-    const auto changes = QJsonDocument::fromJson(json.toUtf8()).object();
-    for (auto change = changes.begin(); change != changes.end(); ++change) {
-        auto& values = change.key().endsWith(u"/hiding"_s) ? hiding : marks;
-        values.insert(change.key().section(u'/', 0, 0), change.value());
-    }
-    return u"done\n"_s;
-}
+/// A dock that never answers.
+class SilentDock final : public DockDriver {
+public:
+    QString dock() const override { return u"silent"_s; }
+    QString name() const override { return dock(); }
+    QString service() const override { return u"org.fendrel.Silent"_s; }
+    void setRunning(bool /*isRunning*/) override {}
+    Handle read(const QJsonObject& /*details*/, ReadDone /*done*/) override { return {}; }
+    Handle change(const DockChanges& /*changes*/, ChangeDone /*done*/) override { return {}; }
+};
 
 struct World {
     explicit World(QString name) : dock(std::move(name)) {}
@@ -124,7 +152,8 @@ struct World {
 
     QString dock;
     std::shared_ptr<FakeConfiguration> configuration = std::make_shared<FakeConfiguration>();
-    DesktopDock system{dockDrivers(configuration)};
+    FakeClock clock;
+    DesktopDock system{dockDrivers(configuration, clock)};
 };
 
 const SystemDockSettings hiding{.autohide = true, .delay = 1000.0};
@@ -207,19 +236,37 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitFor([&] { return world.system.running() == u"plasma"_s; }));
         QCOMPARE(world.system.edges(), (QList<Qt::Edge>{Qt::BottomEdge, Qt::LeftEdge}));
         const SystemDockSettings saved = world.read();
-        const QJsonObject before = shell.hiding;
         QVERIFY(world.write(hiding));
         QVERIFY(world.isHidden());
-        QCOMPARE(shell.hiding.value(u"1"_s), u"none"_s);
-        shell.hiding.insert(u"3"_s, u"windowscover"_s);
+        QCOMPARE(shell.panels(), u"none/ autohide/true autohide/true"_s);
+        shell.run(u"all[2].hiding = 'windowscover'"_s);
         QVERIFY(!world.isHidden());
         QVERIFY(world.write(saved));
-        QCOMPARE(shell.hiding.value(u"2"_s), before.value(u"2"_s));
-        QCOMPARE(shell.hiding.value(u"3"_s), u"windowscover"_s);
-        QCOMPARE(shell.marks.value(u"2"_s), QString());
+        QCOMPARE(shell.panels(), u"none/ dodgewindows/ windowscover/"_s);
         QVERIFY(bus.unregisterService(u"org.kde.plasmashell"_s));
         QVERIFY(QTest::qWaitFor([&] { return !world.system.running(); }));
         QVERIFY(!world.write(saved));
+    }
+
+    void oneThatDoesNotAnswerHoldsUpNoOther() {
+        FakeClock clock;
+        auto drivers = dockDrivers(std::make_shared<FakeConfiguration>(), clock);
+        drivers.insert(drivers.begin(), std::make_unique<SilentDock>());
+        DesktopDock system(std::move(drivers));
+        const Handle silent = system.read(u"silent"_s, [](const auto&) {});
+        std::optional<bool> answer;
+        const Handle asked = system.write({.dock = u"plank"_s}, [&](bool isWritten) { answer = isWritten; });
+        QVERIFY(QTest::qWaitFor([&] { return answer == true; }));
+    }
+
+    void fileThatIsElsewhere() {
+        FakeClock clock;
+        XfconfFile file(u"nowhere"_s, {{u"/panels/panel-1/mode"_s, u"1"_s}}, clock, nullptr);
+        int told = 0;
+        file.onStored = [&] { ++told; };
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not in .*nowhere.xml"_s));
+        clock.advance(60s);
+        QCOMPARE(told, 1);
     }
 };
 

@@ -47,6 +47,10 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path(u"data/Trash/files/b"_s)));
         QTRY_VERIFY(m_trash->isEmpty());
         QCOMPARE(m_changes, 4);
+        putFile(path(u"disk/files/c"_s), "c");
+        QTRY_VERIFY(!m_trash->isEmpty());
+        QVERIFY(QFile::remove(path(u"disk/files/c"_s)));
+        QTRY_VERIFY(m_trash->isEmpty());
     }
 
     void movesFilesAndNotWhatLinksLeadTo() {

@@ -28,6 +28,7 @@ TrashFolder::TrashFolder(QString home, std::function<std::vector<std::filesystem
         watch();
         look();
     });
+    connect(&m_disks, &QFileSystemWatcher::directoryChanged, this, &TrashFolder::look);
     watch();
     look();
 }
@@ -55,18 +56,35 @@ void TrashFolder::watch() {
     }
 }
 
-std::vector<std::filesystem::path> TrashFolder::all() const {
-    auto folders = m_others();
-    folders.emplace_back(QFile::encodeName(m_home).toStdString());
-    return folders;
+void TrashFolder::watchDisks(const QStringList& folders) {
+    const QStringList before = m_disks.directories();
+    bool isLonger = false;
+    for (const QString& folder : before) {
+        if (!folders.contains(folder))
+            m_disks.removePath(folder);
+    }
+    for (const QString& folder : folders)
+        isLonger |= !before.contains(folder) && m_disks.addPath(folder);
+    if (isLonger)
+        look(); // something may have happened there since the last time
+}
+
+std::vector<std::filesystem::path> TrashFolder::all(std::vector<std::filesystem::path> others) const {
+    others.emplace_back(QFile::encodeName(m_home).toStdString());
+    return others;
 }
 
 void TrashFolder::look() {
     m_worker.post(u"look"_s, [this] {
-        const bool isEmpty = std::ranges::all_of(all(), trashContents::isEmpty);
+        const auto others = m_others();
+        const bool isEmpty = std::ranges::all_of(all(others), trashContents::isEmpty);
+        QStringList watched; // each until its folder of files is there
+        for (const auto& folder : others)
+            watched.append(watchable(QFile::decodeName((folder / "files").c_str())));
         QMetaObject::invokeMethod(
             this,
-            [this, isEmpty] {
+            [this, isEmpty, watched] {
+                watchDisks(watched);
                 if (std::exchange(m_isEmpty, isEmpty) != isEmpty)
                     onChanged();
             },
@@ -100,7 +118,7 @@ void TrashFolder::add(const QStringList& paths, std::function<void(const QString
 void TrashFolder::empty(std::function<void(bool)> done) {
     m_worker.post({}, [this, done = std::move(done)]() mutable {
         bool isGone = true;
-        for (const auto& folder : all())
+        for (const auto& folder : all(m_others()))
             isGone = trashContents::remove(folder, m_isStopped) && isGone;
         if (!isGone)
             qCWarning(logDesktop) << "Couldn't empty the trash";

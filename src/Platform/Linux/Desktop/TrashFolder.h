@@ -15,8 +15,8 @@
 
 namespace fendrel {
 
-/// The trash that file managers share. The one at home is watched; those of other disks are looked at whenever it
-/// changes, and after what is done here.
+/// The trash that file managers share: the one at home, and those of other disks. One that is made while we run, on a
+/// disk that had none or was not there, is found when another one changes, and after what is done here.
 class TrashFolder : public QObject, public Trash {
     Q_OBJECT
 public:
@@ -34,15 +34,18 @@ public:
 
 private:
     void watch();
+    void watchDisks(const QStringList& folders);
     void look();
     bool makeHome() const; ///< false when there is none, and none can be made
-    std::vector<std::filesystem::path> all() const;
+    /// The one at home and these.
+    std::vector<std::filesystem::path> all(std::vector<std::filesystem::path> others) const;
 
     QString m_home;
     std::function<std::vector<std::filesystem::path>()> m_others;
     Applications& m_applications;
     std::shared_ptr<ApplicationCatalog> m_catalog;
-    QFileSystemWatcher m_watcher;
+    QFileSystemWatcher m_watcher; ///< of the one at home
+    QFileSystemWatcher m_disks;   ///< of the others
     Handle m_question;
     bool m_isEmpty = true;
     std::atomic<bool> m_isStopped = false;

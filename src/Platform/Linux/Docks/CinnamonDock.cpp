@@ -2,7 +2,7 @@
 
 #include "Platform/Linux/Docks/ConfigurationDock.h"
 
-#include <utility>
+#include <QCoreApplication>
 
 namespace fendrel {
 
@@ -46,6 +46,10 @@ QMap<QString, Qt::Edge> placesOf(const std::optional<QString>& list) {
 
 } // namespace
 
+QString CinnamonDock::name() const {
+    return QCoreApplication::translate("Docks", "the Cinnamon panel");
+}
+
 void CinnamonDock::setRunning(bool isRunning) {
     m_isRunning = isRunning;
     m_watch = isRunning ? m_configuration->watch(key(panelList), [this] { look(); }) : Handle();
@@ -53,15 +57,7 @@ void CinnamonDock::setRunning(bool isRunning) {
 }
 
 void CinnamonDock::look() {
-    QList<Qt::Edge> edges;
-    if (m_isRunning) {
-        for (const Qt::Edge edge : placesOf(m_configuration->value(key(panelList)))) {
-            if (!edges.contains(edge))
-                edges.append(edge);
-        }
-    }
-    if (std::exchange(m_edges, edges) != edges)
-        onEdgesChanged();
+    setEdges(m_isRunning ? placesOf(m_configuration->value(key(panelList))).values() : QList<Qt::Edge>());
 }
 
 Handle CinnamonDock::read(const QJsonObject& details, ReadDone done) {

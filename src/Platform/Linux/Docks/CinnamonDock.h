@@ -16,10 +16,9 @@ public:
         : m_configuration(std::move(configuration)) {}
 
     QString dock() const override { return QStringLiteral("cinnamon"); }
-    QString name() const override { return QStringLiteral("the Cinnamon panel"); }
+    QString name() const override;
     QString service() const override { return QStringLiteral("org.Cinnamon"); }
     void setRunning(bool isRunning) override;
-    QList<Qt::Edge> edges() const override { return m_edges; }
     Handle read(const QJsonObject& details, ReadDone done) override;
     Handle change(const DockChanges& changes, ChangeDone done) override;
 
@@ -30,7 +29,6 @@ private:
 
     std::shared_ptr<DesktopConfiguration> m_configuration;
     bool m_isRunning = false;
-    QList<Qt::Edge> m_edges;
     Handle m_watch;
 };
 

@@ -1,9 +1,9 @@
 #include "Platform/Linux/Docks/ConfigurationDock.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <utility>
 
 namespace fendrel {
 
@@ -15,6 +15,10 @@ QStringList textsOf(const std::optional<QString>& list) {
     for (auto found = text.globalMatch(list.value_or(QString())); found.hasNext();)
         texts.append(found.next().captured(1));
     return texts;
+}
+
+QString ConfigurationDock::name() const {
+    return QCoreApplication::translate("Docks", m_kind.name);
 }
 
 void ConfigurationDock::setRunning(bool isRunning) {
@@ -33,12 +37,11 @@ void ConfigurationDock::look() {
         for (const QString& path : paths()) {
             watch({.schema = m_kind.schema, .key = m_kind.edgeKey, .path = path});
             const auto place = edge(path);
-            if (place && !edges.contains(*place))
+            if (place)
                 edges.append(*place);
         }
     }
-    if (std::exchange(m_edges, edges) != edges)
-        onEdgesChanged();
+    setEdges(edges);
 }
 
 QStringList ConfigurationDock::paths() const {

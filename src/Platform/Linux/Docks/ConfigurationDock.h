@@ -15,7 +15,7 @@ struct ConfigurationDockKind {
         QString value{}; ///< that keeps the panel away
     };
     QString dock{};
-    QString name{};
+    const char* name{}; ///< a text of the context "Docks"
     QString service{};
     ConfigurationKey list{}; ///< of the panels' names
     QStringList panels{};    ///< the names that are this dock's; empty: all
@@ -32,10 +32,9 @@ public:
         : m_kind(std::move(kind)), m_configuration(std::move(configuration)) {}
 
     QString dock() const override { return m_kind.dock; }
-    QString name() const override { return m_kind.name; }
+    QString name() const override;
     QString service() const override { return m_kind.service; }
     void setRunning(bool isRunning) override;
-    QList<Qt::Edge> edges() const override { return m_edges; }
     Handle read(const QJsonObject& details, ReadDone done) override;
     Handle change(const DockChanges& changes, ChangeDone done) override;
 
@@ -50,7 +49,6 @@ private:
     ConfigurationDockKind m_kind;
     std::shared_ptr<DesktopConfiguration> m_configuration;
     bool m_isRunning = false;
-    QList<Qt::Edge> m_edges;
     std::vector<Handle> m_watches;
 };
 

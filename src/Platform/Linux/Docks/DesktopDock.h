@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Linux/Desktop/BusCall.h"
-#include "Platform/Linux/Docks/DockDriver.h"
+#include "Platform/Linux/Docks/DockQueue.h"
 
 #include <QDBusServiceWatcher>
 #include <QObject>
@@ -11,7 +11,7 @@
 
 namespace fendrel {
 
-/// The first of several kinds of docks that runs. Settings are read and changed one call after the other.
+/// The first of several kinds of docks that runs.
 class DesktopDock : public QObject, public SystemDock {
     Q_OBJECT
 public:
@@ -28,25 +28,16 @@ public:
     void restart(const QString&) override {}
 
 private:
-    using Job = std::function<void()>; ///< calls proceed() at its end
-
-    DockDriver* driver(const QString& dock) const;
-    DockDriver* runningDriver() const;
+    const DockDriver* runningDriver() const;
+    DockQueue* queueOf(const QString& dock) const;
     void setOwner(const QString& service, bool hasOwner);
     void look();
-    void queue(Job job);
-    void proceed();
 
-    Drivers m_drivers;
+    std::vector<std::unique_ptr<DockQueue>> m_queues; ///< one each, or a dock that does not answer would hold up others
     QDBusServiceWatcher m_watcher;
     Handle m_question;
     std::optional<QString> m_running;
     QList<Qt::Edge> m_edges;
-    QList<Job> m_jobs;
-    bool m_isBusy = false;
-    Handle m_next;
-    Handle m_reading;
-    Handle m_changing;
 };
 
 } // namespace fendrel

@@ -13,17 +13,26 @@ public:
     virtual ~DockDriver() = default;
 
     virtual QString dock() const = 0;
-    virtual QString name() const = 0;    ///< as it stands in the middle of a sentence
+    virtual QString name() const = 0;    ///< in the user's language, as it stands in the middle of a sentence
     virtual QString service() const = 0; ///< its name on the session bus while it runs
 
     /// While it does not run it has no edges, but its settings can be read and changed where somebody keeps them.
     virtual void setRunning(bool isRunning) = 0;
-    virtual QList<Qt::Edge> edges() const = 0; ///< where its panels are, without the upper one
+    const QList<Qt::Edge>& edges() const { return m_edges; } ///< where its panels are, without the upper one
     std::function<void()> onEdgesChanged = [] {};
 
     /// The settings of its panels, and those that `details` tell of.
     virtual Handle read(const QJsonObject& details, ReadDone done) = 0;
     virtual Handle change(const DockChanges& changes, ChangeDone done) = 0;
+    /// Runs when what was changed is on the disk, for docks whose `change` does not wait for that. Other calls may come
+    /// meanwhile.
+    virtual Handle whenStored(const DockChanges& changes, std::function<void()> run);
+
+protected:
+    void setEdges(const QList<Qt::Edge>& ofPanels);
+
+private:
+    QList<Qt::Edge> m_edges;
 };
 
 } // namespace fendrel

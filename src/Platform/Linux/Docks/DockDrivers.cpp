@@ -13,7 +13,7 @@ namespace {
 
 ConfigurationDockKind plank() {
     return {.dock = u"plank"_s,
-            .name = u"Plank"_s,
+            .name = "Plank",
             .service = u"net.launchpad.plank"_s,
             .list = {.schema = u"net.launchpad.plank"_s, .key = u"enabled-docks"_s},
             .schema = u"net.launchpad.plank.dock.settings"_s,
@@ -28,7 +28,7 @@ ConfigurationDockKind dashToDock() {
     const QString ubuntus = u"ubuntu-dock@ubuntu.com"_s;
     const bool isUbuntu = qEnvironmentVariable("GNOME_SHELL_SESSION_MODE") == u"ubuntu"_s;
     return {.dock = u"dash-to-dock"_s,
-            .name = u"the GNOME dock"_s,
+            .name = QT_TRANSLATE_NOOP("Docks", "the GNOME dock"),
             .service = u"org.gnome.Shell"_s,
             .list = {.schema = u"org.gnome.shell"_s, .key = u"enabled-extensions"_s},
             .panels = {u"dash-to-dock@micxgx.gmail.com"_s, ubuntus},
@@ -41,7 +41,7 @@ ConfigurationDockKind dashToDock() {
 
 ConfigurationDockKind mate() {
     return {.dock = u"mate-panel"_s,
-            .name = u"the MATE panel"_s,
+            .name = QT_TRANSLATE_NOOP("Docks", "the MATE panel"),
             .service = u"org.mate.Panel"_s,
             .list = {.schema = u"org.mate.panel"_s, .key = u"toplevel-id-list"_s},
             .schema = u"org.mate.panel.toplevel"_s,
@@ -52,14 +52,14 @@ ConfigurationDockKind mate() {
 
 } // namespace
 
-DesktopDock::Drivers dockDrivers(const std::shared_ptr<DesktopConfiguration>& configuration) {
+DesktopDock::Drivers dockDrivers(const std::shared_ptr<DesktopConfiguration>& configuration, Clock& clock) {
     DesktopDock::Drivers drivers;
     drivers.push_back(std::make_unique<ConfigurationDock>(plank(), configuration));
     drivers.push_back(std::make_unique<ConfigurationDock>(dashToDock(), configuration));
     drivers.push_back(std::make_unique<CinnamonDock>(configuration));
     drivers.push_back(std::make_unique<ConfigurationDock>(mate(), configuration));
     drivers.push_back(std::make_unique<PlasmaDock>());
-    drivers.push_back(std::make_unique<XfceDock>());
+    drivers.push_back(std::make_unique<XfceDock>(clock));
     return drivers;
 }
 

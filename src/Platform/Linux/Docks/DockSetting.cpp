@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double hiddenDelay = 1000.0;
-
 bool isHiding(const DockSetting& setting) {
     return setting.now == setting.hiding;
 }
@@ -22,13 +20,13 @@ SystemDockSettings settingsOf(const QString& dock, const QList<DockSetting>& now
         settings.details.insert(setting.name, setting.isSet ? QJsonValue(setting.now) : QJsonValue());
     if (!now.isEmpty() && std::ranges::all_of(now, isHiding)) {
         settings.autohide = true;
-        settings.delay = hiddenDelay;
+        settings.delay = hidingDelay;
     }
     return settings;
 }
 
 DockChanges changesTo(const SystemDockSettings& wanted, const QList<DockSetting>& now) {
-    const bool isToHide = wanted.autohide == true && wanted.delay == hiddenDelay;
+    const bool isToHide = wanted.autohide == true && wanted.delay == hidingDelay;
     DockChanges changes;
     for (const DockSetting& setting : now) {
         if (isToHide) {

@@ -2,12 +2,12 @@
 
 #include "Platform/Shared/AtNextTurn.h"
 
+#include <QCoreApplication>
 #include <QDBusReply>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QStandardPaths>
-
-#include <utility>
 
 namespace fendrel {
 
@@ -82,6 +82,16 @@ PlasmaDock::PlasmaDock()
     : m_file(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
              u"/plasma-org.kde.plasma.desktop-appletsrc"_s) {
     QObject::connect(&m_files, &QFileSystemWatcher::fileChanged, [this] { look(); });
+    // Everybody's settings are in that folder: it only tells of a file that was not there when it was to be watched.
+    QObject::connect(&m_files, &QFileSystemWatcher::directoryChanged, [this] {
+        if (m_isRunning && m_files.files().isEmpty() && QFile::exists(m_file))
+            look();
+    });
+    m_files.addPath(QFileInfo(m_file).path());
+}
+
+QString PlasmaDock::name() const {
+    return QCoreApplication::translate("Docks", "the Plasma panel");
 }
 
 void PlasmaDock::setRunning(bool isRunning) {
@@ -92,21 +102,16 @@ void PlasmaDock::setRunning(bool isRunning) {
 void PlasmaDock::look() {
     m_looking.reset();
     if (!m_isRunning)
-        return take({});
+        return setEdges({});
     m_files.addPath(m_file); // again each time: it is replaced, not written to
     m_looking = readPanels([this](const std::optional<QList<Panel>>& panels) {
         QList<Qt::Edge> edges;
         for (const Panel& panel : panels.value_or(QList<Panel>())) {
-            if (panel.edge && !edges.contains(*panel.edge))
+            if (panel.edge)
                 edges.append(*panel.edge);
         }
-        take(edges);
+        setEdges(edges);
     });
-}
-
-void PlasmaDock::take(const QList<Qt::Edge>& edges) {
-    if (std::exchange(m_edges, edges) != edges)
-        onEdgesChanged();
 }
 
 Handle PlasmaDock::read(const QJsonObject& details, ReadDone done) {

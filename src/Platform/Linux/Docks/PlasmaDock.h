@@ -15,19 +15,16 @@ public:
     PlasmaDock();
 
     QString dock() const override { return QStringLiteral("plasma"); }
-    QString name() const override { return QStringLiteral("the Plasma panel"); }
+    QString name() const override;
     QString service() const override { return QStringLiteral("org.kde.plasmashell"); }
     void setRunning(bool isRunning) override;
-    QList<Qt::Edge> edges() const override { return m_edges; }
     Handle read(const QJsonObject& details, ReadDone done) override;
     Handle change(const DockChanges& changes, ChangeDone done) override;
 
 private:
     void look();
-    void take(const QList<Qt::Edge>& edges);
 
     bool m_isRunning = false;
-    QList<Qt::Edge> m_edges;
     QString m_file; ///< where the shell writes where its panels are; it tells of that in no other way
     QFileSystemWatcher m_files;
     Handle m_looking;

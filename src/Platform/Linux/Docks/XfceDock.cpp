@@ -1,15 +1,17 @@
 #include "Platform/Linux/Docks/XfceDock.h"
 
+#include "Platform/Linux/Desktop/XfconfFile.h"
 #include "Platform/Linux/Desktop/XfconfProperty.h"
 #include "Platform/Shared/AtNextTurn.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusReply>
+#include <QPointer>
 
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 namespace fendrel {
 
@@ -88,11 +90,15 @@ Handle readAll(std::function<void(const std::optional<QVariantMap>&)> done) {
 
 } // namespace
 
-XfceDock::XfceDock() {
+XfceDock::XfceDock(Clock& clock) : m_clock(clock) {
     auto bus = QDBusConnection::sessionBus();
     for (const QString& change : {u"PropertyChanged"_s, u"PropertyRemoved"_s})
         bus.connect(xfconf, object, xfconf, change, {channel}, QString(), this,
                     SLOT(onPropertyChanged(QString, QString)));
+}
+
+QString XfceDock::name() const {
+    return QCoreApplication::translate("Docks", "the Xfce panel");
 }
 
 void XfceDock::setRunning(bool isRunning) {
@@ -108,20 +114,10 @@ void XfceDock::onPropertyChanged(const QString& /*channel*/, const QString& prop
 void XfceDock::look() {
     m_looking.reset();
     if (!m_isRunning)
-        return take({});
+        return setEdges({});
     m_looking = readAll([this](const std::optional<QVariantMap>& properties) {
-        QList<Qt::Edge> edges;
-        for (const Qt::Edge edge : placesOf(properties.value_or(QVariantMap()))) {
-            if (!edges.contains(edge))
-                edges.append(edge);
-        }
-        take(edges);
+        setEdges(placesOf(properties.value_or(QVariantMap())).values());
     });
-}
-
-void XfceDock::take(const QList<Qt::Edge>& edges) {
-    if (std::exchange(m_edges, edges) != edges)
-        onEdgesChanged();
 }
 
 Handle XfceDock::read(const QJsonObject& details, ReadDone done) {
@@ -169,6 +165,18 @@ Handle XfceDock::change(const DockChanges& changes, ChangeDone done) {
         }));
     }
     return Handle([answers] { answers->writes.clear(); });
+}
+
+Handle XfceDock::whenStored(const DockChanges& changes, std::function<void()> run) {
+    XfconfFile::Values values;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change)
+        values.insert(change.key(), *change ? std::optional(valueOf(**change).toString()) : std::nullopt);
+    auto* file = new XfconfFile(channel, values, m_clock, this);
+    file->onStored = [file, run = std::move(run)] {
+        file->deleteLater();
+        run();
+    };
+    return Handle([file = QPointer(file)] { delete file.data(); });
 }
 
 } // namespace fendrel

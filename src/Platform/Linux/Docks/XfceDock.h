@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Desktop/BusCall.h"
 #include "Platform/Linux/Docks/DockDriver.h"
+#include "Ports/Clock.h"
 
 #include <QObject>
 #include <QVariantMap>
@@ -11,28 +12,27 @@
 namespace fendrel {
 
 /// Xfce's panels. They know no delay, and one that hides by itself comes for the last three pixels of the screen, so it
-/// is also put on an output that does not exist, whose name tells that it was us. What was written is safe from our end
-/// at once; the service has it on the disk some seconds later.
+/// is also put on an output that does not exist, whose name tells that it was us. The service takes what is written at
+/// once, and has it on the disk some seconds after the last change.
 class XfceDock final : public QObject, public DockDriver {
     Q_OBJECT
 public:
-    XfceDock();
+    explicit XfceDock(Clock& clock);
 
     QString dock() const override { return QStringLiteral("xfce4-panel"); }
-    QString name() const override { return QStringLiteral("the Xfce panel"); }
+    QString name() const override;
     QString service() const override { return QStringLiteral("org.xfce.Panel"); }
     void setRunning(bool isRunning) override;
-    QList<Qt::Edge> edges() const override { return m_edges; }
     Handle read(const QJsonObject& details, ReadDone done) override;
     Handle change(const DockChanges& changes, ChangeDone done) override;
+    Handle whenStored(const DockChanges& changes, std::function<void()> run) override;
 
 private:
     Q_SLOT void onPropertyChanged(const QString& channel, const QString& property);
     void look();
-    void take(const QList<Qt::Edge>& edges);
 
+    Clock& m_clock;
     bool m_isRunning = false;
-    QList<Qt::Edge> m_edges;
     Handle m_looking;
 };
 

@@ -35,6 +35,7 @@ X11Accessibility::X11Accessibility(std::shared_ptr<ApplicationGroups> groups, Cl
                 observed.observer.onTitleChanged({now.id});
         });
     });
+    connect(windows, &X11Windows::frameChanged, this, &X11Accessibility::frameDidChange);
     connect(windows, &X11Windows::activeChanged, this, &X11Accessibility::tellWindows);
     connect(windows, &X11Windows::listChanged, this, &X11Accessibility::tellWindows);
     connect(m_groups.get(), &ApplicationGroups::groupsChanged, this, &X11Accessibility::tellWindows);
@@ -48,6 +49,15 @@ void X11Accessibility::tellAtNextTurn() {
     m_telling = atNextTurn([this] {
         m_telling.reset();
         onWindowsChanged();
+    });
+}
+
+void X11Accessibility::frameDidChange(xcb_window_t window) {
+    if (m_tellingMove || window != m_groups->windows().active())
+        return;
+    m_tellingMove = atNextTurn([this] {
+        m_tellingMove.reset();
+        onFocusedWindowMoved();
     });
 }
 

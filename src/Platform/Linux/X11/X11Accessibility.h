@@ -45,12 +45,14 @@ private:
 
     void tellWindows();
     void tellAtNextTurn();
+    void frameDidChange(xcb_window_t window);
 
     std::shared_ptr<ApplicationGroups> m_groups;
     X11Requests m_requests;
     QuietRestore m_restore;
     Listeners<Observed> m_observers;
-    std::optional<Handle> m_telling; ///< here while `onWindowsChanged` is about to be called
+    std::optional<Handle> m_telling;     ///< here while `onWindowsChanged` is about to be called
+    std::optional<Handle> m_tellingMove; ///< the same for `onFocusedWindowMoved`
 };
 
 } // namespace fendrel

@@ -2,11 +2,10 @@
 
 #include "Base/Log.h"
 
-#include <QCoreApplication>
-
 #include <xcb/xcbext.h>
 
 #include <chrono>
+#include <cstdlib>
 
 namespace fendrel {
 
@@ -134,8 +133,7 @@ void X11Connection::drain() {
     if (xcb_connection_has_error(xcb()) != 0 && m_notifier->isEnabled()) {
         m_notifier->setEnabled(false); // or the closed socket would wake us for ever
         qCCritical(logDesktop) << "The connection to the X server was lost";
-        QCoreApplication::exit(1);
-        return;
+        std::exit(1); // as the toolkit does, which may hear of it first: there is one end, however it comes
     }
     flush();
 }

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/X11/X11Atoms.h"
 #include "Platform/Linux/X11/X11Property.h"
+#include "Platform/Linux/X11/XcbPointer.h"
 #include "Ports/Clock.h"
 
 #include <QByteArray>
@@ -13,22 +14,12 @@
 #include <xcb/xcb.h>
 
 #include <array>
-#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
 
 namespace fendrel {
-
-struct FreeDeleter {
-    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): this is the owner
-    void operator()(void* memory) const { std::free(memory); }
-};
-
-/// A reply, event or error that the X library allocated.
-template<class Type>
-using XcbPointer = std::unique_ptr<Type, FreeDeleter>;
 
 /// A connection to the X server beside the toolkit's own, so that neither side can take the other's events.
 /// Main thread. It talks to the server only, never to other applications, so none of them can hold it up.

@@ -9,8 +9,8 @@ class X11PointerGuard final : public PointerGuard {
 public:
     bool start() override {
         if (!isRunning())
-            m_watch = EdgeWatch::start(m_edges);
-        return m_watch != nullptr;
+            m_watch = std::make_unique<EdgeWatch>(m_edges);
+        return isRunning();
     }
     void stop() override { m_watch.reset(); }
     bool isRunning() const override { return m_watch && m_watch->isRunning(); }

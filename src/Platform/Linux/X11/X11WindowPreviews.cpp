@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto leastInterval = 100ms;
+constexpr Clock::Duration leastIntervalOfAll = Clock::Duration(1s) / 30; ///< between two, of whichever windows
 constexpr qsizetype keptWindows = 4;
 constexpr QSize keptSize(320, 200); ///< for a picture of which nobody has said yet how large it is to be
 
@@ -95,6 +96,7 @@ void X11WindowPreviews::handle(const xcb_generic_event_t& event) {
         }
     } else if (type == XCB_REPARENT_NOTIFY) {
         const auto window = reinterpret_cast<const xcb_reparent_notify_event_t&>(event).window;
+        m_frames.remove(window);
         release(window);
         beginAgain(window);
     } else if (type == XCB_CONFIGURE_NOTIFY) {
@@ -116,6 +118,8 @@ bool X11WindowPreviews::isSeen(xcb_window_t window) const {
 }
 
 std::optional<X11WindowPreviews::Frame> X11WindowPreviews::frameOf(xcb_window_t window) {
+    if (const auto known = m_frames.constFind(window); known != m_frames.constEnd())
+        return *known;
     auto* xcb = m_connection.xcb();
     for (xcb_window_t top = window; top != XCB_WINDOW_NONE;) {
         const auto look = xcb_get_window_attributes(xcb, top);
@@ -125,7 +129,7 @@ std::optional<X11WindowPreviews::Frame> X11WindowPreviews::frameOf(xcb_window_t 
         if (!seen || !tree)
             return {};
         if (tree->parent == m_connection.root())
-            return Frame{.window = top, .format = m_scaler.format(seen->visual)};
+            return *m_frames.insert(window, {.window = top, .format = m_scaler.format(seen->visual)});
         top = tree->parent;
     }
     return {};
@@ -177,8 +181,14 @@ void X11WindowPreviews::askSoon(Followed& followed) {
         return;
     }
     followed.isAsking = true;
-    const auto due = std::max(m_clock.continuousNow(), followed.last + leastInterval) - m_clock.continuousNow();
+    const auto due = std::max(m_clock.continuousNow(), followed.last + interval()) - m_clock.continuousNow();
     followed.wait = m_clock.after(due, [this, id = followed.id] { ask(id); });
+}
+
+/// Each picture is work for the server, and windows that play something want a new one all the time.
+Clock::Duration X11WindowPreviews::interval() const {
+    const auto busy = std::ranges::count_if(m_followed, [](const auto& entry) { return entry.second.isAsking; });
+    return std::max<Clock::Duration>(leastInterval, busy * leastIntervalOfAll);
 }
 
 void X11WindowPreviews::ask(quint64 id) {
@@ -299,7 +309,9 @@ void X11WindowPreviews::remember(xcb_window_t window, const QImage& picture) {
 }
 
 void X11WindowPreviews::forgetGone() {
-    m_last.removeIf([this](auto entry) { return m_windows->find(entry.key()) == nullptr; });
+    const auto isGone = [this](auto entry) { return m_windows->find(entry.key()) == nullptr; };
+    m_last.removeIf(isGone);
+    m_frames.removeIf(isGone);
     QList<xcb_window_t> gone;
     for (const Kept& kept : std::as_const(m_kept)) {
         if (m_windows->find(kept.window) == nullptr)

@@ -58,6 +58,7 @@ private:
     void beginAgain(xcb_window_t window);
     void forgetFrame(Followed& followed);
     void askSoon(Followed& followed);
+    Clock::Duration interval() const; ///< of each window's pictures, for as many as change now
     void ask(quint64 id);
     void take(quint64 id, const xcb_get_geometry_reply_t& frame);
     void keepActive();
@@ -79,8 +80,9 @@ private:
     bool m_hasComposite{};
     quint64 m_nextID{};
     std::map<quint64, Followed> m_followed;
-    QList<Kept> m_kept;                 ///< the last one first
-    QHash<xcb_window_t, QImage> m_last; ///< what was last seen of each
+    QList<Kept> m_kept;                  ///< the last one first
+    QHash<xcb_window_t, Frame> m_frames; ///< those that were asked for; they change when a window gets another parent
+    QHash<xcb_window_t, QImage> m_last;  ///< what was last seen of each
 };
 
 } // namespace fendrel

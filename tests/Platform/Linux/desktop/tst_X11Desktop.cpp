@@ -306,7 +306,9 @@ private Q_SLOTS:
         };
         X11PointerGuard guard;
         guard.setEdges({{.side = Side::bottom, .line = 768, .from = 0, .to = 1024}});
+        QVERIFY(xdotool(u"mousemove 500 767"_s));
         QVERIFY(guard.start());
+        QTRY_COMPARE(pointer(), QPoint(500, 765)); // one that rests there already
         const QList<QPair<QString, QPoint>> byBarriers{
             {u"mousemove 500 700 mousemove_relative -- 100 900"_s, {600, 765}}, // stopped on its way
             {u"mousemove_relative -- -150 40"_s, {450, 765}},                   // and slides along

@@ -1,0 +1,113 @@
+import QtQuick
+import Fendrel.Style
+import Fendrel.Types
+
+// Installed applications to add, found by their names. Return takes the first, or the one that the arrows led to.
+FocusScope {
+    id: picker
+
+    required property Colors colors
+    required property EntriesModel candidates
+
+    signal searched(words: string)
+    signal chosen(bundleID: string)
+    signal closed()
+
+    readonly property int rowHeight: 40
+    implicitHeight: field.height + 8 + results.height
+
+    Component.onDestruction: searched("")
+    Keys.onEscapePressed: closed()
+
+    InputField {
+        id: field
+        width: parent.width
+        colors: picker.colors
+        focus: true
+        name: qsTr("Search applications")
+        placeholder: name
+        onEdited: text => picker.searched(text)
+        Keys.onDownPressed: results.forceActiveFocus(Qt.TabFocusReason)
+        onAccepted: (results.itemAtIndex(0) as Candidate)?.take()
+    }
+
+    component Candidate: Item {
+        id: candidate
+        required property string entryID
+        required property string name
+        required property string icon
+        width: ListView.view.width
+        height: picker.rowHeight
+        Accessible.role: Accessible.ListItem
+        Accessible.name: name
+        Accessible.focusable: true
+        Accessible.onPressAction: take()
+        Keys.onReturnPressed: take()
+        Keys.onSpacePressed: take()
+        function take() { picker.chosen(entryID) }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: 8
+            color: candidate.activeFocus ? picker.colors.accent : hover.hovered ? picker.colors.hover : "transparent"
+        }
+        Image {
+            x: 10
+            anchors.verticalCenter: parent.verticalCenter
+            width: 24
+            height: 24
+            sourceSize { width: 48; height: 48 }
+            source: candidate.icon
+            asynchronous: true
+            mipmap: true
+        }
+        Label {
+            anchors { left: parent.left; leftMargin: 44; right: mark.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
+            colors: picker.colors
+            color: candidate.activeFocus ? "white" : picker.colors.text
+            text: candidate.name
+            Accessible.ignored: true
+        }
+        Symbol {
+            id: mark
+            anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+            name: "plus"
+            size: 15
+            visible: hover.hovered || candidate.activeFocus
+            color: candidate.activeFocus ? "white" : picker.colors.secondaryText
+        }
+        HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }
+        TapHandler { onTapped: candidate.take() }
+    }
+
+    ListView {
+        id: results
+        anchors.top: field.bottom
+        anchors.topMargin: 8
+        width: parent.width
+        height: picker.rowHeight * Math.max(1, Math.min(5.5, count))
+        model: picker.candidates
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        keyNavigationEnabled: true
+        activeFocusOnTab: true
+        highlightMoveDuration: 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Installed applications")
+        delegate: Candidate {}
+        Keys.onUpPressed: event => {
+            if (currentIndex <= 0)
+                field.forceActiveFocus(Qt.BacktabFocusReason)
+            else
+                event.accepted = false
+        }
+
+        Label {
+            anchors.centerIn: parent
+            visible: results.count === 0
+            colors: picker.colors
+            color: picker.colors.secondaryText
+            text: qsTr("No other application is found")
+        }
+    }
+}
