@@ -157,6 +157,20 @@ class Plank(DockTest):
         self.assertEqual(self.now(), before)
         self.assertNotIn("savedDockSettings", (harness.CONFIG / "Settings.json").read_text())
 
+    def test_the_display_gone(self):
+        before = self.now()
+        changes = Lines("dconf", "watch", PLANK)
+        self.addCleanup(changes.end)
+        display = Lines("Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-noreset")
+        self.addCleanup(display.end)
+        fendrel = self.start(DISPLAY=":" + display.expect("its number", str.isdigit))
+        fendrel.do("dock", "replace", "on")
+        changes.expect("it is hidden", lambda line: "unhide-delay=1000000" in self.now())
+        fendrel.end(display.process.terminate, status=1)
+        changes.expect("it is back", lambda line: self.now() == before)
+        subprocess.run([harness.PROGRAMS / "fendrel", "--restore-dock"], check=True)  # once the other one has ended
+        self.assertNotIn("savedDockSettings", (harness.CONFIG / "Settings.json").read_text())
+
 
 class XfcePanel(DockTest):
     def setUp(self):

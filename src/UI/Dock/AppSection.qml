@@ -66,9 +66,13 @@ ScrollStrip {
         margin: section.wave.isUp ? section.highestRise : 0
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad | PointerDevice.Stylus
         onActiveChanged: {
-            isLetGo = !active
             if (!active) {
-                Qt.callLater(letGo)
+                // One that is broken off, as by another mode, has its button down still.
+                if (section.panel.isButtonDown())
+                    section.drops.end()
+                else
+                    section.drops.drop()
+                section.panel.releaseKeyboard()
                 return
             }
             const row = section.row
@@ -82,20 +86,6 @@ ScrollStrip {
             carry()
         }
         onCentroidChanged: if (active) carry()
-        // A drag that is broken off ends like any other, and only then says what it was.
-        property bool isLetGo: false
-        onCanceled: {
-            isLetGo = false
-            section.drops.end()
-            section.panel.releaseKeyboard()
-        }
-        function letGo() {
-            if (!isLetGo)
-                return
-            isLetGo = false
-            section.drops.drop()
-            section.panel.releaseKeyboard()
-        }
         function carry() {
             section.drops.moveTo(section.hand.x, section.hand.y)
         }

@@ -65,6 +65,8 @@ DockPanel::~DockPanel() {
 void DockPanel::place(const Display& display) {
     m_destination = display;
     const bool isElsewhere = display.id != m_display.id || m_dock.edge() != m_edge;
+    if (isElsewhere || display.frame != m_display.frame)
+        Q_EMIT leaves();
     if (m_departure)
         return;
     if (!isElsewhere || !canSlideAway()) {
@@ -276,6 +278,10 @@ void DockPanel::updateMask() {
 
 bool DockPanel::event(QEvent* event) {
     return m_motion.holdsBack(*event) || QQuickView::event(event);
+}
+
+bool DockPanel::isButtonDown() const {
+    return QGuiApplication::mouseButtons() != Qt::NoButton;
 }
 
 void DockPanel::takeKeyboard() {

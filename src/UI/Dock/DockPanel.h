@@ -76,6 +76,7 @@ public:
     Q_INVOKABLE void openBeside(fendrel::BesideWindow* window, const QRectF& item, double gap, const QRectF& input);
     /// Whether a point of this window is on another display's bar, or `near` pixels from it.
     Q_INVOKABLE bool isOverOther(const QPointF& point, int near) const;
+    Q_INVOKABLE bool isButtonDown() const; ///< of the pointer, wherever it is
     Q_INVOKABLE void menuClosed() { m_keyboard.resume(); }
     Q_INVOKABLE QPointF pointer() const; ///< where it is, in the window
 
@@ -89,6 +90,7 @@ Q_SIGNALS:
     void heldChanged();
     void touchableChanged();
     void keyboardTaken();
+    void leaves(); ///< for another place: what is being done with it here is over
     void keyboardChanged();
 
 protected:

@@ -210,6 +210,11 @@ FocusScope {
         }
     }
 
+    Connections {
+        target: root.panel
+        function onLeaves() { drops.end() }
+    }
+
     DockDrops {
         id: drops
         panel: root.panel
