@@ -27,7 +27,8 @@ QtObject {
     readonly property int leastWordsRoom: Math.min(fullWordsRoom, 80)
     readonly property int easyIconSize: Math.min(fullIconSize, 40) // down to which words keep their room
 
-    readonly property bool isCompact: free - steady - leastWordsRoom - pillsLength(36, nameLength) < leastApps
+    // As if there were four applications at least: else the bar's depth would change with the second or third.
+    readonly property bool isCompact: free - steady - leastWordsRoom - pillsLength(36, nameLength) < Math.max(leastApps, 4 * (leastIconSize + iconRoom))
     readonly property int pillSize: isCompact ? 30 : 36
 
     // For the applications and the words.
