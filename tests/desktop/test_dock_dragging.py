@@ -125,6 +125,7 @@ class Dragging(harness.DesktopTest):
 
     def test_the_dock_of_another_display(self):
         """Not away from the dock: what is let go there goes back."""
+        self.fendrel.do("settings", "set", "dockSize", "small")  # all three fit half of the screen
         self.fendrel.do("settings", "set", "dockDisplay", "all")
         self.addCleanup(arrange, {})
         arrange(BESIDE)
