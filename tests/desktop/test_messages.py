@@ -112,7 +112,7 @@ class Messages(harness.DesktopTest):
         fendrel.do("dock", "focus")
         press("Right", "Right", "Menu")
         fendrel.do("status")  # answered once the menu has the keyboard
-        press("End", "Up", "Up", "Return")
+        press("End", "Up", "Up", "Up", "Return")
         EAR.expect("the list", lambda: stacking(CARDS))
         fendrel.do("status")  # and now the list has it
         press("End", "Return")
