@@ -49,7 +49,12 @@ X11Connection::X11Connection(Connected connection, int screenNumber, Clock& cloc
     flush();
 }
 
-X11Connection::~X11Connection() = default;
+X11Connection::~X11Connection() {
+    // A socket that is closed with events unread is reset, and the server drops what it had not read of ours. An answer
+    // shows that it has.
+    const XcbPointer<xcb_get_input_focus_reply_t> all{
+        xcb_get_input_focus_reply(xcb(), xcb_get_input_focus(xcb()), nullptr)};
+}
 
 void X11Connection::internAtoms() {
     std::array<xcb_intern_atom_cookie_t, x11AtomNames.size()> cookies{};

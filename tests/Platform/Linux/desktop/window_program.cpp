@@ -173,6 +173,7 @@ int main(int argc, char** argv) {
     const bool isObedient = argc < 3; // with a second argument it only waits
     std::string waiting;
     for (;;) {
+        program.handleEvents(); // what came along with an answer makes nothing readable
         fd_set readable;
         FD_ZERO(&readable);
         FD_SET(program.descriptor(), &readable);
@@ -180,7 +181,6 @@ int main(int argc, char** argv) {
             FD_SET(STDIN_FILENO, &readable);
         if (select(program.descriptor() + 1, &readable, nullptr, nullptr, nullptr) < 0)
             return 1;
-        program.handleEvents();
         if (!isObedient || !FD_ISSET(STDIN_FILENO, &readable))
             continue;
         char buffer[512];
@@ -194,6 +194,5 @@ int main(int argc, char** argv) {
             program.settle();
             std::cout << "done" << std::endl;
         }
-        program.handleEvents();
     }
 }
