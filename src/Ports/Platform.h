@@ -10,12 +10,15 @@
 #include "Ports/HttpClient.h"
 #include "Ports/IdleTime.h"
 #include "Ports/LanguageModel.h"
+#include "Ports/LoginItem.h"
 #include "Ports/NotificationBanners.h"
 #include "Ports/NotificationLog.h"
 #include "Ports/Panels.h"
 #include "Ports/PointerGuard.h"
+#include "Ports/SecretStore.h"
 #include "Ports/SettingsStore.h"
 #include "Ports/Shell.h"
+#include "Ports/SoundPlayer.h"
 #include "Ports/StatusArea.h"
 #include "Ports/SystemDock.h"
 #include "Ports/SystemLook.h"
@@ -69,6 +72,9 @@ struct Platform {
     std::unique_ptr<LanguageModel> languageModel{};
     std::unique_ptr<NotificationLog> notificationLog{};
     std::unique_ptr<NotificationBanners> notificationBanners{};
+    std::unique_ptr<SecretStore> secrets{};
+    std::unique_ptr<LoginItem> loginItem{};
+    std::unique_ptr<SoundPlayer> sounds{};
     std::unique_ptr<HttpClient> http{};
 };
 

@@ -11,6 +11,7 @@ public:
     virtual bool isDark() const = 0;
     virtual bool reducesMotion() const = 0;
     virtual bool increasesContrast() const = 0;
+    virtual double textScale() const = 0; ///< factor on the size of text, 1 for the usual one
     std::function<void()> onChanged = [] {};
 };
 

@@ -19,6 +19,8 @@ Q_IMPORT_QML_PLUGIN(Fendrel_StylePlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_DockPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_FocusPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_MessagesPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_ModesPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_SettingsPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_SetupPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_TrayPlugin)
 
@@ -197,7 +199,7 @@ void Interface::showSettings(const QString& pane, const QString& modeID) {
         m_settings.modeEditor()->edit(modeID);
     if (!m_settingsWindow) {
         m_settingsWindow = std::make_unique<Dialog>(
-            m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Setup/SettingsView.qml"_s,
+            m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Settings/SettingsView.qml"_s,
             QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, QSize(820, 600));
         m_settingsWindow->onClosed = [this] { m_settingsWindow.release()->deleteLater(); };
     }

@@ -11,7 +11,7 @@
 #include "UI/Messages/CardsPanel.h"
 #include "UI/Messages/MessagesController.h"
 #include "UI/Setup/FirstRunController.h"
-#include "UI/Setup/SettingsController.h"
+#include "UI/Settings/SettingsController.h"
 
 #include <QQmlEngine>
 #include <QString>

@@ -9,6 +9,7 @@ public:
     bool isDark() const override { return m_isDark; }
     bool reducesMotion() const override { return false; }
     bool increasesContrast() const override { return false; }
+    double textScale() const override { return 1; }
 
     void setDark(bool isDark) {
         m_isDark = isDark;

@@ -9,12 +9,15 @@
 #include "Platform/Null/NullHttpClient.h"
 #include "Platform/Null/NullIdleTime.h"
 #include "Platform/Null/NullLanguageModel.h"
+#include "Platform/Null/NullLoginItem.h"
 #include "Platform/Null/NullNotificationBanners.h"
 #include "Platform/Null/NullNotificationLog.h"
 #include "Platform/Null/NullPanels.h"
 #include "Platform/Null/NullPointerGuard.h"
+#include "Platform/Null/NullSecretStore.h"
 #include "Platform/Null/NullSettingsStore.h"
 #include "Platform/Null/NullShell.h"
+#include "Platform/Null/NullSoundPlayer.h"
 #include "Platform/Null/NullStatusArea.h"
 #include "Platform/Null/NullSystemDock.h"
 #include "Platform/Null/NullSystemLook.h"
@@ -49,6 +52,9 @@ inline Platform nullPlatform() {
         .languageModel = std::make_unique<NullLanguageModel>(),
         .notificationLog = std::make_unique<NullNotificationLog>(),
         .notificationBanners = std::make_unique<NullNotificationBanners>(),
+        .secrets = std::make_unique<NullSecretStore>(),
+        .loginItem = std::make_unique<NullLoginItem>(),
+        .sounds = std::make_unique<NullSoundPlayer>(),
         .http = std::make_unique<NullHttpClient>(),
     };
 }

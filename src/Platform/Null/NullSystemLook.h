@@ -9,6 +9,7 @@ public:
     bool isDark() const override { return false; }
     bool reducesMotion() const override { return false; }
     bool increasesContrast() const override { return false; }
+    double textScale() const override { return 1; }
 };
 
 } // namespace fendrel

@@ -112,6 +112,10 @@ void DockPanel::arrive() {
         Q_EMIT edgeChanged();
     m_departure.reset();
     if (source().isEmpty()) {
+        // The window manager has its work with the window while the view is loaded. Where nothing blends windows, it
+        // would be seen empty.
+        if (isTransparent())
+            show();
         setSource(QUrl(u"qrc:/qml/Fendrel/Dock/DockView.qml"_s));
         show();
     }

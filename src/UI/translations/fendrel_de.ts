@@ -293,7 +293,7 @@
     </message>
 </context>
 <context>
-    <name>DockSettings</name>
+    <name>DockPane</name>
     <message>
         <source>Replace the system dock</source>
         <translation>Dock des Systems ersetzen</translation>
@@ -676,7 +676,7 @@
     </message>
 </context>
 <context>
-    <name>ModeSettings</name>
+    <name>ModesView</name>
     <message>
         <source>Mode to edit</source>
         <translation>Modus zum Bearbeiten</translation>

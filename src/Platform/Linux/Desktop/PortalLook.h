@@ -23,6 +23,7 @@ struct Look {
     bool isDark{};
     bool reducesMotion{};
     bool increasesContrast{};
+    double textScale{1};
     bool operator==(const Look&) const = default;
 };
 
@@ -40,6 +41,7 @@ public:
     bool isDark() const override { return m_look.isDark; }
     bool reducesMotion() const override { return m_look.reducesMotion; }
     bool increasesContrast() const override { return m_look.increasesContrast; }
+    double textScale() const override { return m_look.textScale; }
 
 private:
     void ask();

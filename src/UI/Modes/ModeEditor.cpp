@@ -1,4 +1,4 @@
-#include "UI/Setup/ModeEditor.h"
+#include "UI/Modes/ModeEditor.h"
 
 #include "App/AppController.h"
 #include "Modes/SiteName.h"

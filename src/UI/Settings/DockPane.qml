@@ -6,8 +6,8 @@ import Fendrel.Types
 Column {
     id: page
 
-    required property Colors colors
     required property SettingsController settings
+    required property Colors colors
     readonly property Preferences preferences: settings.preferences
 
     width: parent?.width ?? 0

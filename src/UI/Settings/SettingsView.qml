@@ -15,11 +15,14 @@ FocusScope {
     }
 
     readonly property var panes: [
-        { id: "general", name: qsTr("General"), symbol: "gearshape", view: general },
-        { id: "dock", name: qsTr("Dock"), symbol: "list.bullet", view: dock },
-        { id: "appearance", name: qsTr("Appearance"), symbol: "paintbrush", view: appearance },
-        { id: "modes", name: qsTr("Modes"), symbol: "square.stack", view: modes },
-        { id: "about", name: qsTr("About"), symbol: "questionmark.circle", view: about },
+        { id: "general", name: qsTr("General"), symbol: "gearshape", file: "GeneralPane.qml" },
+        { id: "dock", name: qsTr("Dock"), symbol: "list.bullet", file: "DockPane.qml" },
+        { id: "appearance", name: qsTr("Appearance"), symbol: "paintbrush", file: "AppearancePane.qml" },
+        { id: "widgets", name: qsTr("Widgets"), symbol: "square.stack", file: "WidgetsPane.qml" },
+        { id: "modes", name: qsTr("Modes"), symbol: "square.stack", file: "ModesPane.qml" },
+        { id: "accounts", name: qsTr("Accounts"), symbol: "person", file: "AccountsPane.qml" },
+        { id: "permissions", name: qsTr("Permissions"), symbol: "checkmark", file: "PermissionsPane.qml" },
+        { id: "about", name: qsTr("About"), symbol: "questionmark.circle", file: "AboutPane.qml" },
     ]
     // A pane that has no page yet leads to the first.
     readonly property int current: Math.max(0, panes.findIndex(pane => pane.id === settings.pane))
@@ -139,104 +142,13 @@ FocusScope {
                 Accessible.name: text
             }
             Loader {
+                id: pane
                 width: parent.width
-                sourceComponent: root.panes[root.current].view
+                readonly property string file: root.panes[root.current].file
+                onFileChanged: show()
+                Component.onCompleted: show()
+                function show() { setSource(file, { settings: root.settings, colors: viewColors }) }
             }
-        }
-    }
-
-    Component {
-        id: general
-        Column {
-            width: parent?.width ?? 0
-            spacing: 18
-            SettingsGroup {
-                colors: viewColors
-                SettingRow {
-                    colors: viewColors
-                    label: qsTr("Strictness")
-                    help: [qsTr("Switching modes during focus never waits."), qsTr("Switching modes during focus waits as long as the mode says."), qsTr("Modes with a wait take at least half a minute to enter during focus.")][root.preferences.strictness]
-                    Choice {
-                        colors: viewColors
-                        name: qsTr("Strictness")
-                        labels: [qsTr("Gentle"), qsTr("Balanced"), qsTr("Strict")]
-                        current: root.preferences.strictness
-                        onChosen: index => root.preferences.strictness = index
-                    }
-                }
-                SettingRow {
-                    colors: viewColors
-                    label: qsTr("Tidy up when switching")
-                    help: qsTr("Hides the applications that don't belong to the new mode.")
-                    Toggle { colors: viewColors; name: qsTr("Tidy up when switching"); isOn: root.preferences.tidyOnSwitch; onToggled: on => root.preferences.tidyOnSwitch = on }
-                }
-                SettingRow {
-                    colors: viewColors
-                    label: qsTr("Offer to send crash reports")
-                    help: qsTr("Asks after a crash, and opens your mail app with the report for you to read first.")
-                    Toggle { colors: viewColors; name: qsTr("Offer to send crash reports"); isOn: root.preferences.crashReports; onToggled: on => root.preferences.crashReports = on }
-                }
-            }
-            MessageSettings {
-                colors: viewColors
-                settings: root.settings
-            }
-        }
-    }
-
-    Component {
-        id: dock
-        DockSettings {
-            colors: viewColors
-            settings: root.settings
-        }
-    }
-
-    Component {
-        id: appearance
-        Column {
-            width: parent.width
-            spacing: 18
-
-            Flow {
-                width: parent.width
-                spacing: 14
-                Repeater {
-                    model: root.settings.presets
-                    LookCard {
-                        required property var modelData
-                        colors: viewColors
-                        look: modelData
-                        onChosen: root.settings.choosePreset(modelData.name)
-                    }
-                }
-            }
-            SettingsGroup {
-                colors: viewColors
-                SettingRow {
-                    colors: viewColors
-                    label: qsTr("Match light and dark mode")
-                    help: qsTr("The dock has a look of its own for each, and changes with the desktop.")
-                    Toggle { colors: viewColors; name: qsTr("Match light and dark mode"); isOn: root.preferences.matchSystem; onToggled: on => root.preferences.matchSystem = on }
-                }
-            }
-        }
-    }
-
-    Component {
-        id: modes
-        ModeSettings {
-            colors: viewColors
-            editor: root.settings.modeEditor
-        }
-    }
-
-    Component {
-        id: about
-        SettingsGroup {
-            colors: viewColors
-            SettingRow { colors: viewColors; label: qsTr("Fendrel %1").arg(root.settings.version); help: qsTr("Free software under the GNU General Public License, version 3 or later.") }
-            SettingRow { colors: viewColors; label: qsTr("Your data stays here"); help: qsTr("What Fendrel learns about your work never leaves this computer.") }
         }
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "App/Preferences.h"
-#include "UI/Setup/ModeEditor.h"
+#include "UI/Modes/ModeEditor.h"
 
 #include <QObject>
 #include <QVariantList>

@@ -1,5 +1,4 @@
 import QtQuick
-import Fendrel.Style
 
 // A setting: its label, one sentence of help, and its control at the right.
 Item {

@@ -1,4 +1,4 @@
-#include "UI/Setup/EntriesModel.h"
+#include "UI/Modes/EntriesModel.h"
 
 #include "UI/SyncRows.h"
 

@@ -2,7 +2,7 @@
 
 #include "Modes/Mode.h"
 #include "UI/Dock/ModesModel.h"
-#include "UI/Setup/EntriesModel.h"
+#include "UI/Modes/EntriesModel.h"
 
 #include <QObject>
 #include <QVariantList>

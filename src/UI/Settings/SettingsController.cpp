@@ -1,4 +1,4 @@
-#include "UI/Setup/SettingsController.h"
+#include "UI/Settings/SettingsController.h"
 
 #include "App/AppController.h"
 

@@ -1,5 +1,4 @@
 import QtQuick
-import Fendrel.Style
 
 // Settings that belong together, on one card.
 Item {

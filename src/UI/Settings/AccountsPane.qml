@@ -1,0 +1,14 @@
+import QtQuick
+import Fendrel.Style
+import Fendrel.Types
+
+// The pane of the accounts that widgets use.
+Column {
+    id: page
+
+    required property SettingsController settings
+    required property Colors colors
+
+    width: parent?.width ?? 0
+    spacing: 18
+}
