@@ -18,13 +18,13 @@ namespace {
 
 constexpr int count = 10'000;
 
-QHash<QString, Verdict> entries() {
-    QHash<QString, Verdict> all;
+LearnedAnswers entries() {
+    LearnedAnswers all;
     for (int number = 0; number < count; ++number) {
-        all.insert(u"host%1.example.com"_s.arg(number * 7919 % 100'003), Verdict{.modeID = u"building"_s,
-                                                                                 .certainty = Certainty::likely,
-                                                                                 .what = u"API docs"_s,
-                                                                                 .source = Source::model});
+        all.insert(u"host%1.example.com"_s.arg(number * 7919 % 100'003), LearnedAnswer{{.modeID = u"building"_s,
+                                                                                        .certainty = Certainty::likely,
+                                                                                        .what = u"API docs"_s,
+                                                                                        .source = Source::model}});
     }
     return all;
 }
@@ -42,9 +42,9 @@ void encodeAsObject(benchmark::State& state) {
     for (auto _ : state) {
         QJsonObject object;
         for (auto entry = all.begin(); entry != all.end(); ++entry)
-            object.insert(entry.key(), QJsonObject{{u"modeID"_s, *entry->modeID},
+            object.insert(entry.key(), QJsonObject{{u"modeID"_s, *entry->verdict.modeID},
                                                    {u"certainty"_s, u"likely"_s},
-                                                   {u"what"_s, entry->what},
+                                                   {u"what"_s, entry->verdict.what},
                                                    {u"source"_s, u"model"_s}});
         benchmark::DoNotOptimize(QJsonDocument(object).toJson(QJsonDocument::Compact));
     }
@@ -83,7 +83,7 @@ void answerAndSave(benchmark::State& state) {
     VerdictCache cache(folder.path(), disk);
     int number = 0;
     for (auto _ : state) {
-        cache.insert(u"new%1"_s.arg(++number % 100), {.what = u"API docs"_s});
+        cache.insert(u"new%1"_s.arg(++number % 100), {{.what = u"API docs"_s}});
         cache.save();
     }
 }

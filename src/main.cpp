@@ -1,5 +1,6 @@
 #include "App/AppController.h"
 #include "Base/Log.h"
+#include "Base/RecentLog.h"
 #include "Control/ControlClient.h"
 #include "Control/ControlServer.h"
 #include "Control/InstanceLock.h"
@@ -168,9 +169,11 @@ int main(int argc, char* argv[]) {
         return fail(u"the folder %1 cannot be written"_s.arg(folders.data));
 
     const CrashReporter crashes(folders.crashes);
+    const RecentLog log;
     QGuiApplication::setFont(QFont(u"Inter"_s));
 
     Platform platform = makePlatform();
+    platform.recentLog = [&log] { return log.lines(); };
     AppController controller(platform);
     controller.onQuit = [] { QCoreApplication::exit(); };
     QuitRequests quitRequests(controller);

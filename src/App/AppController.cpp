@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "Focus/HostManifests.h"
+#include "Widgets/DockWidget.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,13 +20,15 @@ AppController::AppController(Platform& platform)
     : m_platform(platform),
       m_replacement(*platform.systemDock, *platform.pointerGuard, *platform.displays, *platform.settings,
                     *platform.clock),
-      m_store(platform.folders.data, *platform.disk),
+      m_store(platform.folders.data, *platform.disk,
+              [](const QString& widget) { return enumValue<DockWidget>(widget).has_value(); }),
       m_engine(m_store, *platform.settings, *platform.clock, ModeCatalog::with(platform.applications->nativeApps()),
                [&platform](const QString& bundleID) { return platform.applications->location(bundleID).has_value(); }),
       m_budget(*platform.settings, *platform.clock, *platform.idleTime),
       m_preferences(*platform.settings, *platform.look),
       m_focus(*platform.settings, *platform.clock),
       m_messages(*platform.notificationLog, *platform.languageModel, *platform.clock, m_engine.catalog().sharedApps),
+      m_accounts(*platform.secrets),
       m_titles(*platform.accessibility),
       m_bridge(*platform.applications, platform.isPeerOwnUser),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
@@ -40,7 +43,11 @@ AppController::AppController(Platform& platform)
       m_browserStates(m_engine, m_classifier, m_focus, m_drift.sites(), m_bridge),
       m_router(m_titles, m_classifier, m_drift),
       m_tidyUp(m_workspace, m_engine.catalog()),
-      m_feedback(*platform.settings, *platform.shell, platform.folders.crashes) {}
+      m_seen(*platform.settings, *platform.clock),
+      m_hotKeys(*platform.hotKeys),
+      m_feedback(*platform.settings, *platform.shell, platform.folders.crashes),
+      m_backup(m_engine, m_preferences, *platform.settings, m_classifier, *platform.clock, *platform.disk,
+               platform.folders.data) {}
 
 void AppController::launch(const QString& settingsPane) {
     wire();
@@ -69,16 +76,39 @@ void AppController::start() {
 }
 
 void AppController::registerHotKeys() {
-    if (std::exchange(m_dockShortcut, m_preferences.dockShortcut()) == m_preferences.dockShortcut())
-        return;
-    m_dockHotKey.reset();
-    if (!m_dockShortcut)
-        return;
-    auto taken = m_platform.hotKeys->grab(m_dockShortcut->modifiers, m_dockShortcut->key, [this] { focusDock(); });
-    if (taken)
-        m_dockHotKey = *std::move(taken);
-    else
-        qCInfo(logDesktop).noquote() << "The hot key" << m_dockShortcut->label() << "is another program's";
+    m_hotKeys.apply(hotKeyPlan({.focus = m_preferences.focusShortcut(),
+                                .dock = m_preferences.dockShortcut(),
+                                .modeModifiers = m_preferences.modeModifiers(),
+                                .appModifiers = m_preferences.appModifiers(),
+                                .modes = static_cast<int>(m_engine.modes().size()),
+                                .apps = m_dockApps}));
+}
+
+void AppController::hotKeyPressed(const HotKeyAction& action) {
+    switch (action.kind) {
+    case HotKeyAction::Kind::switchMode:
+        if (action.index < m_engine.modes().size())
+            m_engine.requestSwitch(Mode(m_engine.modes()[action.index]));
+        break;
+    case HotKeyAction::Kind::toggleFocus:
+        if (m_focus.isOn())
+            m_focus.stop();
+        else
+            m_focus.start();
+        break;
+    case HotKeyAction::Kind::focusDock:
+        m_platform.hotKeys->yieldKeyboard();
+        focusDock();
+        break;
+    case HotKeyAction::Kind::openApp:
+        onOpenDockApp(action.index);
+        break;
+    }
+}
+
+void AppController::dockAppsChanged(int count) {
+    m_dockApps = count;
+    registerHotKeys();
 }
 
 void AppController::installHostManifests() {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "App/Alert.h"
+#include "App/Backup.h"
 #include "App/EventRouter.h"
 #include "App/Feedback.h"
+#include "App/HotKeyRegistry.h"
 #include "App/Preferences.h"
 #include "App/TidyUp.h"
 #include "App/Workspace.h"
@@ -19,11 +21,13 @@
 #include "Focus/DriftHandling.h"
 #include "Focus/FocusSession.h"
 #include "Focus/Gate.h"
+#include "Focus/SeenApps.h"
 #include "Focus/WindowTitles.h"
 #include "Messages/HeldMessages.h"
 #include "Modes/ModeEngine.h"
 #include "Modes/ModeStore.h"
 #include "Ports/Platform.h"
+#include "Widgets/WidgetAccounts.h"
 
 #include <QObject>
 
@@ -43,11 +47,12 @@ public:
     // What the interface does for the controller
     std::function<void()> onShowOnboarding = [] {};
     std::function<void(const QString& pane)> onShowSettings = [](const QString&) {};
-    std::function<void(const QString& modeID)> onEditMode = [](const QString&) {}; ///< show the mode in the settings
+    std::function<void(const QString& modeID)> onShowModes = [](const QString&) {};
     std::function<void(const Alert&)> onAlert = [](const Alert&) {};
     std::function<void()> onLayoutDocks = [] {}; ///< make the panels match `dockScreens`
     std::function<void()> onAttention = [] {};   ///< the user started the program once more
     std::function<void()> onFocusDock = [] {};   ///< lead the keyboard to the dock
+    std::function<void(int index)> onOpenDockApp = [](int) {};
     std::function<void()> onQuit = [] {};
 
     /// Everything that happens once, after the hooks are set. A known pane opens the settings there.
@@ -56,7 +61,8 @@ public:
 
     static const QStringList& settingsPanes();
     void showSettings(const QString& pane); ///< an unknown pane opens nothing
-    void editMode(const QString& modeID) { onEditMode(modeID); }
+    /// Opens the window of the modes at one of them; an unknown one leaves it where it is.
+    void showModes(const QString& modeID = {}) { onShowModes(modeID); }
     /// The program was started a second time, perhaps for a settings pane.
     void startedAgain(const QString& settingsPane);
 
@@ -72,6 +78,7 @@ public:
     void dockHoldChanged(const QString& displayID, bool isHeld); ///< a menu of the dock opened or closed
     void updateAutoHide();
     void focusDock() { onFocusDock(); }
+    void dockAppsChanged(int count); ///< as many applications stand in the dock now
     /// Replaces the system's dock, after the user agreed to it, or gives it back at once.
     void askToReplaceDock(bool on);
     void setReplacesDock(bool on);
@@ -85,6 +92,7 @@ public:
     Preferences& preferences() { return m_preferences; }
     FocusSession& focus() { return m_focus; }
     HeldMessages& messages() { return m_messages; }
+    WidgetAccounts& accounts() { return m_accounts; }
     WindowTitles& titles() { return m_titles; }
     BrowserBridge& bridge() { return m_bridge; }
     Workspace& workspace() { return m_workspace; }
@@ -94,17 +102,22 @@ public:
     MinimizedWindows& minimized() { return m_minimized; }
     DockUndo& undo() { return m_undo; }
     DockEdits& edits() { return m_edits; }
+    Backup& backup() { return m_backup; }
+    const SeenApps& seen() const { return m_seen; }
+    HotKeyRegistry& hotKeys() { return m_hotKeys; }
 
 Q_SIGNALS:
     void dockVisibilityChanged();
     void windowsChanged(); ///< some window of another application came, went or changed its state
     void badgesChanged();
     void onboardingChanged();
+    void surroundingsChanged(); ///< the desktop's status area or compositor came or went
 
 private:
     void wire();
     void start();
     void registerHotKeys();
+    void hotKeyPressed(const HotKeyAction& action);
     void installHostManifests();
     void layoutDocks();
     void scheduleDockTimer();
@@ -112,6 +125,7 @@ private:
     void updateActiveDisplay();
     void updateBanners();
     void chooseModel();
+    void play(Sound sound); ///< if the user wants sounds
     void modeDidChange(const Mode& mode);
     void focusDidChange(bool isOn);
     std::optional<Mode> spendingMode() const;
@@ -124,6 +138,7 @@ private:
     Preferences m_preferences;
     FocusSession m_focus;
     HeldMessages m_messages;
+    WidgetAccounts m_accounts;
     WindowTitles m_titles;
     BrowserBridge m_bridge;
     Workspace m_workspace;
@@ -136,14 +151,16 @@ private:
     BrowserStates m_browserStates;
     EventRouter m_router;
     TidyUp m_tidyUp;
+    SeenApps m_seen;
+    HotKeyRegistry m_hotKeys;
     Feedback m_feedback;
+    Backup m_backup;
 
     std::shared_ptr<QSet<QString>> m_failedManifests = std::make_shared<QSet<QString>>(); ///< the disk worker's
     std::map<QString, AutoHide> m_autoHide;                                               ///< by display
     std::optional<QString> m_activeDisplay;
     std::optional<Handle> m_dockTimer;
-    std::optional<Shortcut> m_dockShortcut; ///< the one that is taken
-    Handle m_dockHotKey;
+    int m_dockApps = 0;
     bool m_isQuitting = false;
 };
 

@@ -27,7 +27,7 @@ struct DockAppearance {
 public:
     QColor background{0xf7, 0xf7, 0xf9}; ///< opaque
     bool isDark{false};                  ///< text and symbols are light
-    double opacity{0.86};                ///< of the background, 0 to 1
+    double opacity{0.9};                 ///< of the background, 0 to 1
     double cornerRadius{18};             ///< pixels, 0 to 40
     double spacing{6};                   ///< pixels between icons, 0 to 24
     double iconScale{1};                 ///< factor on the size of the icons, 0.75 to 1.5
@@ -37,6 +37,17 @@ public:
     bool blur{true};                     ///< where the compositor can
 
     bool operator==(const DockAppearance&) const = default;
+
+    /// One of its numbers, by name, drawn into its range; nothing else changes. False when there is none of that name.
+    bool set(const QByteArray& field, double value);
+    struct Range {
+        double least{}, most{};
+    };
+    static Range range(const QByteArray& field); ///< of a number; empty when there is none of that name
+
+    QColor text() const { return isDark ? QColor(0xf3, 0xf4, 0xf6) : QColor(0x1c, 0x1d, 0x21); }
+    /// The least contrast that `color` can have on it, whatever lies behind it.
+    double contrast(const QColor& color) const;
 
     struct Preset;
     /// The built-in looks; "Midnight" is among them.
@@ -49,6 +60,12 @@ struct DockAppearance::Preset {
     QString name{};
     DockAppearance look{};
 };
+
+/// Contrast of two opaque colors as WCAG 2 defines it: 1 to 21.
+double contrastRatio(const QColor& one, const QColor& other);
+inline constexpr double readableContrast = 4.5; ///< what WCAG 2 asks of text at level AA
+/// Whether light text is easier to read on a color than dark text.
+bool wantsLightText(const QColor& background);
 
 QByteArray toJson(const DockAppearance& appearance);
 /// Nothing when the text is no JSON object or a member has the wrong type. Members that are missing take their default,

@@ -11,29 +11,49 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// How each kind of setting is read: a function of the store and the key.
+
 template<class Enumeration>
-Enumeration readEnum(const SettingsStore& store, const QString& key, Enumeration fallback) {
-    return enumValue<Enumeration>(store.read<QString>(key).value_or(QString())).value_or(fallback);
+auto choice(Enumeration fallback) {
+    return [fallback](const SettingsStore& store, const QString& key) {
+        return enumValue<Enumeration>(store.read<QString>(key).value_or(QString())).value_or(fallback);
+    };
 }
 
-int readInteger(const SettingsStore& store, const QString& key, int fallback) {
-    return static_cast<int>(store.read<qint64>(key).value_or(fallback));
+auto integer(int fallback) {
+    return [fallback](const SettingsStore& store, const QString& key) {
+        return static_cast<int>(store.read<qint64>(key).value_or(fallback));
+    };
+}
+
+auto text(const QString& fallback = {}) {
+    return [fallback](const SettingsStore& store, const QString& key) {
+        return store.read<QString>(key).value_or(fallback);
+    };
+}
+
+auto offByDefault() {
+    return [](const SettingsStore& store, const QString& key) { return store.flag(key); };
 }
 
 // Only a stored boolean turns off what is on by default.
-bool readOnByDefault(const SettingsStore& store, const QString& key) {
-    return store.read<bool>(key).value_or(true);
+auto onByDefault() {
+    return [](const SettingsStore& store, const QString& key) { return store.read<bool>(key).value_or(true); };
 }
 
-std::optional<Shortcut> readShortcut(const SettingsStore& store, const QString& key, const Shortcut& fallback) {
-    // A user who cleared the hot key keeps it off; only a key that was never written yields the default.
-    if (!store.value(key))
-        return fallback;
-    return shortcutFromJson(store.read<QByteArray>(key).value_or(QByteArray()));
+// A user who cleared the hot key keeps it off; only a key that was never written yields the default.
+auto hotKey(const Shortcut& fallback) {
+    return [fallback](const SettingsStore& store, const QString& key) -> std::optional<Shortcut> {
+        if (!store.value(key))
+            return fallback;
+        return shortcutFromJson(store.read<QByteArray>(key).value_or(QByteArray()));
+    };
 }
 
-DockAppearance readAppearance(const SettingsStore& store, const QString& key, const DockAppearance& fallback) {
-    return dockAppearanceFromJson(store.read<QByteArray>(key).value_or(QByteArray())).value_or(fallback);
+auto look(const DockAppearance& fallback) {
+    return [fallback](const SettingsStore& store, const QString& key) {
+        return dockAppearanceFromJson(store.read<QByteArray>(key).value_or(QByteArray())).value_or(fallback);
+    };
 }
 
 std::optional<QString> digitShortcut(int modifiers, int index) {
@@ -44,40 +64,37 @@ std::optional<QString> digitShortcut(int modifiers, int index) {
 
 } // namespace
 
-Preferences::Preferences(SettingsStore& store, SystemLook& look)
+Preferences::Preferences(SettingsStore& store, SystemLook& systemLook)
     : m_store(store),
-      m_look(look),
-      m_dockSize{u"dockSize"_s, readEnum(store, u"dockSize"_s, DockSize::medium)},
-      m_autoHide{u"autoHide"_s, store.flag(u"autoHide"_s)},
-      m_magnify{u"magnify"_s, readOnByDefault(store, u"magnify"_s)},
-      m_focusGlow{u"focusGlow"_s, store.flag(u"focusGlow"_s)},
-      m_sounds{u"sounds"_s, store.flag(u"sounds"_s)},
-      m_focusShortcut{u"focusShortcut"_s, readShortcut(store, u"focusShortcut"_s,
-                                                     {.keyCode = 3, .modifiers = modifier::option, .key = u"F"_s})},
-      m_dockShortcut{u"dockShortcut"_s,
-                     readShortcut(store, u"dockShortcut"_s,
-                                  {.keyCode = 99, .modifiers = modifier::control, .key = u"F3"_s})},
-      m_modeModifiers{u"modeModifiers"_s, readInteger(store, u"modeModifiers"_s, modifier::option)},
-      m_appModifiers{u"appModifiers"_s, readInteger(store, u"appModifiers"_s, 0)},
-      m_clickToHide{u"clickToHide"_s, store.flag(u"clickToHide"_s)},
-      m_tidyOnSwitch{u"tidyOnSwitch"_s, store.flag(u"tidyOnSwitch"_s)},
-      m_claudePings{u"claudePings"_s, readOnByDefault(store, u"claudePings"_s)},
-      m_crashReports{u"crashReports"_s, store.flag(u"crashReports"_s)},
-      m_breakThrough{u"breakThrough"_s, store.read<QString>(u"breakThrough"_s).value_or(u"urgent, asap"_s)},
-      m_strictness{u"strictness"_s, readEnum(store, u"strictness"_s, Strictness::balanced)},
-      m_dockPosition{u"dockPosition"_s, readEnum(store, u"dockPosition"_s, DockPosition::bottom)},
-      m_dockDisplay{u"dockDisplay"_s, readEnum(store, u"dockDisplay"_s, DockDisplay::main)},
-      m_lightAppearance{u"dockAppearance"_s, readAppearance(store, u"dockAppearance"_s, {})},
-      m_darkAppearance{u"dockAppearanceDark"_s,
-                       readAppearance(store, u"dockAppearanceDark"_s, DockAppearance::preset(u"Midnight"_s).value())},
-      m_matchSystem{u"matchSystemAppearance"_s, store.flag(u"matchSystemAppearance"_s)},
-      m_modelServer{u"modelServer"_s, store.read<QString>(u"modelServer"_s).value_or(QString())},
-      m_modelName{u"modelName"_s, store.read<QString>(u"modelName"_s).value_or(QString())},
-      m_quietBanners{u"quietBanners"_s, store.flag(u"quietBanners"_s)},
-      m_passCritical{u"passCritical"_s, store.flag(u"passCritical"_s)},
-      m_systemIsDark(look.isDark()) {
+      m_look(systemLook),
+      m_dockSize(*this, u"dockSize"_s, choice(DockSize::medium)),
+      m_autoHide(*this, u"autoHide"_s, offByDefault()),
+      m_magnify(*this, u"magnify"_s, onByDefault()),
+      m_focusGlow(*this, u"focusGlow"_s, offByDefault()),
+      m_sounds(*this, u"sounds"_s, offByDefault()),
+      m_focusShortcut(*this, u"focusShortcut"_s, hotKey({.keyCode = 3, .modifiers = modifier::option, .key = u"F"_s})),
+      m_dockShortcut(*this, u"dockShortcut"_s, hotKey({.keyCode = 99, .modifiers = modifier::control, .key = u"F3"_s})),
+      m_modeModifiers(*this, u"modeModifiers"_s, integer(modifier::option)),
+      m_appModifiers(*this, u"appModifiers"_s, integer(0)),
+      m_clickToHide(*this, u"clickToHide"_s, offByDefault()),
+      m_tidyOnSwitch(*this, u"tidyOnSwitch"_s, offByDefault()),
+      m_claudePings(*this, u"claudePings"_s, onByDefault()),
+      m_crashReports(*this, u"crashReports"_s, offByDefault()),
+      m_breakThrough(*this, u"breakThrough"_s, text(u"urgent, asap"_s)),
+      m_strictness(*this, u"strictness"_s, choice(Strictness::balanced)),
+      m_dockPosition(*this, u"dockPosition"_s, choice(DockPosition::bottom)),
+      m_dockDisplay(*this, u"dockDisplay"_s, choice(DockDisplay::main)),
+      m_lightAppearance(*this, u"lightAppearance"_s, look({}), u"dockAppearance"_s),
+      m_darkAppearance(*this, u"darkAppearance"_s, look(DockAppearance::preset(u"Midnight"_s).value()),
+                       u"dockAppearanceDark"_s),
+      m_matchSystem(*this, u"matchSystem"_s, offByDefault(), u"matchSystemAppearance"_s),
+      m_modelServer(*this, u"modelServer"_s, text()),
+      m_modelName(*this, u"modelName"_s, text()),
+      m_quietBanners(*this, u"quietBanners"_s, offByDefault()),
+      m_passCritical(*this, u"passCritical"_s, offByDefault()),
+      m_systemIsDark(systemLook.isDark()) {
     Q_ASSERT(QThread::currentThread() == thread());
-    look.onChanged = [this] {
+    m_look.onChanged = [this] {
         m_systemIsDark = m_look.isDark();
         Q_EMIT changed();
     };
@@ -107,8 +124,35 @@ bool Preferences::showsDark() const {
     return matchSystem() && m_editingDark.value_or(m_systemIsDark);
 }
 
-void Preferences::setAppearance(const DockAppearance& look) {
-    change(showsDark() ? m_darkAppearance : m_lightAppearance, look);
+void Preferences::setAppearance(const DockAppearance& look, SettingsStore::Urgency urgency) {
+    change(showsDark() ? m_darkAppearance : m_lightAppearance, look, urgency);
+}
+
+void Preferences::reset(const QStringList& names) {
+    bool isNew = false;
+    for (const Entry& entry : m_entries) {
+        if (!names.contains(entry.name))
+            continue;
+        m_store.remove(entry.key);
+        isNew |= entry.read();
+    }
+    if (isNew)
+        Q_EMIT changed();
+}
+
+QHash<QString, StoredValue> Preferences::values() const {
+    QHash<QString, StoredValue> values;
+    for (const Entry& entry : m_entries)
+        values.insert(entry.key, entry.value());
+    return values;
+}
+
+void Preferences::reload() {
+    bool isNew = false;
+    for (const Entry& entry : m_entries)
+        isNew |= entry.read();
+    if (isNew)
+        Q_EMIT changed();
 }
 
 std::optional<QString> Preferences::modeShortcut(int index) const {

@@ -7,7 +7,9 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace fendrel {
 
@@ -41,7 +43,7 @@ class Preferences : public QObject {
     Q_PROPERTY(fendrel::DockAppearance appearance READ appearance WRITE setAppearance NOTIFY changed)
 
 public:
-    Preferences(SettingsStore& store, SystemLook& look);
+    Preferences(SettingsStore& store, SystemLook& systemLook);
     ~Preferences() override;
 
     DockSize dockSize() const { return m_dockSize.value; }
@@ -100,10 +102,20 @@ public:
     bool systemIsDark() const { return m_systemIsDark; }
     /// Which of the two looks is shown and edited while the user edits one; not stored.
     void setEditingDark(std::optional<bool> editing);
+    std::optional<bool> editingDark() const { return m_editingDark; }
 
     bool showsDark() const;
     const DockAppearance& appearance() const { return showsDark() ? darkAppearance() : lightAppearance(); }
-    void setAppearance(const DockAppearance& look);
+    /// `urgency`: a look that is being dragged about need not be on the disk at each step.
+    void setAppearance(const DockAppearance& look, SettingsStore::Urgency urgency = SettingsStore::Urgency::atOnce);
+
+    /// The defaults apply again to these settings: they are called by their properties' names; the looks are
+    /// `lightAppearance` and `darkAppearance`. Unknown names are passed over.
+    void reset(const QStringList& names);
+    /// Every setting by its key, in the form that the store keeps, also where the default is in force.
+    QHash<QString, StoredValue> values() const;
+    /// Takes over what was changed in the store itself.
+    void reload();
 
     /// The label of the hot key of the mode or of the dock's app at a position, which counts from 0; nothing when
     /// that position has no hot key.
@@ -114,8 +126,33 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// What all settings have in common, whatever they hold.
+    struct Entry {
+        QString name;
+        QString key;
+        std::function<bool()> read; ///< takes over what the store has, or the default; whether that is new
+        std::function<StoredValue()> value;
+    };
+
+    /// A setting enters itself among the others. Start and reset read it the same way.
     template<class Value>
     struct Setting {
+        template<class Reader>
+        Setting(Preferences& owner, const QString& name, const Reader& reader, const QString& storedAs = {})
+            : key(storedAs.isEmpty() ? name : storedAs), value(reader(owner.m_store, key)) {
+            owner.m_entries.append({name, key,
+                                    [this, reader, &store = owner.m_store] {
+                                        const Value before = std::exchange(value, Value(reader(store, key)));
+                                        return !(before == value);
+                                    },
+                                    [this] { return stored(value); }});
+        }
+        Setting(const Setting&) = delete; // the entry points here
+        Setting& operator=(const Setting&) = delete;
+        Setting(Setting&&) = delete;
+        Setting& operator=(Setting&&) = delete;
+        ~Setting() = default;
+
         QString key;
         Value value;
     };
@@ -130,9 +167,10 @@ private:
     static StoredValue stored(Enumeration value) { return enumName(value); }
 
     template<class Value>
-    void change(Setting<Value>& setting, const Value& value) {
+    void change(Setting<Value>& setting, const Value& value,
+                SettingsStore::Urgency urgency = SettingsStore::Urgency::atOnce) {
         // Stored even when it equals the default in force: the user chose it, and defaults may change.
-        m_store.set(setting.key, stored(value));
+        m_store.set(setting.key, stored(value), urgency);
         if (setting.value == value)
             return;
         setting.value = value;
@@ -141,6 +179,7 @@ private:
 
     SettingsStore& m_store;
     SystemLook& m_look;
+    QList<Entry> m_entries;
     Setting<DockSize> m_dockSize;
     Setting<bool> m_autoHide;
     Setting<bool> m_magnify;

@@ -3,6 +3,8 @@
 #include "App/AppController.h"
 #include "Modes/EntryDelay.h"
 
+#include <QCoreApplication>
+
 namespace fendrel {
 
 void AppController::wire() {
@@ -18,6 +20,8 @@ void AppController::wire() {
     };
     applications.onActivated = [this](const std::optional<RunningApp>& app) {
         m_workspace.refreshRunning();
+        if (app && app->isRegular && app->pid != QCoreApplication::applicationPid() && isOnboardingDone())
+            m_seen.cameToFront(app->bundleID);
         m_router.appDidActivate(app);
         updateActiveDisplay();
     };
@@ -33,6 +37,7 @@ void AppController::wire() {
     m_messages.onSwitch = [this](const Mode& mode) { m_engine.requestSwitch(mode); };
     m_messages.onOpen = [this](const QString& bundleID) { m_workspace.open(bundleID); };
     m_messages.breakThrough = [this] { return m_preferences.breakThroughWords(); };
+    m_messages.onShow = [this] { play(Sound::messageLetThrough); };
     m_messages.passCritical = [this] { return m_preferences.passCritical(); };
     connect(&m_messages, &HeldMessages::changed, this, &AppController::updateBanners);
     connect(&m_engine, &ModeEngine::changed, this, [this] {
@@ -64,6 +69,8 @@ void AppController::wire() {
     connect(&m_preferences, &Preferences::changed, this, &AppController::updateBanners);
     connect(&m_preferences, &Preferences::changed, this, &AppController::chooseModel);
     connect(&m_preferences, &Preferences::changed, this, &AppController::registerHotKeys);
+    connect(&m_engine, &ModeEngine::changed, this, &AppController::registerHotKeys);
+    m_hotKeys.onPressed = [this](const HotKeyAction& action) { hotKeyPressed(action); };
     connect(this, &AppController::onboardingChanged, this, &AppController::updateBanners);
     chooseModel();
 
@@ -74,6 +81,10 @@ void AppController::wire() {
     m_engine.onEdit = [this] {
         m_messages.modesEdited();
         m_classifier.checkModel(); // the model is told of the modes
+        m_drift.modesChanged();
+        m_router.judgeFrontAgain();
+    };
+    m_classifier.onForgotten = [this] {
         m_drift.modesChanged();
         m_router.judgeFrontAgain();
     };
@@ -107,12 +118,18 @@ void AppController::updateBanners() {
     m_platform.notificationBanners->setQuiet(isHolding && m_preferences.quietBanners());
 }
 
+void AppController::play(Sound sound) {
+    if (m_preferences.sounds())
+        m_platform.sounds->play(sound);
+}
+
 void AppController::chooseModel() {
     m_platform.languageModel->choose({.server = m_preferences.modelServer(), .model = m_preferences.modelName()});
 }
 
 /// After every committed switch.
 void AppController::modeDidChange(const Mode& mode) {
+    play(Sound::modeSwitch);
     const auto destination = m_messages.modeChanged(mode);
     if (m_preferences.tidyOnSwitch())
         m_tidyUp.tidy(mode);
@@ -127,6 +144,7 @@ void AppController::modeDidChange(const Mode& mode) {
 }
 
 void AppController::focusDidChange(bool isOn) {
+    play(isOn ? Sound::focusStart : Sound::focusStop);
     if (isOn)
         m_router.judgeFrontAgain();
     else

@@ -1,6 +1,8 @@
 #include "Control/CommandHandlers.h"
 
 #include "App/AppController.h"
+#include "Control/AccountCommands.h"
+#include "Control/AnswerCommands.h"
 #include "Control/Duration.h"
 #include "Control/MessageStatus.h"
 #include "Control/SettingsAccess.h"
@@ -94,7 +96,28 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
         {u"settings get"_s, [this](const Request& request) { return getSetting(request.arguments[0]); }},
         {u"settings set"_s,
          [this](const Request& request) { return setSetting(request.arguments[0], request.arguments[1]); }},
+        {u"settings reset"_s,
+         [&controller](const Request& request) {
+             const auto problem = SettingsAccess::reset(controller.preferences(), request.arguments[0]);
+             return problem ? Answer::failure(*problem) : done();
+         }},
         {u"settings open"_s, [this](const Request& request) { return openSettings(request.arguments[0]); }},
+        {u"modes open"_s,
+         [this, &controller](const Request& request) {
+             if (request.arguments.isEmpty()) {
+                 controller.showModes();
+                 return done();
+             }
+             return withMode(request.arguments[0], [&](const QString& id) {
+                 controller.showModes(id);
+                 return done();
+             });
+         }},
+        {u"onboarding show"_s,
+         [&](const Request&) {
+             controller.showOnboarding();
+             return done();
+         }},
         {u"onboarding finish"_s, [this](const Request& request) { return finishOnboarding(request.arguments); }},
         {u"dock focus"_s,
          [&](const Request&) {
@@ -109,6 +132,16 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
              controller.undo().runUndo();
              return done();
          }},
+        {u"answers"_s,
+         [&](const Request& request) -> Answer { return QJsonValue(learnedAnswers(controller, request.arguments)); }},
+        {u"answers forget"_s, [&](const Request& request) { return forgetAnswers(controller.classifier(), request); }},
+        {u"import undo"_s,
+         [&](const Request&) {
+             if (!controller.backup().canUndo())
+                 return Answer::failure(u"nothing was imported in this run"_s);
+             controller.backup().undo();
+             return done();
+         }},
         {u"quit"_s,
          [&](const Request&) {
              controller.quit();
@@ -120,17 +153,45 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
              return done();
          }},
     };
+    m_lateHandlers = {
+        {u"account list"_s,
+         [&](const Request&, const Answered& answered) { return listAccounts(controller.accounts(), answered); }},
+        {u"account set"_s,
+         [&](const Request& request, const Answered& answered) {
+             return setAccount(controller.accounts(), request, answered);
+         }},
+        {u"account remove"_s,
+         [&](const Request& request, const Answered& answered) {
+             return removeAccount(controller.accounts(), request, answered);
+         }},
+        {u"export"_s, [this](const Request& request, const Answered& answered) { return exportTo(request, answered); }},
+        {u"import"_s,
+         [this](const Request& request, const Answered& answered) { return importFrom(request, answered); }},
+    };
 }
 
-Answer CommandHandlers::run(const Request& request) {
-    const auto handler = m_handlers.constFind(request.command);
-    if (handler == m_handlers.constEnd())
-        return Answer::failure(u"unknown command '%1'"_s.arg(request.command));
+void CommandHandlers::run(const Request& request, Answered answered) {
     const Command* known = command(request.command);
-    const auto least = std::ranges::count(known->parameters, Parameter::Count::one, &Parameter::count);
-    if (request.arguments.size() < least)
-        return Answer::failure(u"usage: "_s + usage(*known));
-    return (*handler)(request);
+    const auto least = known ? std::ranges::count(known->parameters, Parameter::Count::one, &Parameter::count) : 0;
+    if (known && request.arguments.size() < least) {
+        answered(Answer::failure(u"usage: "_s + usage(*known)));
+        return;
+    }
+    if (const auto handler = m_handlers.constFind(request.command); handler != m_handlers.constEnd()) {
+        answered((*handler)(request));
+        return;
+    }
+    const auto late = m_lateHandlers.constFind(request.command);
+    if (late == m_lateHandlers.constEnd()) {
+        answered(Answer::failure(u"unknown command '%1'"_s.arg(request.command)));
+        return;
+    }
+    const quint64 number = ++m_lastNumber;
+    m_underWay[number] = (*late)(request, [this, number, answered = std::move(answered)](const Answer& answer) {
+        // Taken out first: whoever is told may end the program.
+        const auto ended = m_underWay.extract(number);
+        answered(answer);
+    });
 }
 
 Answer CommandHandlers::replaceDock(const QString& wish) {
@@ -257,6 +318,26 @@ Answer CommandHandlers::finishOnboarding(const QStringList& templates) {
     }
     m_controller.finishOnboarding(templates);
     return done();
+}
+
+Handle CommandHandlers::exportTo(const Request& request, Answered answered) {
+    return m_controller.backup().write(request.arguments[0], [answered = std::move(answered)](const auto& problem) {
+        answered(problem ? Answer::failure(*problem) : done());
+    });
+}
+
+Handle CommandHandlers::importFrom(const Request& request, Answered answered) {
+    return m_controller.backup().read(request.arguments[0], [this, answered = std::move(answered)](const auto& read) {
+        if (!read) {
+            answered(Answer::failure(read.error()));
+            return;
+        }
+        m_controller.backup().use(*read);
+        answered(QJsonValue(QJsonObject{{u"modes"_s, read->modes.size()},
+                                        {u"settings"_s, read->settings.size()},
+                                        {u"answers"_s, read->answers.size()},
+                                        {u"skipped"_s, read->skipped}}));
+    });
 }
 
 } // namespace fendrel::control

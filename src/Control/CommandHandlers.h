@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/Handle.h"
 #include "Base/Result.h"
 #include "Control/Commands.h"
 
@@ -7,6 +8,7 @@
 #include <QJsonValue>
 
 #include <functional>
+#include <map>
 
 namespace fendrel {
 
@@ -19,12 +21,16 @@ class CommandHandlers {
 public:
     explicit CommandHandlers(AppController& controller);
 
-    Result<QJsonValue, QString> run(const Request& request);
-    QStringList names() const { return m_handlers.keys(); }
+    using Answer = Result<QJsonValue, QString>;
+    using Answered = std::function<void(const Answer&)>;
+
+    /// Answers during the call, or later what waits for the disk; never after the handlers are gone.
+    void run(const Request& request, Answered answered);
+    QStringList names() const { return m_handlers.keys() + m_lateHandlers.keys(); }
 
 private:
-    using Answer = Result<QJsonValue, QString>;
     using Handler = std::function<Answer(const Request&)>;
+    using LateHandler = std::function<Handle(const Request&, Answered)>;
 
     Answer modes() const;
     Answer switchMode(const QString& id);
@@ -33,14 +39,19 @@ private:
     Answer answerAlert(const QString& answer);
     Answer correct(const QString& mode);
     Answer replaceDock(const QString& wish);
-    Answer withMode(const QString& id, const std::function<Answer(const QString& id)>& run);
+    Answer withMode(const QString& id, const std::function<Answer(const QString& id)>& edit);
     Answer getSetting(const QString& name) const;
     Answer setSetting(const QString& name, const QString& text);
     Answer openSettings(const QString& pane);
     Answer finishOnboarding(const QStringList& templates);
+    Handle exportTo(const Request& request, Answered answered);
+    Handle importFrom(const Request& request, Answered answered);
 
     AppController& m_controller;
     QHash<QString, Handler> m_handlers;
+    QHash<QString, LateHandler> m_lateHandlers;
+    std::map<quint64, Handle> m_underWay; ///< by number
+    quint64 m_lastNumber = 0;
 };
 
 } // namespace control

@@ -12,6 +12,8 @@ const QList<Command>& commands() {
     static const Parameter app{.name = u"APP"_s, .takes = Takes::app};
     static const Parameter site{.name = u"SITE"_s, .takes = Takes::text};
     static const Parameter key{.name = u"KEY"_s, .takes = Takes::setting};
+    static const Parameter service{.name = u"SERVICE"_s, .takes = Takes::service};
+    static const Parameter file{.name = u"FILE"_s, .takes = Takes::file};
     static const QList<Command> table{
         {.name = u"status"_s, .help = u"Show the mode, the focus session, what is in front and how it is judged."_s},
         {.name = u"watch"_s, .help = u"Show the status, then one JSON line for every change."_s, .isStream = true},
@@ -45,18 +47,48 @@ const QList<Command>& commands() {
         {.name = u"settings set"_s,
          .parameters = {key, {.name = u"VALUE"_s, .takes = Takes::text}},
          .help = u"Change a setting."_s},
+        {.name = u"settings reset"_s, .parameters = {key}, .help = u"Let the default of a setting apply again."_s},
         {.name = u"settings open"_s,
          .parameters = {{.name = u"PANE"_s, .takes = Takes::text}},
          .help = u"Open the settings window at a pane."_s},
+        {.name = u"modes open"_s,
+         .parameters = {{.name = u"MODE"_s, .takes = Takes::mode, .count = Count::optional}},
+         .help = u"Open the window of the modes, at one of them."_s},
         {.name = u"dock focus"_s,
          .help = u"Lead the keyboard to the dock: arrows move, Return presses, Escape leaves."_s},
         {.name = u"dock replace"_s,
          .parameters = {{.name = u"on|off"_s, .takes = Takes::text}},
          .help = u"Hide the desktop's own dock or panel and take its place, or give it back."_s},
-        {.name = u"undo"_s, .help = u"Take back the last change of a mode that was made in the dock, while it is offered."_s},
+        {.name = u"undo"_s,
+         .help = u"Take back the last change of a mode that was made in the dock, while it is offered."_s},
+        {.name = u"onboarding show"_s, .help = u"Show the first run: where it was left, or once more to add modes."_s},
         {.name = u"onboarding finish"_s,
          .parameters = {{.name = u"TEMPLATE"_s, .takes = Takes::text, .count = Count::any}},
          .help = u"Finish the first run with these modes, or with the usual ones."_s},
+        {.name = u"answers"_s,
+         .parameters = {{.name = u"WORD"_s, .takes = Takes::text, .count = Count::any}},
+         .help = u"List the newest thousand learned answers, or of those that have all the words."_s},
+        {.name = u"answers forget"_s,
+         .parameters = {{.name = u"KEY"_s, .takes = Takes::text, .count = Count::optional}},
+         .options = {{.name = u"all"_s, .takes = Takes::nothing, .help = u"forget every answer"_s}},
+         .help = u"Forget a learned answer; its key is what the list begins with."_s},
+        {.name = u"export"_s,
+         .parameters = {file},
+         .help = u"Write modes, settings and learned answers to a file, without any keys of accounts."_s},
+        {.name = u"import"_s,
+         .parameters = {file},
+         .help = u"Replace modes, settings and learned answers by those of such a file."_s},
+        {.name = u"import undo"_s, .help = u"Bring back what was there before the last import of this run."_s},
+        {.name = u"account list"_s, .help = u"List the services that widgets can use, and which are connected."_s},
+        {.name = u"account set"_s,
+         .parameters = {service},
+         .help = u"Connect a service with the key that is typed or comes on standard input."_s,
+         .mayWait = true,
+         .takesSecret = true},
+        {.name = u"account remove"_s,
+         .parameters = {service},
+         .help = u"Take the key of a service out of the keyring."_s,
+         .mayWait = true},
         {.name = u"quit"_s, .help = u"Quit Fendrel."_s},
         {.name = u"activate"_s,
          .parameters = {{.name = u"PANE"_s, .takes = Takes::text, .count = Count::optional}},
@@ -98,9 +130,14 @@ Parsed parse(const QStringList& words) {
             areOptionsOver = true;
         } else {
             const QString name = word.mid(2).section(u'=', 0, 0);
-            if (std::ranges::find(found->options, name, &Option::name) == found->options.end())
+            const auto option = std::ranges::find(found->options, name, &Option::name);
+            if (option == found->options.end())
                 return {.error = u"%1 takes no option --%2"_s.arg(found->name, name)};
-            if (word.contains(u'='))
+            if (option->takes == Takes::nothing && word.contains(u'='))
+                return {.error = u"--%1 takes no value"_s.arg(name)};
+            if (option->takes == Takes::nothing)
+                request.options.insert(name, {});
+            else if (word.contains(u'='))
                 request.options.insert(name, word.section(u'=', 1));
             else if (index + 1 < words.size())
                 request.options.insert(name, words[++index]);
@@ -119,8 +156,11 @@ Parsed parse(const QStringList& words) {
 
 QString usage(const Command& command) {
     QStringList words{command.name};
-    for (const Option& option : command.options)
-        words.append(u"[--%1 %2]"_s.arg(option.name, option.takes == Takes::duration ? u"DURATION"_s : u"VALUE"_s));
+    for (const Option& option : command.options) {
+        words.append(option.takes == Takes::nothing    ? u"[--%1]"_s.arg(option.name)
+                     : option.takes == Takes::duration ? u"[--%1 DURATION]"_s.arg(option.name)
+                                                       : u"[--%1 VALUE]"_s.arg(option.name));
+    }
     for (const Parameter& parameter : command.parameters) {
         switch (parameter.count) {
         case Parameter::Count::one:

@@ -10,7 +10,7 @@
 namespace fendrel::control {
 
 /// What a parameter or an option takes; completions are made from it.
-enum class Takes { text, mode, app, setting, gateAnswer, duration };
+enum class Takes { nothing, text, file, mode, app, setting, service, gateAnswer, duration };
 
 struct Parameter {
     QString name{};
@@ -28,10 +28,15 @@ struct Command {
     QString name{}; ///< one or more words
     QList<Parameter> parameters{};
     QList<Option> options{};
-    QString help{};    ///< one sentence
-    bool isStream{};   ///< answers with lines until it is interrupted
-    bool isInternal{}; ///< for the programs themselves: in no help
+    QString help{};     ///< one sentence
+    bool isStream{};    ///< answers with lines until it is interrupted
+    bool mayWait{};     ///< for the user, and then as long as that takes
+    bool takesSecret{}; ///< on standard input, never as a word of the command line
+    bool isInternal{};  ///< for the programs themselves: in no help
 };
+
+/// Under which a secret travels among the options.
+inline const QString secretOption = QStringLiteral("secret");
 
 /// Every command that the control socket takes: the one table that the server, `fendrelctl`, its manual page and its
 /// shell completions are made from.

@@ -37,7 +37,7 @@ void ControlClient::setPatience(std::chrono::seconds time) const {
 }
 
 bool ControlClient::send(const Request& request, const std::function<bool(const QJsonObject&)>& take) {
-    setPatience(patience);
+    setPatience(command(request.command)->mayWait ? std::chrono::seconds() : patience);
     const QByteArray line = encode(request);
     for (qsizetype sent = 0; sent < line.size();) {
         const auto count =

@@ -54,10 +54,12 @@ void ControlServer::handle(LineServer::ConnectionID client, const QByteArray& li
         startWatching(client);
         return;
     }
-    const auto answer = m_handlers.run(*request);
-    // What the command changed is told before its answer: whoever sent it knows that the stream is complete by then.
-    report();
-    m_server.send(client, encode(answer ? result(*answer) : error(answer.error())));
+    m_handlers.run(*request, [this, client](const CommandHandlers::Answer& answer) {
+        // What the command changed is told before its answer: whoever sent it knows that the stream is complete by
+        // then.
+        report();
+        m_server.send(client, encode(answer ? result(*answer) : error(answer.error())));
+    });
 }
 
 void ControlServer::startWatching(LineServer::ConnectionID client) {

@@ -161,4 +161,12 @@ std::optional<QString> set(Preferences& preferences, const QString& name, const 
     return {};
 }
 
+std::optional<QString> reset(Preferences& preferences, const QString& name) {
+    if (!names(preferences).contains(name))
+        return u"unknown setting '%1'"_s.arg(name);
+    const QString shownLook = preferences.showsDark() ? u"darkAppearance"_s : u"lightAppearance"_s;
+    preferences.reset({name == "appearance"_L1 ? shownLook : name});
+    return {};
+}
+
 } // namespace fendrel::control::SettingsAccess

@@ -21,5 +21,8 @@ std::optional<QJsonValue> get(const Preferences& preferences, const QString& nam
 /// "none". Returns why not, as one line; nothing when it is done.
 std::optional<QString> set(Preferences& preferences, const QString& name, const QString& text);
 
+/// Lets the default of a setting apply again; of `appearance`, in the look that is shown. Why not, as above.
+std::optional<QString> reset(Preferences& preferences, const QString& name);
+
 } // namespace control::SettingsAccess
 } // namespace fendrel

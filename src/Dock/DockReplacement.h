@@ -32,7 +32,8 @@ public:
     /// The dock that there is to replace, as in the middle of a sentence; empty when there is none.
     QString dockName() const;
 
-    /// For the end of the program: gives the dock back, and the next start replaces it again. `done` follows when that is over, or after a while.
+    /// For the end of the program: gives the dock back, and the next start replaces it again. `done` follows when that
+    /// is over, or after a while.
     void stop(std::function<void()> done);
 
 Q_SIGNALS:

@@ -67,6 +67,7 @@ std::optional<Verdict> Classifier::cachedVerdict(const Subject& subject) {
     if (verdict && verdict->modeID && !m_engine.mode(*verdict->modeID)) {
         m_cache.remove(key(subject));
         verdict.reset();
+        Q_EMIT answerChanged(key(subject));
     }
     m_cacheTimes.record(m_clock.continuousNow() - start);
     return verdict;
@@ -139,8 +140,7 @@ void Classifier::answered(const Subject& subject, std::optional<Verdict> verdict
     if (corrected && corrected->certainty != Certainty::unsure) {
         verdict = corrected;
     } else if (verdict && verdict->certainty != Certainty::unsure) {
-        m_cache.insert(key(subject), *verdict);
-        m_cache.save();
+        remember(key(subject), *verdict);
     }
     // The user may have added it to a mode meanwhile.
     if (const auto listed = ruleVerdict(subject))
@@ -160,10 +160,38 @@ void Classifier::correct(const Subject& subject, const std::optional<QString>& m
                           .certainty = Certainty::certain,
                           .what = before ? before->what : plainName(subject),
                           .source = Source::you};
-    m_cache.insert(key(subject), verdict);
-    m_cache.save();
+    remember(key(subject), verdict);
     if (m_front && key(m_front->subject) == key(subject))
         setFront(Judgement{m_front->subject, verdict});
+}
+
+void Classifier::remember(const QString& key, const Verdict& verdict) {
+    m_cache.insert(key, {.verdict = verdict, .date = m_clock.now()});
+    m_cache.save();
+    Q_EMIT answerChanged(key);
+}
+
+void Classifier::forget(const QStringList& keys) {
+    QStringList forgotten;
+    for (const QString& key : keys) {
+        if (m_cache.find(key)) {
+            m_cache.remove(key);
+            forgotten.append(key);
+        }
+    }
+    if (forgotten.isEmpty())
+        return;
+    m_cache.save();
+    for (const QString& key : std::as_const(forgotten))
+        Q_EMIT answerChanged(key);
+    onForgotten();
+}
+
+void Classifier::replaceAnswers(const LearnedAnswers& answers) {
+    m_cache.replace(answers);
+    m_cache.save();
+    Q_EMIT answersReplaced();
+    onForgotten();
 }
 
 std::optional<QString> Classifier::modeID(const QString& host) const {

@@ -6,6 +6,7 @@
 #include "Ports/LanguageModel.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <map>
@@ -31,6 +32,9 @@ public:
     Classifier(ModeEngine& engine, LanguageModel& model, const Clock& clock, VerdictCache cache,
                std::function<QString(const QString& bundleID)> appName);
 
+    /// Answers were forgotten or replaced: what they were used for is to be judged anew.
+    std::function<void()> onForgotten = [] {};
+
     const std::optional<Judgement>& front() const { return m_front; }
     void clearFront();
     bool isModelAvailable() const { return m_isModelAvailable; }
@@ -45,6 +49,11 @@ public:
     /// The user's own answer. Nothing: it belongs to no mode.
     void correct(const Subject& subject, const std::optional<QString>& modeID);
 
+    /// What is remembered, by subject key. An answer can name a mode that is gone; it is never used.
+    const LearnedAnswers& answers() const { return m_cache.answers(); }
+    void forget(const QStringList& keys); ///< unknown ones are passed over
+    void replaceAnswers(const LearnedAnswers& answers);
+
     /// The mode of a host by the lists or a remembered answer that is sure enough.
     std::optional<QString> modeID(const QString& host) const;
 
@@ -58,6 +67,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void answerChanged(const QString& key); ///< it came, went or is another
+    void answersReplaced();                 ///< all may be others
 
 private:
     struct InFlight {
@@ -66,6 +77,7 @@ private:
     };
 
     void setFront(std::optional<Judgement> front);
+    void remember(const QString& key, const Verdict& verdict);
     QStringList modeIDs() const;
     Question question() const; ///< without a prompt
     void ask(const Subject& subject);

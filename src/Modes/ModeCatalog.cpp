@@ -28,6 +28,7 @@ QList<Mode> builtInTemplates() {
                      u"com.apple.TextEdit"_s, u"com.openai.chat"_s},
             .sites = {u"docs.google.com"_s, u"notion.so"_s, u"medium.com"_s, u"substack.com"_s, u"grammarly.com"_s,
                       u"chatgpt.com"_s, u"claude.ai"_s},
+            .widgets = {u"timer"_s, u"wordCount"_s, u"note"_s, u"intention"_s},
         },
         {
             .id = u"building"_s,
@@ -41,6 +42,7 @@ QList<Mode> builtInTemplates() {
             .sites = {u"github.com"_s, u"gitlab.com"_s, u"stackoverflow.com"_s, u"developer.apple.com"_s,
                       u"swift.org"_s, u"developer.mozilla.org"_s, u"vercel.com"_s, u"localhost"_s, u"claude.ai"_s,
                       u"chatgpt.com"_s},
+            .widgets = {u"timer"_s, u"github"_s, u"aiUsage"_s, u"system"_s},
         },
         {
             .id = u"social"_s,
@@ -54,6 +56,7 @@ QList<Mode> builtInTemplates() {
                       u"reddit.com"_s, u"youtube.com"_s, u"tiktok.com"_s, u"linkedin.com"_s, u"discord.com"_s,
                       u"web.whatsapp.com"_s, u"messenger.com"_s, u"bsky.app"_s},
             .entryDelay = 15s,
+            .widgets = {u"calendar"_s, u"today"_s},
             .dailyBudget = 900s,
         },
         {
@@ -65,6 +68,7 @@ QList<Mode> builtInTemplates() {
                      u"com.apple.Notes"_s, u"com.loom.desktop"_s},
             .sites = {u"meet.google.com"_s, u"zoom.us"_s, u"teams.microsoft.com"_s, u"calendar.google.com"_s,
                       u"loom.com"_s},
+            .widgets = {u"calendar"_s, u"onAir"_s, u"note"_s},
         },
         {
             .id = u"design"_s,
@@ -75,6 +79,7 @@ QList<Mode> builtInTemplates() {
                      u"com.adobe.illustrator"_s, u"com.pixelmatorteam.pixelmator.x"_s, u"com.apple.freeform"_s,
                      u"com.apple.iWork.Keynote"_s, u"com.apple.Preview"_s},
             .sites = {u"figma.com"_s, u"dribbble.com"_s, u"behance.net"_s, u"mobbin.com"_s, u"fonts.google.com"_s},
+            .widgets = {u"timer"_s, u"nowPlaying"_s, u"shelf"_s},
         },
         {
             .id = u"study"_s,
@@ -86,6 +91,7 @@ QList<Mode> builtInTemplates() {
                      u"com.apple.reminders"_s},
             .sites = {u"wikipedia.org"_s, u"coursera.org"_s, u"khanacademy.org"_s, u"edx.org"_s,
                       u"scholar.google.com"_s, u"arxiv.org"_s},
+            .widgets = {u"timer"_s, u"note"_s, u"garden"_s},
         },
         {
             .id = u"founder"_s,
@@ -97,6 +103,7 @@ QList<Mode> builtInTemplates() {
                      u"com.apple.iWork.Keynote"_s},
             .sites = {u"mail.google.com"_s, u"stripe.com"_s, u"linear.app"_s, u"calendar.google.com"_s,
                       u"docs.google.com"_s},
+            .widgets = {u"revenue"_s, u"calendar"_s, u"reminders"_s},
         },
     };
 }

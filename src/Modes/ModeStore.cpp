@@ -73,8 +73,8 @@ bool write(sqlite::Database& database, const QList<StoredMode>& modes) {
 
 } // namespace
 
-ModeStore::ModeStore(const std::optional<QString>& folder, Worker& disk)
-    : m_path(folder ? *folder + u"/Modes.store"_s : inMemory), m_disk(disk) {
+ModeStore::ModeStore(const std::optional<QString>& folder, Worker& disk, std::function<bool(const QString&)> isWidget)
+    : m_path(folder ? *folder + u"/Modes.store"_s : inMemory), m_disk(disk), m_isWidget(std::move(isWidget)) {
     if (folder) {
         QDir().mkpath(*folder);
         QFile::setPermissions(*folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -154,13 +154,15 @@ Result<QList<Mode>, sqlite::Error> ModeStore::read() {
             return failure();
         if (step == sqlite::Statement::Step::done)
             return modes;
+        QStringList widgets = decodeList(rows.text(6));
+        widgets.removeIf([this](const QString& widget) { return !m_isWidget(widget); });
         modes.append(StoredMode{.id = rows.text(0),
                                 .name = rows.text(1),
                                 .symbol = rows.text(2),
                                 .tint = rows.text(3),
                                 .apps = decodeList(rows.text(4)),
                                 .sites = decodeList(rows.text(5)),
-                                .widgets = decodeList(rows.text(6)),
+                                .widgets = widgets,
                                 .order = rows.integer(7),
                                 .dailyBudget = rows.number(8),
                                 .entryDelay = rows.number(9)}

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -22,7 +23,10 @@ struct Error;
 class ModeStore {
 public:
     /// `folder` is made when it is missing. Without a folder the modes live in memory only.
-    ModeStore(const std::optional<QString>& folder, Worker& disk);
+    /// Widgets for which `isWidget` does not hold are left out of what is read.
+    ModeStore(
+        const std::optional<QString>& folder, Worker& disk,
+        std::function<bool(const QString& widget)> isWidget = [](const QString&) { return true; });
 
     /// The modes in the user's order; empty when there are none yet or they cannot be read. Blocks on the disk.
     QList<Mode> load();
@@ -39,6 +43,7 @@ private:
 
     QString m_path;
     Worker& m_disk;
+    std::function<bool(const QString&)> m_isWidget;
     std::shared_ptr<sqlite::Database> m_database; ///< shared with the saves on their way
     std::optional<QString> m_problem;
 };

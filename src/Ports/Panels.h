@@ -27,10 +27,14 @@ public:
     /// Keeps other windows off `area`, a strip along one edge of `display`; an empty area reserves nothing.
     virtual void reserve(quintptr window, Qt::Edge edge, const QRect& display, const QRect& area) = 0;
     virtual void setInputRegion(quintptr window, const QRegion& region) = 0; ///< in the window's coordinates
+    /// What lies behind this part of the window is seen blurred, where that can be done; an empty region ends it. In
+    /// the window's coordinates.
+    virtual void setBlurRegion(quintptr window, const QRegion& region) = 0;
     virtual void activate(quintptr window) = 0; ///< in front of everything, with the keyboard
 
-    virtual bool hasTransparency() const = 0; ///< whether a compositor blends windows
-    std::function<void()> onTransparencyChanged = [] {};
+    virtual bool hasTransparency() const = 0;            ///< whether a compositor blends windows
+    virtual bool canBlur() const = 0;                    ///< whether it also blurs what lies behind them
+    std::function<void()> onTransparencyChanged = [] {}; ///< or what it can do
 };
 
 } // namespace fendrel

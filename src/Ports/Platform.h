@@ -43,6 +43,8 @@ struct BrowserHome {
     QString data{};      ///< exists once the browser was used
     QString manifests{}; ///< need not exist
     Family family{};
+    QString name{};
+    QString bundleID{}; ///< of the application; empty where it has none that is known
 };
 
 /// One adapter of every port. Members are destroyed in reverse order; adapters may use the ones before them.
@@ -50,8 +52,10 @@ struct Platform {
     Folders folders{};
     QString relay{};               ///< path of the program that browsers start to reach us
     QList<BrowserHome> browsers{}; ///< all that this system may have
+    QString extension{};           ///< folder of the browsers' companion extension
     /// Whether the process at the other end of a connected local socket is this user's.
     std::function<bool(int socket)> isPeerOwnUser = [](int) { return false; };
+    std::function<QStringList()> recentLog = [] { return QStringList(); }; ///< what was logged last, oldest first
     std::unique_ptr<Worker> disk{}; ///< writes what the services save, off the main thread
     std::unique_ptr<Clock> clock{};
     std::unique_ptr<SettingsStore> settings{};

@@ -10,8 +10,9 @@ namespace fendrel {
 /// held on a thread of its own.
 class PointerGuard {
 public:
-    virtual ~PointerGuard() = default; ///< stops
-    virtual bool start() = 0;          ///< false: not permitted, or not possible on this system
+    virtual ~PointerGuard() = default;    ///< stops
+    virtual bool isAvailable() const = 0; ///< whether this system lets the pointer be held at all
+    virtual bool start() = 0;             ///< false: not permitted, or not possible on this system
     virtual void stop() = 0;
     virtual bool isRunning() const = 0; ///< can end by itself, as when the system takes the permission away
     /// May be told before it starts. Holds the pointer as `heldPoint` says.

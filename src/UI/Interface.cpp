@@ -4,6 +4,7 @@
 #include "UI/Dock/DockPanel.h"
 #include "UI/Images/ShadowImages.h"
 #include "UI/Images/SymbolImages.h"
+#include "UI/Images/TrayImages.h"
 #include "UI/Setup/AlertController.h"
 #include "UI/Setup/Dialog.h"
 
@@ -60,15 +61,14 @@ Interface::Interface(AppController& controller)
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
     m_engine.addImageProvider(u"symbol"_s, new SymbolImages);
     m_engine.addImageProvider(u"shadow"_s, new ShadowImages);
+    m_engine.addImageProvider(u"tray"_s, new TrayImages);
     m_theme = themeOf(m_engine); // NOLINT(cppcoreguidelines-prefer-member-initializer): the paths come first
     applyLook();
 
     controller.onLayoutDocks = [this] { layoutDocks(); };
     controller.onShowOnboarding = [this] { showFirstRun(); };
     controller.onShowSettings = [this](const QString& pane) { whenFree([this, pane] { showSettings(pane); }); };
-    controller.onEditMode = [this](const QString& modeID) {
-        whenFree([this, modeID] { showSettings(u"modes"_s, modeID); });
-    };
+    controller.onShowModes = [this](const QString& modeID) { whenFree([this, modeID] { showModes(modeID); }); };
     controller.onAlert = [this](const Alert& alert) { whenFree([this, alert] { showAlert(alert); }); };
     controller.onAttention = [this] { whenFree([this] { showSettings(m_settings.pane()); }); };
     QObject::connect(&controller.gate(), &Gate::changed, &m_settings, [this] {
@@ -84,6 +84,7 @@ Interface::Interface(AppController& controller)
             makeHidden();
     });
     controller.onFocusDock = [this] { focusDock(); };
+    controller.onOpenDockApp = [this](int index) { m_dock.openApp(index); };
     controller.platform().panels->onTransparencyChanged = [this] {
         for (const auto& [display, dock] : m_docks)
             dock->transparencyDidChange();
@@ -92,8 +93,10 @@ Interface::Interface(AppController& controller)
         if (m_cards)
             Q_EMIT m_cards->transparencyChanged();
         m_glow->update();
+        Q_EMIT m_controller.surroundingsChanged();
     };
     controller.platform().statusArea->onChanged = [this] {
+        Q_EMIT m_controller.surroundingsChanged();
         if (m_gatePanel) // else its turn comes with the others'
             showTray();
     };
@@ -182,10 +185,13 @@ void Interface::showFirstRun() {
         m_firstRunWindow->present();
         return;
     }
+    m_firstRun.begin();
     m_firstRunWindow = std::make_unique<Dialog>(
         m_engine, QCoreApplication::translate("Interface", "Welcome to Fendrel"), u"Setup/FirstRunView.qml"_s,
-        QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}}, QSize(760, 690));
-    QObject::connect(&m_controller, &AppController::onboardingChanged, m_firstRunWindow.get(), [this] {
+        QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}},
+        (QSizeF(760, 690) * std::clamp(m_controller.platform().look->textScale(), 1.0, 1.6)).toSize());
+    m_firstRunWindow->onClosed = [this] { m_firstRunWindow.release()->deleteLater(); };
+    QObject::connect(&m_firstRun, &FirstRunController::closed, m_firstRunWindow.get(), [this] {
         // The window is still in the middle of the press that ended it.
         m_firstRunWindow->hide();
         m_firstRunWindow.release()->deleteLater();
@@ -193,17 +199,31 @@ void Interface::showFirstRun() {
     m_firstRunWindow->present();
 }
 
-void Interface::showSettings(const QString& pane, const QString& modeID) {
+void Interface::showSettings(const QString& pane) {
     m_settings.setPane(pane);
-    if (!m_settingsWindow || !modeID.isEmpty())
-        m_settings.modeEditor()->edit(modeID);
     if (!m_settingsWindow) {
+        // With larger text, a larger window, as far as the screen allows.
+        const double scale = std::clamp(m_controller.platform().look->textScale(), 1.0, 1.6);
         m_settingsWindow = std::make_unique<Dialog>(
             m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Settings/SettingsView.qml"_s,
-            QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, QSize(820, 600));
+            QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, (QSizeF(860, 640) * scale).toSize());
         m_settingsWindow->onClosed = [this] { m_settingsWindow.release()->deleteLater(); };
     }
     m_settingsWindow->present();
+}
+
+void Interface::showModes(const QString& modeID) {
+    ModesController* modes = m_settings.modes();
+    if (!m_modesWindow || m_controller.engine().mode(modeID))
+        modes->editor()->edit(modeID);
+    modes->dryRun()->refresh(); // it says "yesterday", and today may be another day
+    if (!m_modesWindow) {
+        m_modesWindow = std::make_unique<Dialog>(
+            m_engine, QCoreApplication::translate("Interface", "Modes"), u"Modes/ModesView.qml"_s,
+            QVariantMap{{u"modes"_s, QVariant::fromValue(modes)}}, QSize(980, 720));
+        m_modesWindow->onClosed = [this] { m_modesWindow.release()->deleteLater(); };
+    }
+    m_modesWindow->present();
 }
 
 void Interface::showAlert(const Alert& alert) {
@@ -219,7 +239,11 @@ void Interface::showAlert(const Alert& alert) {
         kept->release()->deleteLater();
         m_alerts.erase(kept);
     });
-    window->present();
+    // What asked the question waits for the answer.
+    if (auto* asking = qobject_cast<Dialog*>(QGuiApplication::focusWindow()))
+        window->showOver(asking);
+    else
+        window->present();
 }
 
 void Interface::showTray() {
@@ -230,9 +254,10 @@ void Interface::showTray() {
     if (!isAvailable)
         return;
     QQmlComponent component(&m_engine, QUrl(u"qrc:/qml/Fendrel/Tray/Tray.qml"_s));
-    m_tray.reset(component.createWithInitialProperties({{u"dock"_s, QVariant::fromValue(&m_dock)},
-                                                        {u"focusState"_s, QVariant::fromValue(&m_focus)},
-                                                        {u"iconName"_s, u"org.fendrel.Fendrel"_s}}));
+    // Its module is not there on every system.
+    if (component.isReady())
+        m_tray.reset(component.createWithInitialProperties(
+            {{u"dock"_s, QVariant::fromValue(&m_dock)}, {u"focusState"_s, QVariant::fromValue(&m_focus)}}));
     if (!m_tray)
         qWarning().noquote() << component.errorString();
 }
@@ -241,6 +266,7 @@ void Interface::applyLook() {
     if (m_theme == nullptr)
         return;
     m_theme->setProperty("reducesMotion", m_controller.platform().look->reducesMotion());
+    m_theme->setProperty("textScale", m_controller.platform().look->textScale());
     m_theme->setProperty("increasesContrast", m_controller.platform().look->increasesContrast());
 }
 

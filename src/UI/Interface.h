@@ -10,8 +10,8 @@
 #include "UI/Images/AppIcons.h"
 #include "UI/Messages/CardsPanel.h"
 #include "UI/Messages/MessagesController.h"
-#include "UI/Setup/FirstRunController.h"
 #include "UI/Settings/SettingsController.h"
+#include "UI/Setup/FirstRunController.h"
 
 #include <QQmlEngine>
 #include <QString>
@@ -40,7 +40,8 @@ private:
     void placeCards();
     void focusDock();
     void showFirstRun();
-    void showSettings(const QString& pane, const QString& modeID = {});
+    void showSettings(const QString& pane);
+    void showModes(const QString& modeID);
     void showAlert(const Alert& alert);
     void showTray();
     void applyLook();
@@ -62,6 +63,7 @@ private:
     std::unique_ptr<FocusGlow> m_glow;
     std::unique_ptr<Dialog> m_firstRunWindow;
     std::unique_ptr<Dialog> m_settingsWindow;
+    std::unique_ptr<Dialog> m_modesWindow;
     std::list<std::unique_ptr<Dialog>> m_alerts;
     std::unique_ptr<QObject> m_tray;
     QList<std::function<void()>> m_waiting; ///< windows that show when the gate closes

@@ -15,6 +15,12 @@ struct PreferencesForQml {
     QML_UNCREATABLE("made by the application")
 };
 
+struct DockAppearanceForQml {
+    Q_GADGET
+    QML_FOREIGN(fendrel::DockAppearance)
+    QML_VALUE_TYPE(dockAppearance)
+};
+
 namespace PreferenceTypesForQml {
 Q_NAMESPACE
 QML_FOREIGN_NAMESPACE(fendrel::preferences)

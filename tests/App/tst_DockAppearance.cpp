@@ -27,6 +27,37 @@ private Q_SLOTS:
                                        R"({"opacity":null})", "[{}]", "{", ""})
             QVERIFY2(!read(unreadable), unreadable);
     }
+
+    void changesOneNumberWithinItsRange() {
+        DockAppearance look;
+        QVERIFY(look.set("spacing", 90));
+        QCOMPARE(look, DockAppearance{.spacing = 24});
+        QVERIFY(look.set("spacing", -1));
+        QCOMPARE(look, DockAppearance{.spacing = 0});
+        for (const char* unknown : {"", "background", "blur", "spacings"})
+            QVERIFY2(!look.set(unknown, 1), unknown);
+        QVERIFY(!look.set("opacity", qQNaN()));
+        QCOMPARE(look, DockAppearance{.spacing = 0});
+    }
+
+    void measuresContrast() {
+        QCOMPARE(contrastRatio(Qt::white, Qt::black), 21.0);
+        QCOMPARE(contrastRatio(Qt::black, Qt::white), 21.0);
+        QCOMPARE(qRound(100 * contrastRatio(u"#767676"_s, Qt::white)), 454);
+        // Half of white is gray over black, and what is as gray vanishes somewhere in between.
+        const DockAppearance half{.background = Qt::white, .opacity = 128.0 / 255};
+        QCOMPARE(qRound(100 * half.contrast(Qt::black)), qRound(100 * contrastRatio(Qt::black, u"#808080"_s)));
+        QCOMPARE(half.contrast(u"#a0a0a0"_s), 1.0);
+        for (const auto& [color, light] : {std::pair("#ffffff", false), {"#808080", false}, {"#1f6fe5", true}})
+            QCOMPARE(wantsLightText(QColor(QLatin1StringView(color))), light);
+    }
+
+    void builtInLooksCanBeRead() {
+        for (const auto& [name, look] : DockAppearance::presets()) {
+            QVERIFY2(look.contrast(look.text()) >= readableContrast, qPrintable(name));
+            QCOMPARE(look.isDark, wantsLightText(look.background));
+        }
+    }
 };
 
 QTEST_APPLESS_MAIN(DockAppearanceTest)

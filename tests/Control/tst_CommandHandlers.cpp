@@ -24,7 +24,14 @@ struct World : ControllerWorld {
     }
     Result<QJsonValue, QString> say(const QString& words) {
         const Parsed parsed = parse(words.split(u' ', Qt::SkipEmptyParts));
-        return parsed.request ? handlers->run(*parsed.request) : Result<QJsonValue, QString>::failure(parsed.error);
+        return parsed.request ? ask(*parsed.request) : Result<QJsonValue, QString>::failure(parsed.error);
+    }
+    Result<QJsonValue, QString> ask(const Request& request) {
+        std::optional<Result<QJsonValue, QString>> said;
+        handlers->run(request, [&](const auto& answer) { said = answer; });
+        while (!said)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return *said;
     }
 
     std::optional<CommandHandlers> handlers;
@@ -49,11 +56,11 @@ private Q_SLOTS:
         QCOMPARE(handled, names);
         for (const Command& command : commands()) {
             // What comes over the socket may lack what `fendrelctl` would ask for.
-            const auto answer = world.handlers->run({.command = command.name});
+            const auto answer = world.ask({.command = command.name});
             if (std::ranges::count(command.parameters, Parameter::Count::one, &Parameter::count) > 0)
                 QVERIFY2(!answer, qPrintable(command.name));
         }
-        QVERIFY(!world.handlers->run({.command = u"dance"_s}));
+        QVERIFY(!world.ask({.command = u"dance"_s}));
     }
 
     void refusesBadValues() {
@@ -68,6 +75,7 @@ private Q_SLOTS:
                  {"mode add-site writing http://", "'http://' names no web site"},
                  {"mode remove-site writing x.org", "writing has no site x.org"},
                  {"settings get showsDark", "unknown setting 'showsDark'"},
+                 {"settings reset dock", "unknown setting 'dock'"},
                  {"settings set dockSize huge",
                   "'huge' is no value for dockSize: one of small, medium, large is expected"},
                  {"settings set autoHide yes", "'yes' is no value for autoHide: true or false is expected"},
@@ -77,13 +85,18 @@ private Q_SLOTS:
                                                    "\"modifiers\": ..., \"key\": \"...\"} or none is expected"},
                  {"dock replace maybe", "'maybe' is neither on nor off"},
                  {"undo", "there is nothing to take back"},
+                 {"answers forget x.org", "nothing is remembered of 'x.org'"},
+                 {"answers forget", "usage: answers forget [--all] [KEY]"},
+                 {"answers forget --all x.org", "usage: answers forget [--all] [KEY]"},
+                 {"import undo", "nothing was imported in this run"},
+                 {"import /", "“/” could not be opened."},
                  {"onboarding finish study", "the first run is over"},
                  {"settings open nowhere", "unknown pane 'nowhere': one of general, dock, appearance, widgets, modes, "
                                            "accounts, permissions, about is expected"},
              }) {
             const auto answer = world.say(QString::fromLatin1(words));
             QVERIFY2(!answer, words);
-            QCOMPARE(answer.error(), QString::fromLatin1(reason));
+            QCOMPARE(answer.error(), QString::fromUtf8(reason));
         }
         QCOMPARE(status(*world.controller, StatusForm::marker), before);
         QVERIFY(world.fake.settings->values == settings);
@@ -124,6 +137,26 @@ private Q_SLOTS:
         QVERIFY(holds(world));
     }
 
+    void listsAndForgetsAnswers() {
+        World world;
+        QVERIFY(world.say(u"correct none"_s));
+        world.controller->drift().correct(SiteSubject{.host = u"forum.org"_s}, u"social"_s);
+        const QJsonArray found = world.say(u"answers FORUM soc"_s)->toArray();
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found[0][u"key"], QJsonValue(u"forum.org"_s));
+        QCOMPARE(found[0][u"source"], QJsonValue(u"you"_s));
+        QVERIFY(world.say(u"answers forget forum.org"_s));
+        QCOMPARE(world.say(u"answers"_s)->toArray().size(), 1);
+        const QString file = world.fake.home.filePath(u"file"_s);
+        QVERIFY(world.say(u"export "_s + file));
+        QVERIFY(world.say(u"answers forget --all"_s));
+        QCOMPARE(world.say(u"answers"_s)->toArray().size(), 0);
+        QCOMPARE(world.say(u"import "_s + file)->toObject()[u"answers"], QJsonValue(1));
+        QCOMPARE(world.say(u"answers"_s)->toArray().size(), 1);
+        QVERIFY(world.say(u"import undo"_s));
+        QCOMPARE(world.say(u"answers"_s)->toArray().size(), 0);
+    }
+
     void setsEverySetting() {
         const QString shortcut = uR"({"key":"G","keyCode":5,"modifiers":256})"_s;
         const QHash<QString, QString> typed{{u"dockSize"_s, u"large"_s},
@@ -149,6 +182,15 @@ private Q_SLOTS:
             QCOMPARE(SettingsAccess::get(Preferences(settings, sameLook), name), now); // it is stored
         }
         QCOMPARE(SettingsAccess::get(preferences, u"modeModifiers"_s), QJsonValue(6144));
+
+        FakeSettings nothing;
+        FakeLook sameLook;
+        const Preferences fresh(nothing, sameLook);
+        for (const QString& name : SettingsAccess::names(preferences)) {
+            QCOMPARE(SettingsAccess::reset(preferences, name), std::nullopt);
+            QCOMPARE(SettingsAccess::get(preferences, name), SettingsAccess::get(fresh, name));
+        }
+        QVERIFY(settings.values.isEmpty());
     }
 
     void showsWhatGoesOn() {

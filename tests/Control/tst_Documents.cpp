@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(completed("gate "), "stay switch allow-once add");
         QCOMPARE(completed("focus start "), "--for");
         QCOMPARE(completed("focus start --for "), "25m 50m 90m");
-        QCOMPARE(completed("settings "), "list get set open");
+        QCOMPARE(completed("settings "), "list get set reset open");
         QCOMPARE(completed("switch "), "writing social");
         QCOMPARE(completed("mode add-app writing "), "");
         QCOMPARE(completed("settings get dock"), "dockSize dockPosition");

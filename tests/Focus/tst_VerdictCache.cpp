@@ -39,15 +39,16 @@ private Q_SLOTS:
     void remembersAcrossRestarts() {
         Home home;
         auto cache = home.cache();
-        QHash<QString, Verdict> entries{{u"org.player"_s, elsewhere}, {u"x.org"_s, nowhere}};
+        LearnedAnswers entries{{u"org.player"_s, {elsewhere, WallTime(std::chrono::milliseconds(1'800'000'000'123))}},
+                               {u"x.org"_s, {nowhere}}};
         for (char16_t character = 0; character < 0x180; ++character) {
             const QString text = u"\\\"%1/\u2028\U0001F3A8"_s.arg(QChar(character));
             entries.insert(text,
-                           {.modeID = text, .certainty = Certainty::unsure, .what = text, .source = Source::rule});
+                           {{.modeID = text, .certainty = Certainty::unsure, .what = text, .source = Source::rule}});
         }
         for (auto entry = entries.begin(); entry != entries.end(); ++entry)
             cache.insert(entry.key(), *entry);
-        cache.insert(u"gone.org"_s, elsewhere);
+        cache.insert(u"gone.org"_s, {elsewhere});
         cache.remove(u"gone.org"_s);
         QVERIFY(!QFile::exists(home.file)); // nothing is written before it is asked to
         cache.save();
@@ -91,10 +92,10 @@ private Q_SLOTS:
         home.disk.post({}, [go] { go->acquire(); }); // so that the saves pile up behind it
         constexpr int count = 500;
         for (int index = 0; index < count; ++index) {
-            cache.insert(QString::number(index), elsewhere);
+            cache.insert(QString::number(index), {elsewhere});
             cache.save();
         }
-        cache.insert(u"not saved"_s, elsewhere); // may go on changing while it is being written
+        cache.insert(u"not saved"_s, {elsewhere}); // may go on changing while it is being written
         go->release();
         QCOMPARE(QJsonDocument::fromJson(home.content()).object().size(), count);
     }

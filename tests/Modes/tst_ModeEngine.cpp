@@ -240,11 +240,14 @@ private Q_SLOTS:
                               {.id = u"2"_s, .name = u"Writing"_s, .sites = {u"mine.org"_s}, .dailyBudget = 60s},
                               {.id = u"social"_s, .name = u"My own"_s}};
         World world(old, false);
-        Mode filled = old[0];
-        filled.sites = world.catalog.templates[2].sites;
-        filled.dailyBudget = Seconds(900);
-        QCOMPARE(world.engine->modes(), (QList<Mode>{filled, old[1], old[2]}));
+        Mode social = old[0], writing = old[1];
+        social.sites = world.catalog.templates[2].sites;
+        social.widgets = world.catalog.templates[2].widgets;
+        social.dailyBudget = Seconds(900);
+        writing.widgets = world.catalog.templates[0].widgets;
+        QCOMPARE(world.engine->modes(), (QList<Mode>{social, writing, old[2]}));
         world.engine->update(old[0]);
+        world.engine->update(old[1]);
         QCOMPARE(world.start().modes(), old); // what the user takes away does not come back
     }
 };

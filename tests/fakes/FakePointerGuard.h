@@ -6,6 +6,7 @@ namespace fendrel {
 
 class FakePointerGuard final : public PointerGuard {
 public:
+    bool isAvailable() const override { return isPermitted; }
     bool start() override {
         ++starts;
         return runs = isPermitted;

@@ -33,6 +33,11 @@ QString candidates(Takes takes) {
         return gateAnswers().join(u' ');
     case Takes::duration:
         return u"25m 50m 90m"_s;
+    case Takes::file:
+        return u"$(compgen -f -- \"$current\")"_s;
+    case Takes::service:
+        return u"$(fendrelctl account list 2>/dev/null | cut -d: -f1)"_s;
+    case Takes::nothing:
     case Takes::text:
     case Takes::app:
         return {};
@@ -169,10 +174,13 @@ QString fishCompletion() {
             text += u"complete -c fendrelctl -n '%1%2; and not %1%3' -a %3 -d \"%4\"\n"_s.arg(begun, words[0], words[1],
                                                                                               command.help);
         }
-        for (const Option& option : command.options)
-            text += u"complete -c fendrelctl -n '%1%2' -l %3 -x -a \"%4\"\n"_s.arg(begun, words.last(), option.name,
-                                                                                   candidates(option.takes));
-        if (!command.parameters.isEmpty()) {
+        for (const Option& option : command.options) {
+            text += u"complete -c fendrelctl -n '%1%2' -l %3"_s.arg(begun, words.last(), option.name);
+            text += option.takes == Takes::nothing ? u"\n"_s : u" -x -a \"%1\"\n"_s.arg(candidates(option.takes));
+        }
+        if (!command.parameters.isEmpty() && command.parameters.first().takes == Takes::file) {
+            text += u"complete -c fendrelctl -n '%1%2' -F\n"_s.arg(begun, words.last());
+        } else if (!command.parameters.isEmpty()) {
             QString values = candidates(command.parameters.first().takes);
             values.replace(u"$("_s, u"("_s);
             if (!values.isEmpty())

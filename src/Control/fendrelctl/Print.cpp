@@ -64,4 +64,15 @@ QString modesText(const QJsonValue& modes) {
     return text;
 }
 
+QString answersText(const QJsonValue& answers) {
+    QString text;
+    for (const auto& answer : answers.toArray()) {
+        QStringList columns;
+        for (const QString& name : {u"key"_s, u"mode"_s, u"what"_s, u"source"_s, u"certainty"_s, u"date"_s})
+            columns.append(scalar(answer.toObject()[name]).simplified());
+        text += columns.join(u'\t') + u'\n';
+    }
+    return text;
+}
+
 } // namespace fendrel::control

@@ -11,4 +11,7 @@ QString plainText(const QJsonValue& value);
 /// The answer to `modes`: identifier, name and a star, in columns that scripts can split at tabs.
 QString modesText(const QJsonValue& modes);
 
+/// A line for each learned answer: key, mode, what it is, source, certainty and date, with tabs between them.
+QString answersText(const QJsonValue& answers);
+
 } // namespace fendrel::control

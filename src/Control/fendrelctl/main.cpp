@@ -1,12 +1,15 @@
 #include "Control/ControlClient.h"
 #include "Control/fendrelctl/Documents.h"
 #include "Control/fendrelctl/Print.h"
+#include "Control/fendrelctl/SecretInput.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace fendrel;
@@ -36,6 +39,16 @@ QString jsonText(const QJsonValue& value) {
     return QString::fromUtf8(list.mid(1, list.size() - 2)) + u'\n';
 }
 
+/// The application was started in another folder.
+Request withWholePaths(Request request) {
+    const QList<Parameter>& parameters = command(request.command)->parameters;
+    for (qsizetype index = 0; index < std::min(parameters.size(), request.arguments.size()); ++index) {
+        if (parameters[index].takes == Takes::file)
+            request.arguments[index] = QFileInfo(request.arguments[index]).absoluteFilePath();
+    }
+    return request;
+}
+
 int run(const Request& request, bool asJson) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Fendrel"_s;
     ControlClient client;
@@ -53,7 +66,9 @@ int run(const Request& request, bool asJson) {
         else if (asJson)
             print(stdout, jsonText(answer[u"result"]));
         else
-            print(stdout, request.command == u"modes" ? modesText(answer[u"result"]) : plainText(answer[u"result"]));
+            print(stdout, request.command == u"modes"     ? modesText(answer[u"result"])
+                          : request.command == u"answers" ? answersText(answer[u"result"])
+                                                          : plainText(answer[u"result"]));
         return false;
     });
     if (!isAnswered && !isStream)
@@ -90,5 +105,12 @@ int main(int argc, char* argv[]) {
     const Parsed parsed = parse(words);
     if (!parsed.request)
         return fail(parsed.error, exitBadUse);
-    return run(*parsed.request, asJson);
+    Request request = withWholePaths(*parsed.request);
+    if (command(request.command)->takesSecret) {
+        const auto secret = readSecret(u"Key of %1: "_s.arg(request.arguments.first()));
+        if (!secret)
+            return fail(u"a key is expected on standard input"_s, exitBadUse);
+        request.options.insert(secretOption, *secret);
+    }
+    return run(request, asJson);
 }

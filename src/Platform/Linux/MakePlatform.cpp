@@ -2,6 +2,8 @@
 
 #include "Platform/Linux/Applications/BrowserHomes.h"
 #include "Platform/Linux/Banners/DesktopBanners.h"
+#include "Platform/Linux/Desktop/AutostartEntry.h"
+#include "Platform/Linux/Desktop/CanberraSounds.h"
 #include "Platform/Linux/Desktop/DesktopShell.h"
 #include "Platform/Linux/Desktop/GSettingsConfiguration.h"
 #include "Platform/Linux/Desktop/LauncherEntries.h"
@@ -10,6 +12,7 @@
 #include "Platform/Linux/Desktop/TrashContents.h"
 #include "Platform/Linux/Desktop/TrashFolder.h"
 #include "Platform/Linux/Docks/DockDrivers.h"
+#include "Platform/Linux/Keyring/KeyringStore.h"
 #include "Platform/Linux/ModelServer/ModelServer.h"
 #include "Platform/Linux/Notifications/NotificationRecorder.h"
 #include "Platform/Linux/PeerCredentials.h"
@@ -61,6 +64,7 @@ Platform makePlatformWithoutDisplay() {
     platform.folders = standardFolders();
     platform.relay = QCoreApplication::applicationDirPath() + u"/fendrel-bridge"_s;
     platform.browsers = standardBrowsers();
+    platform.extension = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/fendrel/extension"_s);
     platform.isPeerOwnUser = isPeerOwnUser;
     platform.disk = std::make_unique<Worker>(u"disk"_s);
     platform.clock = std::make_unique<SystemClock>();
@@ -89,18 +93,24 @@ Platform makePlatform() {
     platform.accessibility = std::make_unique<X11Accessibility>(groups, clock);
     platform.displays = std::make_unique<X11Displays>(monitors, windows);
     platform.panels = std::make_unique<X11Panels>(windows, monitors, connection);
-    platform.pointerGuard = std::make_unique<X11PointerGuard>();
+    platform.pointerGuard = std::make_unique<X11PointerGuard>(connection);
     platform.hotKeys = std::make_unique<X11HotKeys>(connection);
     platform.previews = std::make_unique<X11WindowPreviews>(windows, connection, clock);
     platform.badges = std::make_unique<LauncherEntries>(catalog);
     platform.trash = std::make_unique<TrashFolder>(TrashFolder::standardHome(), trashContents::onMountedDisks,
                                                    *platform.applications, catalog);
-    platform.look = std::make_unique<PortalLook>(settings);
+    platform.look = std::make_unique<PortalLook>(settings, std::make_shared<GSettingsConfiguration>());
     platform.statusArea = std::make_unique<StatusNotifierArea>();
     platform.idleTime = std::make_unique<X11IdleTime>(connection);
     platform.shell = std::make_unique<DesktopShell>(catalog, clock);
     platform.languageModel = std::make_unique<ModelServer>(clock);
     platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
+    platform.secrets = std::make_unique<KeyringStore>();
+    platform.loginItem =
+        std::make_unique<AutostartEntry>(AutostartEntry::standardFolder(), AutostartEntry::otherFolders(),
+                                         QCoreApplication::applicationFilePath(), *platform.disk);
+    platform.sounds = std::make_unique<CanberraSounds>(
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/fendrel/sounds"_s));
     platform.http = std::make_unique<NetworkClient>(clock);
     return platform;
 }

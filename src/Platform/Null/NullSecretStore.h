@@ -14,6 +14,7 @@ public:
     }
     Handle save(const Item&, const QString&, const QString&, Done done) override { return refuse(std::move(done)); }
     Handle remove(const Item&, Done done) override { return refuse(std::move(done)); }
+    Handle unlock(Done done) override { return refuse(std::move(done)); }
 
 private:
     static Handle refuse(Done done) {

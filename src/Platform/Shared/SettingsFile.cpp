@@ -2,7 +2,7 @@
 
 #include "Base/JsonFile.h"
 #include "Base/Log.h"
-#include "Platform/Shared/StoredValueJson.h"
+#include "Ports/StoredValueJson.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -36,6 +36,7 @@ DockItem {
     scale: coming
 
     property bool isOpening: false
+    property string hotKey: ""
 
     signal windowAsked() // one more of its windows
     signal turned(step: int)
@@ -43,7 +44,7 @@ DockItem {
 
     implicitWidth: isVertical ? iconSize + 16 : leading + iconSize + 6
     implicitHeight: isVertical ? leading + iconSize + 6 : iconSize + 16
-    tipText: name
+    tipText: hotKey === "" ? name : name + " · " + hotKey
     targetText: qsTr("Open with %1").arg(name)
     function takes(load: var): bool { return load.app === "" && load.files.length > 0 }
 

@@ -97,9 +97,11 @@ ScrollStrip {
         delegate: AppButton {
             id: app
             required property bool startsOthers
+            required property int index
             readonly property bool isSought: isFront || activeFocus
             colors: section.colors
             tip: section.tip
+            hotKey: section.dock.appHotKeys[index] ?? ""
             isVertical: section.isVertical
             edge: section.panel.edge
             iconSize: section.layout.iconSize

@@ -40,7 +40,7 @@ QtObject {
         // In steps: other windows move when the bar's depth changes.
         return Math.max(leastIconSize, Math.min(fullIconSize, 4 * Math.floor(fitting / 4)))
     }
-    readonly property real spacing: iconSize < fullIconSize ? Math.floor(fullSpacing / 2) : fullSpacing
+    readonly property real spacing: iconSize < fullIconSize ? Math.min(fullSpacing, Math.floor(fullSpacing / 2)) : fullSpacing
 
     readonly property real pitch: iconSize + iconRoom + spacing // from one application to the next
 

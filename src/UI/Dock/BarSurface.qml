@@ -12,6 +12,7 @@ Item {
     required property Item bar
     required property Wave wave
     required property bool isVertical
+    readonly property rect area: Qt.rect(surface.x, surface.y, surface.width, surface.height)
 
     Shadow {
         caster: surface
@@ -27,11 +28,11 @@ Item {
         y: view.bar.y + (view.isVertical ? view.wave.before : 0)
         width: view.bar.width + (view.isVertical ? 0 : growth)
         height: view.bar.height + (view.isVertical ? growth : 0)
-        radius: view.dock.cornerRadius
+        radius: Math.round(Math.min(view.dock.cornerRadius, width / 2, height / 2))
         color: view.colors.faded(view.dock.background, view.panel.isTransparent && !Theme.increasesContrast ? view.dock.opacity : 1)
         border.width: Theme.increasesContrast ? 2 : 1
         readonly property color line: Theme.increasesContrast ? view.colors.text : view.colors.faded(view.colors.text, view.dock.border)
         border.color: view.panel.isTransparent ? line : Qt.tint(view.dock.background, line)
-        Behavior on color { ColorAnimation { duration: Theme.slow } }
+        Behavior on color { ColorAnimation { duration: Theme.quick } }
     }
 }

@@ -123,6 +123,10 @@ bool DockAppsModel::isInMode(const QString& bundleID) const {
     return m_controller.engine().current().apps.contains(bundleID);
 }
 
+QString DockAppsModel::bundleID(int row) const {
+    return row < 0 || row >= m_rows.size() ? QString() : m_rows[row].id;
+}
+
 QString DockAppsModel::icon(const QString& bundleID) const {
     return m_icons.source(bundleID);
 }

@@ -36,6 +36,7 @@ public:
     Q_INVOKABLE QString previous(const QString& bundleID) const { return neighbour(bundleID, -1); }
     Q_INVOKABLE QString next(const QString& bundleID) const { return neighbour(bundleID, 1); }
     Q_INVOKABLE bool isInMode(const QString& bundleID) const; ///< as the mode has it
+    QString bundleID(int row) const;                          ///< empty where there is none
     Q_INVOKABLE QString icon(const QString& bundleID) const;  ///< its address
     Q_INVOKABLE QString name(const QString& bundleID) const;
     /// The next row after `from` whose name begins with these letters, going round; -1: none.

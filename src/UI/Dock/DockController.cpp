@@ -6,6 +6,8 @@
 
 namespace fendrel {
 
+using namespace Qt::StringLiterals;
+
 DockController::DockController(AppController& controller, AppIcons& icons, MessagesController& messages)
     : m_controller(controller),
       m_messages(messages),
@@ -26,6 +28,14 @@ DockController::DockController(AppController& controller, AppIcons& icons, Messa
         m_windows.setBundleID(item ? item->property("bundleID").toString() : QString());
     });
     connect(&controller.gate(), &Gate::changed, this, &DockController::gateChanged);
+    connect(&controller.hotKeys(), &HotKeyRegistry::changed, this, &DockController::hotKeysChanged);
+    connect(&controller.engine(), &ModeEngine::changed, this, &DockController::menuModesChanged);
+    connect(&controller.messages(), &HeldMessages::changed, this, &DockController::menuModesChanged);
+    connect(this, &DockController::hotKeysChanged, this, &DockController::menuModesChanged);
+    const auto count = [this] { m_controller.dockAppsChanged(m_apps.rowCount()); };
+    connect(&m_apps, &QAbstractItemModel::rowsInserted, this, count);
+    connect(&m_apps, &QAbstractItemModel::rowsRemoved, this, count);
+    count();
 }
 
 QString DockController::modeID() const {
@@ -75,6 +85,42 @@ const DockAppearance& DockController::look() const {
     return m_controller.preferences().appearance();
 }
 
+QVariantList DockController::menuModes() const {
+    const ModeEngine& engine = m_controller.engine();
+    const QStringList hotKeys = modeHotKeys();
+    QVariantList list;
+    for (const Mode& mode : engine.modes()) {
+        list.append(QVariantMap{{u"id"_s, mode.id},
+                                {u"name"_s, mode.name},
+                                {u"symbol"_s, mode.symbol},
+                                {u"tint"_s, color(mode.tint)},
+                                {u"isCurrent"_s, mode.id == engine.current().id},
+                                {u"isPending"_s, engine.pending() && engine.pending()->target.id == mode.id},
+                                {u"heldCount"_s, m_controller.messages().count(mode)},
+                                {u"hotKey"_s, hotKeys.value(list.size())}});
+    }
+    return list;
+}
+
+QStringList DockController::modeHotKeys() const {
+    QStringList labels;
+    for (int index = 0; const auto label = m_controller.preferences().modeShortcut(index); ++index)
+        labels.append(m_controller.hotKeys().works({HotKeyAction::Kind::switchMode, index}) ? *label : QString());
+    return labels;
+}
+
+QStringList DockController::appHotKeys() const {
+    QStringList labels;
+    for (int index = 0; const auto label = m_controller.preferences().appShortcut(index); ++index)
+        labels.append(m_controller.hotKeys().works({HotKeyAction::Kind::openApp, index}) ? *label : QString());
+    return labels;
+}
+
+void DockController::openApp(int index) {
+    if (const QString bundleID = m_apps.bundleID(index); !bundleID.isEmpty())
+        m_actions.click(bundleID);
+}
+
 bool DockController::isGateOpen() const {
     return m_controller.gate().blocked().has_value();
 }
@@ -118,7 +164,7 @@ void DockController::openSettings(const QString& pane) {
 }
 
 void DockController::editMode(const QString& modeID) {
-    m_controller.editMode(modeID);
+    m_controller.showModes(modeID);
 }
 
 void DockController::quit() {

@@ -51,6 +51,11 @@ class DockController : public QObject {
     Q_PROPERTY(double magnification READ magnification NOTIFY lookChanged)
     Q_PROPERTY(double shadow READ shadow NOTIFY lookChanged)
     Q_PROPERTY(double border READ border NOTIFY lookChanged)
+    /// The modes for menus: { id, name, symbol, tint, isCurrent, isPending, heldCount, hotKey }.
+    Q_PROPERTY(QVariantList menuModes READ menuModes NOTIFY menuModesChanged)
+    /// The labels of hot keys that work, by position; empty where there is none.
+    Q_PROPERTY(QStringList modeHotKeys READ modeHotKeys NOTIFY hotKeysChanged)
+    Q_PROPERTY(QStringList appHotKeys READ appHotKeys NOTIFY hotKeysChanged)
     Q_PROPERTY(bool isGateOpen READ isGateOpen NOTIFY gateChanged)
 
 public:
@@ -81,7 +86,12 @@ public:
     double magnification() const; ///< factor under the pointer; 1 when the user wants none
     double shadow() const { return look().shadow; }
     double border() const { return look().border; }
+    QVariantList menuModes() const;
+    QStringList modeHotKeys() const;
+    QStringList appHotKeys() const;
     bool isGateOpen() const;
+
+    void openApp(int index); ///< as a click on the one at this position
 
     Q_INVOKABLE void requestMode(const QString& modeID);
     Q_INVOKABLE void showHeld(const QString& modeID, bool isByKeyboard); ///< what is held for the mode
@@ -96,6 +106,8 @@ Q_SIGNALS:
     void replacementChanged();
     void lookChanged();
     void gateChanged();
+    void hotKeysChanged();
+    void menuModesChanged();
 
 private:
     const DockAppearance& look() const;

@@ -3,7 +3,7 @@ import Fendrel.Style
 import Fendrel.Types
 
 // A menu beside the dock, for as long as the item that it belongs to is there. `open` takes a list of entries,
-// { text, value, symbol, tint, isChecked, isQuiet, isGrave }, { header } or { separator: true }, and a function that is
+// { text, hint, value, symbol, tint, isChecked, isQuiet, isGrave }, { header } or { separator: true }, and a function that is
 // called with the value of the chosen one. An entry with a `page`, a list of entries, leads there; a text without either
 // only says something.
 PopupWindow {
@@ -69,6 +69,8 @@ PopupWindow {
         anchors.fill: parent
         anchors.margins: menu.margin
         transformOrigin: Item.Bottom
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+        LayoutMirroring.childrenInherit: true
 
         ParallelAnimation {
             id: appear
@@ -190,14 +192,16 @@ PopupWindow {
                         readonly property bool hasSymbols: menu.entries.some(other => other.symbol || other.isChecked !== undefined)
 
                         width: column.width
-                        implicitWidth: label.x + Math.min(label.implicitWidth, 300) + (hasMark ? 44 : 20)
-                        implicitHeight: modelData.separator ? 9 : modelData.header ? 26 : 32
+                        readonly property int start: hasSymbols && !modelData.header ? 36 : 10
+                        readonly property real hintRoom: hint.text === "" ? 0 : hint.implicitWidth + 22
+                        implicitWidth: start + Math.min(label.implicitWidth, 300 * Theme.textScale) + hintRoom + (hasMark ? 44 : 20)
+                        implicitHeight: modelData.separator ? 9 : label.implicitHeight + (modelData.header ? 12 : 16)
 
                         onIsCurrentChanged: if (isCurrent) forceActiveFocus()
 
                         Accessible.focusable: isEntry
                         Accessible.role: isEntry ? Accessible.MenuItem : Accessible.StaticText
-                        Accessible.name: modelData.text ?? modelData.header ?? ""
+                        Accessible.name: (modelData.text ?? modelData.header ?? "") + (hint.text === "" ? "" : ", " + hint.text)
                         Accessible.ignored: modelData.separator ?? false
                         Accessible.checked: modelData.isChecked ?? false
                         Accessible.onPressAction: column.run(index, true)
@@ -221,8 +225,7 @@ PopupWindow {
                             name: entry.modelData.symbol ?? ""
                             size: 17
                             color: entry.modelData.tint ? menu.colors.tintText(entry.modelData.tint) : menu.colors.secondaryText
-                            x: 10
-                            anchors.verticalCenter: parent.verticalCenter
+                            anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
                         }
                         Label {
                             id: label
@@ -232,13 +235,20 @@ PopupWindow {
                             text: entry.modelData.text ?? entry.modelData.header ?? ""
                             font.pixelSize: entry.modelData.header ? Theme.textSmall : Theme.text
                             font.weight: entry.modelData.header ? Font.DemiBold : Font.Normal
-                            x: entry.hasSymbols && !entry.modelData.header ? 36 : 10
-                            width: Math.min(Math.ceil(implicitWidth), 300)
-                            anchors.verticalCenter: parent.verticalCenter
+                            anchors { left: parent.left; leftMargin: entry.start; verticalCenter: parent.verticalCenter }
+                            width: Math.min(Math.ceil(implicitWidth), 300 * Theme.textScale)
+                        }
+                        Label {
+                            id: hint
+                            anchors { right: parent.right; rightMargin: entry.hasMark ? 34 : 10; verticalCenter: parent.verticalCenter }
+                            colors: menu.colors
+                            color: menu.colors.secondaryText
+                            text: entry.modelData.hint ?? ""
+                            Accessible.ignored: true
                         }
                         Symbol {
                             visible: entry.hasMark
-                            name: entry.modelData.page ? "chevron.right" : "checkmark"
+                            name: !entry.modelData.page ? "checkmark" : entry.LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
                             size: 15
                             color: menu.colors.text
                             anchors.right: parent.right

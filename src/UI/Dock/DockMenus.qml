@@ -37,26 +37,19 @@ QtObject {
         open(item, entries, modeID => verdict.correct(modeID))
     }
 
+    readonly property MainMenu main: MainMenu {
+        dock: menus.dock
+        focusState: menus.focusState
+    }
+
     function chooseFocus(item: Item) {
-        const durations = [{ text: qsTr("Until I end it"), value: 0, symbol: "scope" },
-                           { text: qsTr("25 minutes"), value: 25, symbol: "timer" },
-                           { text: qsTr("50 minutes"), value: 50, symbol: "timer" },
-                           { text: qsTr("90 minutes"), value: 90, symbol: "timer" }]
-        const entries = focusState.isOn
-            ? [{ text: qsTr("End focus session"), value: -1, symbol: "stop" }, { separator: true }, { header: qsTr("Start again") }, ...durations]
-            : [{ header: qsTr("Focus on %1").arg(dock.modeName) }, ...durations]
-        open(item, entries, minutes => minutes < 0 ? focusState.stop() : focusState.start(minutes))
+        offer(item, [...focusState.isOn ? [] : [{ header: qsTr("Focus on %1").arg(dock.modeName) }], ...main.focus()])
     }
 
     // Entries whose values are what is done when they are chosen.
     function offer(item: Item, entries: var) {
         open(item, entries, run => run())
     }
-    // One list out of several, with lines between those that are not empty.
-    function parted(...parts) {
-        return parts.filter(part => part.length > 0).reduce((list, part) => list.length > 0 ? [...list, { separator: true }, ...part] : part, [])
-    }
-
     function showAppMenu(item: Item, bundleID: string, name: string, isRunning: bool, isInMode: bool) {
         const actions = dock.actions
         const entry = window => ({ text: window.title === "" ? name : window.title, value: () => actions.raiseWindow(window.id),
@@ -72,7 +65,7 @@ QtObject {
         const ending = isRunning ? [{ text: qsTr("Quit"), value: () => actions.quit(bundleID), symbol: "stop" },
                                     { text: qsTr("Force Quit"), value: () => actions.forceQuit(bundleID), symbol: "bolt", isGrave: true }] : []
         offer(item, [{ header: name },
-                     ...parted(windows.filter(window => !window.isMinimized).map(entry),
+                     ...main.parted(windows.filter(window => !window.isMinimized).map(entry),
                                windows.filter(window => window.isMinimized).map(entry),
                                [...start, ...another, ...own.map(action => ({ text: action.name, value: () => actions.runAction(bundleID, action.id) }))],
                                membership(bundleID, isInMode), hiding,
@@ -98,7 +91,7 @@ QtObject {
         const change = isCurrent ? [] : [{ text: qsTr("Switch to %1").arg(name), value: () => dock.requestMode(modeID), symbol: "arrow.right" }]
         const held = heldCount === 0 ? [] : [{ text: qsTr("Held Messages (%1)…").arg(heldCount), value: () => dock.showHeld(modeID, isByKeyboard), symbol: "bell.badge" }]
         offer(item, [{ header: name },
-                     ...parted(budget === "" ? [] : [{ text: budget, symbol: "hourglass" }], [...change, ...held],
+                     ...main.parted(budget === "" ? [] : [{ text: budget, symbol: "hourglass" }], [...change, ...held],
                                [{ text: qsTr("Edit Mode…"), value: () => dock.editMode(modeID), symbol: "pencil" },
                                 { text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" },
                                 { text: qsTr("Settings…"), value: () => dock.openSettings("general"), symbol: "gearshape" }])])
@@ -117,7 +110,14 @@ QtObject {
     // Where it is asked for.
     function showDockMenu(item: Item) {
         const spot = panel.pointer()
-        openAt(item, Qt.rect(spot.x, spot.y, 0, 0), dockEntries(), run => run())
+        openAt(item, Qt.rect(spot.x, spot.y, 0, 0), mainEntries(), run => run())
+    }
+    function showMainMenu(item: Item) {
+        offer(item, mainEntries())
+    }
+    // As the status icon has it, which not every desktop has a place for.
+    function mainEntries(): var {
+        return [{ text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" }, { separator: true }, ...main.entries(panel.hasKeyboard)]
     }
     function dockEntries(): var {
         const settings = dock.preferences
@@ -125,10 +125,9 @@ QtObject {
         const flag = (property, text) => ({ text: text, isChecked: settings[property], value: () => settings[property] = !settings[property] })
         const name = dock.systemDock
         const replace = name === "" ? [] : [{ text: qsTr("Replace %1").arg(name), isChecked: dock.replacesDock, value: () => dock.replaceDock(!dock.replacesDock) }]
-        return parted([{ text: qsTr("Position"), page: choice("dockPosition", [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]) },
+        return main.parted([{ text: qsTr("Position"), page: choice("dockPosition", [qsTr("Bottom"), qsTr("Left"), qsTr("Right")]) },
                        { text: qsTr("Size"), page: choice("dockSize", [qsTr("Small"), qsTr("Medium"), qsTr("Large")]) }],
                       [flag("autoHide", qsTr("Hide Automatically")), flag("magnify", qsTr("Magnify Icons")), ...replace],
-                      [{ text: qsTr("Settings…"), value: () => dock.openSettings("dock"), symbol: "gearshape" }],
-                      [{ text: qsTr("Quit Fendrel"), value: () => dock.quit(), symbol: "stop" }])
+                      [{ text: qsTr("Dock Settings…"), value: () => dock.openSettings("dock"), symbol: "gearshape" }])
     }
 }

@@ -142,6 +142,14 @@ void DockPanel::setSwelling(const QRectF& area) {
     Q_EMIT swellingChanged();
 }
 
+void DockPanel::setSurface(const QRectF& area) {
+    if (area == m_surface)
+        return;
+    m_surface = area;
+    updateBlur();
+    Q_EMIT surfaceChanged();
+}
+
 QRect DockPanel::restingPlace() const {
     return m_bar.toAlignedRect().translated(m_frame.topLeft());
 }
@@ -209,6 +217,7 @@ void DockPanel::updateRegions() {
     updateInput(inputArea());
     updateReserved();
     updateMask();
+    updateBlur();
 }
 
 QRect DockPanel::inputArea() const {
@@ -278,6 +287,24 @@ void DockPanel::updateMask() {
         return;
     m_mask = mask;
     setMask(mask);
+}
+
+/// What lies behind the bar, as it is drawn, in a look that wants it blurred.
+void DockPanel::updateBlur() {
+    Panels& panels = *m_controller.platform().panels;
+    QRegion region;
+    if (m_controller.preferences().appearance().blur && panels.canBlur()) {
+        const double ratio = devicePixelRatio();
+        const QRect surface = QRectF(m_surface.topLeft() * ratio, m_surface.size() * ratio).toRect();
+        const double radius = m_dock.cornerRadius() * ratio;
+        QPainterPath outline;
+        outline.addRoundedRect(surface, radius, radius);
+        region = QRegion(outline.toFillPolygon().toPolygon()) & QRect(QPoint(), size() * ratio);
+    }
+    if (region == m_blur)
+        return;
+    m_blur = region;
+    panels.setBlurRegion(winId(), region);
 }
 
 bool DockPanel::event(QEvent* event) {

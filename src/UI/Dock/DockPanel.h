@@ -29,6 +29,7 @@ class DockPanel : public QQuickView {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(QRectF bar READ bar WRITE setBar NOTIFY barChanged)
     Q_PROPERTY(QRectF swelling READ swelling WRITE setSwelling NOTIFY swellingChanged)
+    Q_PROPERTY(QRectF surface READ surface WRITE setSurface NOTIFY surfaceChanged)
     Q_PROPERTY(Qt::Edge edge READ edge NOTIFY edgeChanged)
     Q_PROPERTY(bool isShown READ isShown NOTIFY visibilityWanted)
     Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
@@ -52,6 +53,8 @@ public:
     /// Where icons stand out of the bar under the pointer, in the window; empty while they do not.
     QRectF swelling() const { return m_swelling; }
     void setSwelling(const QRectF& area);
+    QRectF surface() const { return m_surface; } ///< where the bar is drawn now, in the window
+    void setSurface(const QRectF& area);
     Qt::Edge edge() const { return m_edge; }
     bool isShown() const;
     bool isTransparent() const;
@@ -83,6 +86,7 @@ public:
 Q_SIGNALS:
     void barChanged();
     void swellingChanged();
+    void surfaceChanged();
     void edgeChanged();
     void visibilityWanted();
     void transparencyChanged();
@@ -108,6 +112,7 @@ private:
     void updateInput(const QRect& input);
     void updateReserved();
     void updateMask();
+    void updateBlur();
 
     AppController& m_controller;
     DockController& m_dock;
@@ -118,10 +123,12 @@ private:
     QRect m_frame; ///< where the window is meant to be: what the window manager says of it comes late
     QRectF m_bar;
     QRectF m_swelling;
+    QRectF m_surface;
     QRect m_touchable;
     // What the window system was told last. It is told again only when this differs: window managers lay out anew.
     std::optional<QRegion> m_input;
     std::optional<QRect> m_reserved;
+    QRegion m_blur;
     QRegion m_mask;
     bool m_isPointerInside = false;
     bool m_isHeld = false;

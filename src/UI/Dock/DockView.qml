@@ -21,6 +21,7 @@ FocusScope {
     Colors {
         id: lookColors
         isDark: root.dock.isDark
+        isClear: root.panel.isTransparent && root.dock.opacity < 0.85
     }
 
     // Where the bar is when it shows; it slides out from there.
@@ -46,7 +47,7 @@ FocusScope {
         nameLength: modes.longestName
         appCount: apps.count + end.tileCount
         fullIconSize: root.dock.iconSize
-        fullSpacing: Math.max(0, root.spacing - 4)
+        fullSpacing: root.spacing - 4 // icons keep two pixels at least
         swelling: root.swells ? (root.dock.magnification - 1) * 2.5 * (fullIconSize + iconRoom + fullSpacing) : 0
     }
 
@@ -62,8 +63,12 @@ FocusScope {
              : Qt.rect(edge === Qt.LeftEdge ? resting.x + resting.width : resting.x - rise, along, rise, apps.length)
     }
 
+    // Where the bar is drawn: as it swells, and on its way in and out.
+    readonly property rect seen: Qt.rect(surface.area.x + slider.shift.x, surface.area.y + slider.shift.y, surface.area.width, surface.area.height)
+
     Binding { target: root.panel; property: "bar"; value: root.resting; when: root.width > 0 }
     Binding { target: root.panel; property: "swelling"; value: root.swollen }
+    Binding { target: root.panel; property: "surface"; value: root.seen }
     Binding { target: root.panel; property: "isPointerInside"; value: hover.hovered }
     Binding { target: root.panel; property: "isHeld"; value: menu.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive }
 
@@ -103,12 +108,12 @@ FocusScope {
             NumberAnimation { duration: Theme.slow; easing.type: Easing.OutCubic }
         }
 
-        transform: Translate {
-            x: root.edge === Qt.LeftEdge ? -slider.offset : root.edge === Qt.RightEdge ? slider.offset : 0
-            y: root.edge === Qt.BottomEdge ? slider.offset : 0
-        }
+        readonly property point shift: root.edge === Qt.LeftEdge ? Qt.point(-offset, 0)
+            : root.edge === Qt.RightEdge ? Qt.point(offset, 0) : Qt.point(0, offset)
+        transform: Translate { x: slider.shift.x; y: slider.shift.y }
 
         BarSurface {
+            id: surface
             anchors.fill: parent
             colors: lookColors
             panel: root.panel

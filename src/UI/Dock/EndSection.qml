@@ -61,7 +61,7 @@ Line {
         focusState: section.focusState
         tint: section.dock.tint
         onPressed: section.menus.chooseFocus(focusButton)
-        onMenuAsked: pressed()
+        onMenuAsked: section.menus.showMainMenu(focusButton)
     }
 
     BudgetMeter {

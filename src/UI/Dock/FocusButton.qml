@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Shapes
 import Fendrel.Style
 import Fendrel.Types
 
@@ -9,14 +10,16 @@ DockItem {
     required property FocusController focusState
     required property color tint
 
+    readonly property bool isTimed: focusState.isOn && focusState.remaining !== ""
     readonly property color foreground: focusState.isOn ? colors.onTint(tint) : colors.text
     readonly property string text: !focusState.isOn ? qsTr("Focus") : focusState.remaining === "" ? qsTr("Focused") : focusState.remaining
 
     // In steps, so that a minute less moves nothing.
     implicitWidth: isVertical ? 36 : Math.ceil((content.implicitWidth + 24) / 12) * 12
-    implicitHeight: isVertical && focusState.isOn && focusState.remaining !== "" ? 48 : 36
+    implicitHeight: isVertical && isTimed ? 48 : 36
     tipText: !focusState.isOn ? qsTr("Start a focus session")
-           : focusState.remaining === "" ? qsTr("Focus session, until you end it") : qsTr("Focus session, %1 left").arg(focusState.remaining)
+           : isTimed ? qsTr("Focus session, %1 left, until %2").arg(focusState.remaining).arg(focusState.endTime)
+           : qsTr("Focus session, until you end it")
 
     Accessible.role: Accessible.Button
     Accessible.name: tipText
@@ -45,15 +48,44 @@ DockItem {
         horizontalItemAlignment: Grid.AlignHCenter
         verticalItemAlignment: Grid.AlignVCenter
 
-        Symbol {
-            name: "scope"
-            size: 19
-            color: button.foreground
+        Item {
+            width: 19
+            height: 19
+            Symbol {
+                anchors.centerIn: parent
+                visible: !button.isTimed
+                name: "scope"
+                size: 19
+                color: button.foreground
+            }
+            // What is left, as on the dial of a kitchen timer.
+            Shape {
+                anchors.fill: parent
+                visible: button.isTimed
+                ShapePath {
+                    strokeColor: button.colors.faded(button.foreground, 0.3)
+                    strokeWidth: 2.5
+                    fillColor: "transparent"
+                    PathAngleArc { centerX: 9.5; centerY: 9.5; radiusX: 8; radiusY: 8; startAngle: 0; sweepAngle: 360 }
+                }
+                ShapePath {
+                    strokeColor: button.foreground
+                    strokeWidth: 2.5
+                    capStyle: ShapePath.RoundCap
+                    fillColor: "transparent"
+                    PathAngleArc {
+                        centerX: 9.5; centerY: 9.5; radiusX: 8; radiusY: 8
+                        startAngle: -90
+                        sweepAngle: Math.max(1, 360 * button.focusState.hourShare)
+                        Behavior on sweepAngle { NumberAnimation { duration: Theme.slow; easing.type: Easing.OutCubic } }
+                    }
+                }
+            }
         }
         Label {
             colors: button.colors
             color: button.foreground
-            visible: !button.isVertical || (button.focusState.isOn && button.focusState.remaining !== "")
+            visible: !button.isVertical || button.isTimed
             text: button.isVertical ? button.text.split(" ")[0] : button.text
             font.pixelSize: button.isVertical ? Theme.textSmall : Theme.text
             font.weight: Font.DemiBold

@@ -16,6 +16,7 @@ DockItem {
 
     property color background: colors.card // of the bar
     property int pendingSeconds: 0
+    property string hotKey: ""
 
     signal appDropped(bundleID: string)
 
@@ -33,7 +34,8 @@ DockItem {
     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
     tipText: isPending ? qsTr("Switching to %1 in %2 s. Each extra press cuts the wait").arg(shortName.elidedText).arg(pendingSeconds)
-           : heldCount > 0 ? shortName.elidedText + " · " + heldText : name
+           : heldText === "" && hotKey === "" ? name
+           : shortName.elidedText + (heldText === "" ? "" : " · " + heldText) + (hotKey === "" ? "" : " · " + hotKey)
     readonly property string heldText: heldCount === 0 ? "" : qsTr("%n held message(s)", "", heldCount)
     targetText: qsTr("Add to %1").arg(name)
     function takes(load: var): bool { return load.app !== "" }

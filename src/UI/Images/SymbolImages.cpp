@@ -11,8 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Symbols are drawn in lines, the ones that are called filled too.
 QString file(const QString& name) {
-    return u":/symbols/"_s + name + u".svg"_s;
+    const QString outlined = name.endsWith(".fill"_L1) ? name.chopped(5) : name;
+    return u":/symbols/"_s + outlined + u".svg"_s;
 }
 
 } // namespace

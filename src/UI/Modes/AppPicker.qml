@@ -13,7 +13,8 @@ FocusScope {
     signal chosen(bundleID: string)
     signal closed()
 
-    readonly property int rowHeight: 40
+    readonly property real scaling: Math.max(1, Theme.textScale)
+    readonly property int rowHeight: Math.round(40 * scaling)
     implicitHeight: field.height + 8 + results.height
 
     Component.onDestruction: searched("")
@@ -52,17 +53,17 @@ FocusScope {
             color: candidate.activeFocus ? picker.colors.accent : hover.hovered ? picker.colors.hover : "transparent"
         }
         Image {
-            x: 10
-            anchors.verticalCenter: parent.verticalCenter
-            width: 24
-            height: 24
-            sourceSize { width: 48; height: 48 }
+            id: picture
+            anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
+            width: Math.round(24 * picker.scaling)
+            height: width
+            sourceSize { width: picture.width * 2; height: picture.width * 2 }
             source: candidate.icon
             asynchronous: true
             mipmap: true
         }
         Label {
-            anchors { left: parent.left; leftMargin: 44; right: mark.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
+            anchors { left: picture.right; leftMargin: 10; right: mark.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
             colors: picker.colors
             color: candidate.activeFocus ? "white" : picker.colors.text
             text: candidate.name
@@ -72,7 +73,7 @@ FocusScope {
             id: mark
             anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
             name: "plus"
-            size: 15
+            size: Math.round(15 * picker.scaling)
             visible: hover.hovered || candidate.activeFocus
             color: candidate.activeFocus ? "white" : picker.colors.secondaryText
         }

@@ -5,7 +5,7 @@
 namespace fendrel {
 
 namespace {
-enum Role { entryIDRole = Qt::UserRole + 1, nameRole, iconRole };
+enum Role { entryIDRole = Qt::UserRole + 1, nameRole, noteRole, iconRole };
 }
 
 EntriesModel::EntriesModel(std::function<QString(const QString& id)> icon) : m_icon(std::move(icon)) {}
@@ -24,6 +24,8 @@ QVariant EntriesModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case nameRole:
         return row.name;
+    case noteRole:
+        return row.note;
     case iconRole:
         return m_icon(row.id);
     default:
@@ -32,7 +34,7 @@ QVariant EntriesModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> EntriesModel::roleNames() const {
-    return {{entryIDRole, "entryID"}, {nameRole, "name"}, {iconRole, "icon"}};
+    return {{entryIDRole, "entryID"}, {nameRole, "name"}, {noteRole, "note"}, {iconRole, "icon"}};
 }
 
 void EntriesModel::show(const QList<Row>& rows) {

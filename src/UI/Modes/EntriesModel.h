@@ -16,6 +16,7 @@ public:
     struct Row {
         QString id;
         QString name;
+        QString note{}; ///< a remark about it; mostly empty
         bool operator==(const Row&) const = default;
     };
 

@@ -10,6 +10,7 @@ Flow {
     required property string name
     required property EntriesModel entries
     readonly property int count: repeater.count
+    readonly property real scaling: Math.max(1, Theme.textScale)
 
     signal removed(entryID: string)
 
@@ -25,44 +26,59 @@ Flow {
             id: chip
             required property string entryID
             required property string name
+            required property string note
             required property string icon
-            width: content.width + 16
-            height: 34
-            radius: 9
+            readonly property real room: Math.max(60, list.width - 2 * padding - remover.width - content.spacing
+                                                  - (icon === "" ? 0 : picture.width + content.spacing))
+            readonly property int padding: 9
+            width: content.width + 2 * padding
+            height: Math.round(34 * list.scaling)
+            radius: Theme.radius
             color: list.colors.hover
             border.width: 1
             border.color: list.colors.line
             Accessible.role: Accessible.ListItem
             Accessible.name: name
+            Accessible.description: note
 
             Row {
                 id: content
-                x: chip.icon === "" ? 12 : 8
-                width: implicitWidth + (chip.icon === "" ? 4 : 0)
-                anchors.verticalCenter: parent.verticalCenter
+                anchors.centerIn: parent
                 spacing: 7
                 Image {
+                    id: picture
                     visible: chip.icon !== ""
                     anchors.verticalCenter: parent.verticalCenter
-                    width: 20
-                    height: 20
-                    sourceSize { width: 40; height: 40 }
+                    width: Math.round(20 * list.scaling)
+                    height: width
+                    sourceSize { width: picture.width * 2; height: picture.width * 2 }
                     source: chip.icon
                     asynchronous: true
                     mipmap: true
                 }
                 Label {
+                    id: caption
                     anchors.verticalCenter: parent.verticalCenter
+                    width: Math.min(Math.ceil(implicitWidth), 260 * list.scaling, chip.room)
                     colors: list.colors
-                    width: Math.min(Math.ceil(implicitWidth), 280)
                     text: chip.name
+                    Accessible.ignored: true
+                }
+                Label {
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: text !== ""
+                    width: Math.min(Math.ceil(implicitWidth), chip.room - caption.width - content.spacing)
+                    colors: list.colors
+                    color: list.colors.secondaryText
+                    text: chip.note
+                    font.pixelSize: Theme.textSmall
                     Accessible.ignored: true
                 }
                 Item {
                     id: remover
                     anchors.verticalCenter: parent.verticalCenter
-                    width: 22
-                    height: 22
+                    width: Math.round(22 * list.scaling)
+                    height: width
                     activeFocusOnTab: true
                     Accessible.role: Accessible.Button
                     Accessible.name: qsTr("Remove %1").arg(chip.name)
@@ -86,7 +102,7 @@ Flow {
                     Symbol {
                         anchors.centerIn: parent
                         name: "xmark"
-                        size: 13
+                        size: Math.round(13 * list.scaling)
                         color: hover.hovered || remover.activeFocus ? list.colors.text : list.colors.secondaryText
                     }
                     FocusRing { target: remover; targetRadius: 6; gap: 1 }

@@ -4,9 +4,10 @@
 #include "Modes/SiteName.h"
 #include "UI/Countdown.h"
 #include "UI/Images/AppIcons.h"
+#include "UI/Modes/SymbolCatalog.h"
+#include "Widgets/DockWidget.h"
 
-#include <QPointer>
-#include <QUrl>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -53,7 +54,6 @@ QString shortened(const QString& text) {
 ModeEditor::ModeEditor(AppController& controller, AppIcons& icons)
     : m_controller(controller),
       m_mode(controller.engine().current()),
-      m_modes(controller),
       m_apps([&icons](const QString& bundleID) { return icons.source(bundleID); }),
       m_candidates([&icons](const QString& bundleID) { return icons.source(bundleID); }) {
     connect(&controller.engine(), &ModeEngine::changed, this, &ModeEditor::refresh);
@@ -103,8 +103,25 @@ int ModeEditor::allowance() const {
     return static_cast<int>(allowanceChoices(m_mode).indexOf(std::max(m_mode.dailyBudget, Seconds{})));
 }
 
-bool ModeEditor::canDelete() const {
-    return m_controller.engine().modes().size() > 1;
+QString ModeEditor::symbolLabel() const {
+    return fendrel::symbolLabel(m_mode.symbol);
+}
+
+QVariantList ModeEditor::findSymbols(const QString& words) const {
+    QVariantList list;
+    for (const SymbolChoice& symbol : fendrel::findSymbols(words))
+        list.append(QVariantMap{{u"name"_s, symbol.name}, {u"label"_s, symbol.label}});
+    return list;
+}
+
+/// A remark about an entry that other modes list too.
+QString ModeEditor::alsoIn(QStringList Mode::*list, const QString& entry) const {
+    QStringList names;
+    for (const Mode& mode : m_controller.engine().modes()) {
+        if (mode.id != m_mode.id && (mode.*list).contains(entry))
+            names.append(mode.name);
+    }
+    return names.isEmpty() ? QString() : tr("also in %1").arg(QLocale().createSeparatedList(names));
 }
 
 void ModeEditor::edit(const QString& modeID) {
@@ -115,13 +132,19 @@ void ModeEditor::edit(const QString& modeID) {
         Q_EMIT modeChanged();
     if (m_mode.name != old.name)
         Q_EMIT nameChanged();
-    QList<EntriesModel::Row> apps, sites;
+    QList<EntriesModel::Row> apps, sites, widgets;
     for (const QString& bundleID : m_mode.apps)
-        apps.append({.id = bundleID, .name = m_controller.workspace().displayName(bundleID)});
+        apps.append({.id = bundleID,
+                     .name = m_controller.workspace().displayName(bundleID),
+                     .note = alsoIn(&Mode::apps, bundleID)});
     for (const QString& site : m_mode.sites)
-        sites.append({.id = site, .name = shownSite(site)});
+        sites.append({.id = site, .name = shownSite(site), .note = alsoIn(&Mode::sites, site)});
+    for (const WidgetItem& item : widgetItems(m_mode.widgets))
+        widgets.append({.id = kind(item.widget).id(), .name = kind(item.widget).title()});
     m_apps.show(apps);
     m_sites.show(sites);
+    m_widgets.show(widgets);
+    m_widgetKinds.show(m_mode.widgets, m_widgetWords);
     search(m_words);
     Q_EMIT changed();
 }
@@ -135,6 +158,12 @@ void ModeEditor::rename(const QString& name) {
     mode.name = name.simplified();
     if (!mode.name.isEmpty())
         m_controller.engine().update(mode);
+}
+
+void ModeEditor::setSymbol(const QString& symbol) {
+    Mode mode = m_mode;
+    mode.symbol = symbol;
+    m_controller.engine().update(mode);
 }
 
 void ModeEditor::setTint(int tint) {
@@ -163,20 +192,43 @@ void ModeEditor::removeApp(const QString& bundleID) {
     m_controller.engine().removeApp(bundleID, m_mode.id);
 }
 
-QString ModeEditor::addSites(const QString& typed) {
-    QStringList sites;
+QString ModeEditor::addFiles(const QList<QUrl>& files) {
+    const QString modeID = m_mode.id;
+    QStringList others;
+    for (const QUrl& file : files) {
+        if (const auto bundleID = m_controller.workspace().applicationAt(file))
+            m_controller.engine().addApp(*bundleID, modeID);
+        else
+            others.append(shortened(file.fileName()));
+    }
+    return others.isEmpty() ? QString() : tr("%1 is not an application.").arg(others.first());
+}
+
+QVariantMap ModeEditor::addSites(const QString& typed) {
+    const auto answer = [](const QString& text, bool isProblem) {
+        return QVariantMap{{u"text"_s, text}, {u"isProblem"_s, isProblem}};
+    };
+    QStringList sites, known;
     for (const QString& address : typed.simplified().split(u' ', Qt::SkipEmptyParts)) {
         const auto site = typedSite(address);
-        if (!site)
-            return tr("“%1” is not the address of a web site. One looks like example.org.").arg(shortened(address));
+        if (!site) {
+            return answer(
+                tr("“%1” is not the address of a web site. One looks like example.org.").arg(shortened(address)), true);
+        }
         if (m_mode.sites.contains(*site))
-            return tr("%1 is on the list already.").arg(shownSite(*site));
-        sites.append(*site);
+            known.append(shownSite(*site));
+        else
+            sites.append(*site);
     }
     const QString modeID = m_mode.id;
     for (const QString& site : std::as_const(sites))
         m_controller.engine().addSite(site, modeID);
-    return {};
+    if (known.isEmpty())
+        return answer({}, false);
+    return answer(known.size() == 1
+                      ? tr("%1 is on the list already.").arg(known.first())
+                      : tr("%n of them are on the list already.", nullptr, static_cast<int>(known.size())),
+                  false);
 }
 
 void ModeEditor::removeSite(const QString& site) {
@@ -193,14 +245,17 @@ void ModeEditor::search(const QString& words) {
     m_candidates.show(found);
 }
 
-void ModeEditor::askToDelete() {
-    m_controller.onAlert({.message = tr("Delete the mode %1?").arg(m_mode.name),
-                          .informativeText = tr("Its list of applications and web sites is lost. You can't undo this."),
-                          .buttons = {tr("Delete Mode"), tr("Cancel")},
-                          .answered = [self = QPointer(this), modeID = m_mode.id](int button) {
-                              if (self && button == 0)
-                                  self->m_controller.engine().deleteMode(modeID);
-                          }});
+void ModeEditor::chooseWidget(const QString& widget, bool isChosen) {
+    Mode mode = m_mode;
+    mode.widgets.removeAll(widget);
+    if (isChosen)
+        mode.widgets.append(widget);
+    m_controller.engine().update(mode);
+}
+
+void ModeEditor::searchWidgets(const QString& words) {
+    m_widgetWords = words;
+    m_widgetKinds.show(m_mode.widgets, words);
 }
 
 } // namespace fendrel

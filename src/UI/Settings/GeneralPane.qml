@@ -8,39 +8,55 @@ Column {
 
     required property SettingsController settings
     required property Colors colors
-    readonly property Preferences preferences: settings.preferences
 
     width: parent?.width ?? 0
     spacing: 18
+
     SettingsGroup {
         colors: page.colors
-        SettingRow {
+        title: qsTr("Focus")
+        ChoiceRow {
             colors: page.colors
-            label: qsTr("Strictness")
-            help: [qsTr("Switching modes during focus never waits."), qsTr("Switching modes during focus waits as long as the mode says."), qsTr("Modes with a wait take at least half a minute to enter during focus.")][page.preferences.strictness]
-            Choice {
-                colors: page.colors
-                name: qsTr("Strictness")
-                labels: [qsTr("Gentle"), qsTr("Balanced"), qsTr("Strict")]
-                current: page.preferences.strictness
-                onChosen: index => page.preferences.strictness = index
-            }
+            settings: page.settings
+            setting: "strictness"
+            help: [qsTr("Switching modes during focus never waits."), qsTr("Switching modes during focus waits as long as the mode says."), qsTr("Modes with a wait take at least half a minute to enter during focus.")][page.settings.preferences.strictness]
+            labels: [qsTr("Gentle"), qsTr("Balanced"), qsTr("Strict")]
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Tidy up when switching")
-            help: qsTr("Hides the applications that don't belong to the new mode.")
-            Toggle { colors: page.colors; name: qsTr("Tidy up when switching"); isOn: page.preferences.tidyOnSwitch; onToggled: on => page.preferences.tidyOnSwitch = on }
-        }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Offer to send crash reports")
-            help: qsTr("Asks after a crash, and opens your mail app with the report for you to read first.")
-            Toggle { colors: page.colors; name: qsTr("Offer to send crash reports"); isOn: page.preferences.crashReports; onToggled: on => page.preferences.crashReports = on }
-        }
+        ToggleRow { colors: page.colors; settings: page.settings; setting: "focusGlow" }
     }
-    MessageSettings {
+    SettingsGroup {
         colors: page.colors
-        settings: page.settings
+        title: qsTr("Switching")
+        ToggleRow { colors: page.colors; settings: page.settings; setting: "tidyOnSwitch" }
     }
+    KeyboardSettings { colors: page.colors; settings: page.settings }
+    MessageSettings { colors: page.colors; settings: page.settings }
+    SettingsGroup {
+        colors: page.colors
+        title: qsTr("Sound and start")
+        ToggleRow { colors: page.colors; settings: page.settings; setting: "sounds" }
+        CatalogRow {
+            colors: page.colors
+            settings: page.settings
+            setting: "startAtLogin"
+            Toggle { colors: page.colors; name: page.settings.labelOf("startAtLogin"); isOn: page.settings.startsAtLogin; onToggled: on => page.settings.startsAtLogin = on }
+        }
+    }
+    SettingsGroup {
+        colors: page.colors
+        title: qsTr("First steps")
+        SettingRow {
+            colors: page.colors
+            label: qsTr("Show the first steps again")
+            help: qsTr("Adds modes and connects browsers. What you have stays as it is.")
+            PushButton { colors: page.colors; text: qsTr("Show"); Accessible.name: qsTr("Show the first steps again"); onClicked: page.settings.showFirstRun() }
+        }
+    }
+    SettingsGroup {
+        colors: page.colors
+        title: qsTr("Crash reports")
+        ToggleRow { colors: page.colors; settings: page.settings; setting: "crashReports" }
+    }
+    DataSettings { colors: page.colors; settings: page.settings }
+    ResetButton { colors: page.colors; settings: page.settings; pane: "general" }
 }

@@ -1,68 +1,41 @@
 import QtQuick
 import Fendrel.Style
+import Fendrel.Types
 
-// A built-in look of the dock, drawn small.
-Item {
+// A look of the dock, drawn small.
+RadioItem {
     id: card
 
     required property Colors colors
-    required property var look
+    property alias look: picture.look
+    property alias isBlurred: picture.isBlurred
 
-    signal chosen()
-
-    width: 148
-    height: 116
-    activeFocusOnTab: true
-    Accessible.role: Accessible.RadioButton
-    Accessible.name: look.label
-    Accessible.checkable: true
-    Accessible.checked: look.isChosen
-    Accessible.focusable: true
-    Accessible.onPressAction: chosen()
-    Keys.onSpacePressed: chosen()
-    Keys.onReturnPressed: chosen()
+    implicitHeight: caption.y + caption.height
+    height: implicitHeight
 
     Rectangle {
-        id: backdrop
+        anchors { fill: picture; margins: -3 }
+        radius: picture.radius + 3
+        color: "transparent"
+        border.width: 2
+        border.color: card.isChosen ? card.colors.accent : card.isHovered ? card.colors.faded(card.colors.text, 0.3) : "transparent"
+    }
+    LookPreview {
+        id: picture
         width: parent.width
-        height: 84
-        radius: 12
-        color: card.look.isDark ? "#4a5a78" : "#b9cbe4"
-        border.width: card.look.isChosen ? 3 : 1
-        border.color: card.look.isChosen ? card.colors.accent : card.colors.line
-
-        Rectangle {
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: 40
-            width: 112
-            height: 30
-            radius: 9
-            color: card.colors.faded(card.look.background, card.look.opacity)
-            border.width: 1
-            border.color: card.look.isDark ? "#24ffffff" : "#1a000000"
-            Row {
-                anchors.centerIn: parent
-                spacing: 6
-                Repeater {
-                    model: ["#2f7df0", "#f0644f", "#2ea055", "#e89a1c", "#8b5ce6"]
-                    Rectangle {
-                        required property string modelData
-                        width: 15
-                        height: 15
-                        radius: 4
-                        color: modelData
-                    }
-                }
-            }
-        }
+        height: Math.round(width * 0.6)
+        radius: 10
     }
     Label {
-        anchors { top: backdrop.bottom; topMargin: 8; horizontalCenter: parent.horizontalCenter }
+        id: caption
+        anchors { top: picture.bottom; topMargin: 8 }
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
         colors: card.colors
-        text: card.look.label
-        font.weight: card.look.isChosen ? Font.DemiBold : Font.Normal
+        text: card.label
+        font.pixelSize: Theme.textHelp
+        font.weight: card.isChosen ? Font.DemiBold : Font.Normal
         Accessible.ignored: true
     }
-    FocusRing { target: backdrop; targetRadius: 12; visible: card.activeFocus }
-    TapHandler { onTapped: card.chosen() }
+    FocusRing { target: picture; targetRadius: picture.radius; gap: 6; visible: card.activeFocus && !card.isPointed }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Fendrel.Setup
 import Fendrel.Style
 import Fendrel.Types
 
@@ -11,4 +12,26 @@ Column {
 
     width: parent?.width ?? 0
     spacing: 18
+
+    Component.onCompleted: settings.permissions.refresh()
+
+    Label {
+        colors: page.colors
+        color: page.colors.secondaryText
+        width: parent.width
+        text: qsTr("What Fendrel makes use of on this computer. It works without any one of these, only with less.")
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+    SettingsGroup {
+        colors: page.colors
+        Repeater {
+            model: page.settings.permissions
+            CapabilityRow {
+                colors: page.colors
+                permissions: page.settings.permissions
+            }
+        }
+    }
 }

@@ -1,6 +1,7 @@
 #include "UI/Settings/SettingsController.h"
 
 #include "App/AppController.h"
+#include "UI/Settings/SettingsCatalog.h"
 
 #include <QCoreApplication>
 
@@ -14,6 +15,11 @@ SettingsController::SettingsController(AppController& controller, AppIcons& icon
     connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
     connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
     connect(&controller.replacement(), &DockReplacement::changed, this, &SettingsController::dockChanged);
+    controller.platform().loginItem->onChanged = [this] { Q_EMIT stateChanged(); };
+}
+
+SettingsController::~SettingsController() {
+    m_controller.platform().loginItem->onChanged = [] {};
 }
 
 Preferences* SettingsController::preferences() {
@@ -27,10 +33,59 @@ void SettingsController::setPane(const QString& pane) {
     Q_EMIT paneChanged();
 }
 
-ModeEditor* SettingsController::modeEditor() {
-    if (!m_modeEditor)
-        m_modeEditor = std::make_unique<ModeEditor>(m_controller, m_icons);
-    return m_modeEditor.get();
+ModesController* SettingsController::modes() {
+    if (!m_modes)
+        m_modes = std::make_unique<ModesController>(m_controller, m_icons);
+    return m_modes.get();
+}
+
+KeyboardController* SettingsController::keyboard() {
+    if (!m_keyboard)
+        m_keyboard = std::make_unique<KeyboardController>(m_controller);
+    return m_keyboard.get();
+}
+
+LookEditor* SettingsController::lookEditor() {
+    if (!m_lookEditor)
+        m_lookEditor = std::make_unique<LookEditor>(m_controller);
+    return m_lookEditor.get();
+}
+
+PermissionsModel* SettingsController::permissions() {
+    if (!m_permissions)
+        m_permissions = std::make_unique<PermissionsModel>(
+            m_controller, m_icons, std::make_shared<Capabilities>(m_controller), PermissionsModel::Shows::all);
+    return m_permissions.get();
+}
+
+AboutController* SettingsController::about() {
+    if (!m_about)
+        m_about = std::make_unique<AboutController>(m_controller);
+    return m_about.get();
+}
+
+AnswersController* SettingsController::answers() {
+    if (!m_answers)
+        m_answers = std::make_unique<AnswersController>(m_controller, m_icons);
+    return m_answers.get();
+}
+
+DataController* SettingsController::backup() {
+    if (!m_backup)
+        m_backup = std::make_unique<DataController>(m_controller);
+    return m_backup.get();
+}
+
+AccountsController* SettingsController::accounts() {
+    if (!m_accounts)
+        m_accounts = std::make_unique<AccountsController>(m_controller);
+    return m_accounts.get();
+}
+
+WidgetsController* SettingsController::widgets() {
+    if (!m_widgets)
+        m_widgets = std::make_unique<WidgetsController>(m_controller);
+    return m_widgets.get();
 }
 
 bool SettingsController::isDark() const {
@@ -45,6 +100,15 @@ QString SettingsController::messagesProblem() const {
     return m_controller.messages().unavailableReason();
 }
 
+bool SettingsController::startsAtLogin() const {
+    return m_controller.platform().loginItem->isOn();
+}
+
+void SettingsController::setStartsAtLogin(bool on) {
+    m_controller.platform().loginItem->set(on);
+    Q_EMIT stateChanged(); // a switch that could not be turned goes back
+}
+
 bool SettingsController::replacesDock() const {
     return m_controller.replacement().isOn();
 }
@@ -53,30 +117,35 @@ QString SettingsController::systemDock() const {
     return m_controller.replacement().dockName();
 }
 
+void SettingsController::showFirstRun() {
+    m_controller.showOnboarding();
+}
+
 void SettingsController::replaceDock(bool on) {
     m_controller.askToReplaceDock(on);
 }
 
+QString SettingsController::labelOf(const QString& setting) const {
+    return settingsCatalog::entry(setting).label;
+}
+
+QString SettingsController::helpOf(const QString& setting) const {
+    return settingsCatalog::entry(setting).help;
+}
+
+void SettingsController::askToReset(const QString& pane) {
+    m_controller.onAlert({.message = tr("Reset the settings of “%1”?").arg(labelOf(pane)),
+                          .informativeText = tr("They go back to how they were when Fendrel was new. Your modes and "
+                                                "what Fendrel has learned stay."),
+                          .buttons = {tr("Reset"), tr("Cancel")},
+                          .answered = [this, pane](int button) {
+                              if (button == 0)
+                                  m_controller.preferences().reset(settingsCatalog::settingsOf(pane));
+                          }});
+}
+
 QString SettingsController::version() const {
     return QStringLiteral(FENDREL_VERSION);
-}
-
-QVariantList SettingsController::presets() const {
-    QVariantList list;
-    for (const auto& [name, look] : DockAppearance::presets()) {
-        list.append(QVariantMap{{u"name"_s, name},
-                                {u"label"_s, QCoreApplication::translate("DockAppearance", name.toUtf8())},
-                                {u"background"_s, look.background},
-                                {u"opacity"_s, look.opacity},
-                                {u"isDark"_s, look.isDark},
-                                {u"isChosen"_s, look == m_controller.preferences().appearance()}});
-    }
-    return list;
-}
-
-void SettingsController::choosePreset(const QString& name) {
-    if (const auto look = DockAppearance::preset(name))
-        m_controller.preferences().setAppearance(*look);
 }
 
 } // namespace fendrel

@@ -19,10 +19,18 @@ Dialog::Dialog(QQmlEngine& engine, const QString& title, const QString& view, co
     setResizeMode(SizeRootObjectToView);
     if (rootObject())
         rootObject()->setFocus(true); // or no key reaches the view
-    if (size.isEmpty() && rootObject())
-        size = QSizeF(rootObject()->implicitWidth(), rootObject()->implicitHeight()).toSize();
     m_wanted = size;
-    place();
+    if (size.isEmpty() && rootObject()) {
+        const auto fit = [this] {
+            m_wanted = QSizeF(rootObject()->implicitWidth(), rootObject()->implicitHeight()).toSize();
+            place();
+        };
+        connect(rootObject(), &QQuickItem::implicitWidthChanged, this, fit);
+        connect(rootObject(), &QQuickItem::implicitHeightChanged, this, fit);
+        fit();
+    } else {
+        place();
+    }
     connect(screen(), &QScreen::availableGeometryChanged, this, [this] {
         if (isWhereItWasPut())
             place();
@@ -44,6 +52,12 @@ void Dialog::place() {
 bool Dialog::isWhereItWasPut() const {
     constexpr int tolerance = 40;
     return size() == m_placed.size() && (position() - m_placed.topLeft()).manhattanLength() <= tolerance;
+}
+
+void Dialog::showOver(QWindow* parent) {
+    setTransientParent(parent);
+    setModality(Qt::WindowModal);
+    present();
 }
 
 void Dialog::present() {

@@ -2,114 +2,114 @@ import QtQuick
 import Fendrel.Style
 import Fendrel.Types
 
-// The first run: a person picks the modes to start with.
+// The first run: four pages, led through from below.
 FocusScope {
     id: root
 
     required property FirstRunController firstRun
+    readonly property int margin: 40
+    readonly property bool isLast: firstRun.page === firstRun.pageCount - 1
+
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+    Keys.onEscapePressed: firstRun.leave()
 
     Colors {
         id: viewColors
         isDark: root.firstRun.isDark
     }
-
-    property var chosen: firstRun.starters
-    function toggle(modeID: string) {
-        chosen = chosen.includes(modeID) ? chosen.filter(other => other !== modeID) : [...chosen, modeID]
-    }
-
     Rectangle {
         anchors.fill: parent
         color: viewColors.window
     }
 
-    Column {
-        id: heading
-        x: 40
-        y: 36
-        width: parent.width - 80
-        spacing: 8
-
-        Label {
-            colors: viewColors
-            text: qsTr("What do you want to get done?")
-            font.pixelSize: Theme.headline
-            font.weight: Font.Bold
-            width: parent.width
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-        Label {
-            colors: viewColors
-            color: viewColors.secondaryText
-            text: qsTr("Pick the modes to start with. Fendrel keeps you in one of them at a time, and asks before you drift into another. Applications can be added and removed later, in the dock.")
-            font.pixelSize: Theme.textLarge
-            lineHeight: 1.25
-            wrapMode: Text.Wrap
-            width: parent.width
-        }
-    }
-
     Flickable {
         id: scroller
-        anchors { left: parent.left; right: parent.right; top: heading.bottom; bottom: footer.top; topMargin: 22 }
-        contentHeight: grid.height + 8
-        clip: contentHeight > height
-        boundsBehavior: Flickable.StopAtBounds
 
-        // Below the scroller's edge nobody sees where the keyboard is.
-        function reveal(item: Item) {
-            const room = 6
-            contentY = Math.max(item.y + item.height + room - height, Math.min(Math.max(0, item.y - room), contentY))
+        // What the keyboard goes to is to be seen.
+        readonly property Item focused: Window.activeFocusItem
+        onFocusedChanged: {
+            let parent = focused
+            while (parent && parent !== page)
+                parent = parent.parent
+            if (!parent)
+                return
+            const top = focused.mapToItem(contentItem, 0, 0).y
+            const wanted = Math.max(top + focused.height + 24 - height, Math.min(top - 24, contentY))
+            contentY = Math.max(0, Math.min(contentHeight - height, wanted))
         }
 
-        Grid {
-            id: grid
-            x: 40
-            columns: 2
-            spacing: 14
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: footer.top }
+        contentHeight: page.height + page.y + 20
+        boundsBehavior: Flickable.StopAtBounds
+        clip: contentHeight > height
 
-            Repeater {
-                model: root.firstRun.templates
-
-                ModeCard {
-                    id: card
-                    required property var modelData
-                    width: (scroller.width - 80 - 14) / 2
-                    colors: viewColors
-                    mode: modelData
-                    isChosen: root.chosen.includes(modelData.modeID)
-                    onToggled: root.toggle(modelData.modeID)
-                    onActiveFocusChanged: if (activeFocus) scroller.reveal(card)
+        Loader {
+            id: page
+            x: root.margin
+            y: 34
+            width: scroller.width - 2 * root.margin
+            readonly property int number: root.firstRun.page
+            onNumberChanged: show()
+            Component.onCompleted: show()
+            function show() {
+                // The keyboard would go with the page that goes.
+                for (let item = scroller.focused; item; item = item.parent) {
+                    if (item === page)
+                        next.forceActiveFocus(Qt.OtherFocusReason)
                 }
+                scroller.contentY = 0
+                setSource(["ModesPage.qml", "BrowsersPage.qml", "ProblemsPage.qml", "StartPage.qml"][number],
+                          { firstRun: root.firstRun, colors: viewColors })
+                appearing.restart()
             }
+            NumberAnimation on opacity { id: appearing; from: 0; to: 1; duration: Theme.slow; easing.type: Easing.OutCubic }
         }
     }
 
     Item {
         id: footer
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: 84
+        height: next.height + 40
 
         Rectangle { width: parent.width; height: 1; color: viewColors.line }
 
-        Label {
-            x: 40
-            anchors.verticalCenter: parent.verticalCenter
+        PushButton {
+            id: back
+            anchors { left: parent.left; leftMargin: root.margin; verticalCenter: parent.verticalCenter }
             colors: viewColors
-            color: viewColors.secondaryText
-            text: qsTr("%n mode(s) chosen", "", root.chosen.length)
+            text: root.firstRun.page === 0 ? qsTr("Not Now") : qsTr("Back")
+            onClicked: root.firstRun.page === 0 ? root.firstRun.leave() : root.firstRun.page--
+        }
+        Row {
+            id: dots
+            anchors.centerIn: parent
+            spacing: 9
+            Accessible.role: Accessible.StaticText
+            Accessible.name: qsTr("Page %1 of %2").arg(root.firstRun.page + 1).arg(root.firstRun.pageCount)
+            Repeater {
+                model: root.firstRun.pageCount
+                Rectangle {
+                    required property int index
+                    readonly property bool isCurrent: index === root.firstRun.page
+                    width: isCurrent ? 22 : 8
+                    height: 8
+                    radius: 4
+                    color: isCurrent ? viewColors.accent : viewColors.faded(viewColors.text, 0.22)
+                    Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
+                }
+            }
         }
         PushButton {
-            anchors { right: parent.right; rightMargin: 40; verticalCenter: parent.verticalCenter }
-            width: 160
-            height: 44
+            id: next
+            anchors { right: parent.right; rightMargin: root.margin; verticalCenter: parent.verticalCenter }
+            width: Math.max(implicitWidth, 150)
             colors: viewColors
             isFilled: true
-            isEnabled: root.chosen.length > 0
+            isEnabled: root.firstRun.chosen.length > 0
             focus: true
-            text: qsTr("Start")
-            onClicked: root.firstRun.finish(root.chosen)
+            text: !root.isLast ? qsTr("Continue") : root.firstRun.isRepeat ? qsTr("Done") : qsTr("Start")
+            onClicked: root.isLast ? root.firstRun.finish() : root.firstRun.page++
         }
     }
 }

@@ -11,17 +11,18 @@ Item {
 
     signal toggled()
 
-    implicitHeight: 84
+    implicitHeight: Math.max(84, words.height + 32)
     activeFocusOnTab: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: mode.name
-    Accessible.description: applications
+    Accessible.description: exists ? qsTr("You have it already") : applications
     Accessible.checkable: true
     Accessible.checked: isChosen
     Accessible.focusable: true
     Accessible.onPressAction: toggled()
     Accessible.onToggleAction: toggled()
 
+    readonly property bool exists: mode.exists
     readonly property string applications: mode.apps.length === 0 ? qsTr("Web sites only, so far") : mode.apps.slice(0, 3).join(", ")
 
     Keys.onSpacePressed: toggled()
@@ -41,8 +42,7 @@ Item {
 
     Rectangle {
         id: badge
-        x: 16
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
         width: 48
         height: 48
         radius: 14
@@ -57,20 +57,23 @@ Item {
     }
 
     Column {
+        id: words
         anchors { left: badge.right; leftMargin: 14; right: check.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
         spacing: 6
 
         Label {
             colors: card.colors
             text: card.mode.name
-            font.pixelSize: 16
+            font.pixelSize: Theme.textLarge + 1
             font.weight: Font.DemiBold
+            wrapMode: Text.Wrap
             width: parent.width
             Accessible.ignored: true
         }
         Row {
+            width: parent.width
             spacing: 5
-            visible: card.mode.icons.length > 0
+            visible: card.mode.icons.length > 0 && !card.exists
             Repeater {
                 model: card.mode.icons.slice(0, 6)
                 Image {
@@ -88,9 +91,10 @@ Item {
         Label {
             colors: card.colors
             color: card.colors.secondaryText
-            visible: card.mode.icons.length === 0
-            text: card.applications
-            font.pixelSize: 12
+            visible: card.mode.icons.length === 0 || card.exists
+            text: card.exists ? qsTr("You have it already") : card.applications
+            font.pixelSize: Theme.textHelp
+            wrapMode: Text.Wrap
             width: parent.width
             Accessible.ignored: true
         }
@@ -98,6 +102,7 @@ Item {
 
     Rectangle {
         id: check
+        opacity: card.exists ? 0.45 : 1
         anchors { right: parent.right; rightMargin: 16; verticalCenter: parent.verticalCenter }
         width: 24
         height: 24
@@ -116,6 +121,6 @@ Item {
 
     FocusRing { target: card; targetRadius: 16 }
 
-    HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }
+    HoverHandler { id: hover; cursorShape: card.exists ? Qt.ArrowCursor : Qt.PointingHandCursor }
     TapHandler { id: tap; onTapped: card.toggled() }
 }

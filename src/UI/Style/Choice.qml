@@ -1,7 +1,7 @@
 import QtQuick
 
-// One of a few values, all in sight.
-Item {
+// One of a few values, all in sight: side by side, or below one another where there is no room for that.
+FocusScope {
     id: choice
 
     required property Colors colors
@@ -11,36 +11,68 @@ Item {
 
     signal chosen(index: int)
 
-    implicitWidth: row.implicitWidth + 4
-    implicitHeight: 32
-    activeFocusOnTab: true
+    readonly property real room: (parent as SettingSlot)?.room ?? implicitWidth
+    readonly property bool isStacked: implicitWidth > room
+    readonly property bool isMirrored: LayoutMirroring.enabled
+    readonly property real lineHeight: Math.ceil(metrics.height) + 12
+    readonly property int inset: 2
+
+    // Measured bold, as the chosen one is drawn: the others would move when one is chosen.
+    readonly property var widths: {
+        let all = []
+        for (let index = 0; index < labels.length; ++index)
+            all.push(Math.ceil(metrics.advanceWidth(labels[index]) + 1.8 * metrics.height))
+        return all
+    }
+
+    implicitWidth: widths.reduce((sum, width) => sum + width, 2 * inset)
+    width: Math.min(implicitWidth, room)
+    height: (isStacked ? labels.length : 1) * lineHeight + 2 * inset
+    implicitHeight: lineHeight + 2 * inset
     Accessible.role: Accessible.Grouping
     Accessible.name: name
-    Accessible.focusable: true
 
-    Keys.onLeftPressed: if (current > 0) chosen(current - 1)
-    Keys.onRightPressed: if (current < labels.length - 1) chosen(current + 1)
+    Keys.onLeftPressed: step(isMirrored ? 1 : -1)
+    Keys.onRightPressed: step(isMirrored ? -1 : 1)
+    Keys.onUpPressed: step(-1)
+    Keys.onDownPressed: step(1)
 
+    function step(by: int) {
+        const next = segments.itemAt(current + by)
+        if (!next)
+            return
+        chosen(current + by)
+        next.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    FontMetrics {
+        id: metrics
+        font.pixelSize: Theme.text
+        font.weight: Font.DemiBold
+    }
     Rectangle {
         anchors.fill: parent
         radius: 9
         color: choice.colors.pressed
     }
-    Row {
-        id: row
-        x: 2
-        y: 2
+    Grid {
+        id: grid
+        anchors { fill: parent; margins: choice.inset }
+        columns: choice.isStacked ? 1 : Math.max(1, choice.labels.length)
         Repeater {
+            id: segments
             model: choice.labels
             Item {
                 id: segment
                 required property string modelData
                 required property int index
                 readonly property bool isCurrent: choice.current === index
-                width: label.implicitWidth + 28
-                height: 28
+                width: choice.isStacked ? grid.width : choice.widths[index]
+                height: choice.lineHeight
+                activeFocusOnTab: isCurrent || (choice.current < 0 && index === 0)
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: modelData
+                Accessible.focusable: true
                 Accessible.checkable: true
                 Accessible.checked: isCurrent
                 Accessible.onPressAction: choice.chosen(index)
@@ -48,23 +80,25 @@ Item {
                 Rectangle {
                     anchors.fill: parent
                     radius: 7
-                    color: segment.isCurrent ? choice.colors.card : "transparent"
+                    color: segment.isCurrent ? choice.colors.card : hover.hovered ? choice.colors.hover : "transparent"
                     border.width: segment.isCurrent ? 1 : 0
                     border.color: choice.colors.line
                     Behavior on color { ColorAnimation { duration: Theme.quick } }
                 }
                 Label {
-                    id: label
-                    anchors.centerIn: parent
+                    anchors { fill: parent; leftMargin: 6; rightMargin: 6 }
                     colors: choice.colors
                     color: segment.isCurrent ? choice.colors.text : choice.colors.secondaryText
                     text: segment.modelData
                     font.weight: segment.isCurrent ? Font.DemiBold : Font.Normal
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
                     Accessible.ignored: true
                 }
+                HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }
                 TapHandler { onTapped: choice.chosen(segment.index) }
             }
         }
     }
-    FocusRing { target: choice; targetRadius: 9 }
+    FocusRing { target: choice; targetRadius: 9; }
 }

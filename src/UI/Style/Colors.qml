@@ -5,23 +5,24 @@ QtObject {
     id: colors
 
     required property bool isDark
+    property bool isClear: false // what lies behind shines through, and leaves nothing of quieter text
 
     readonly property color window: isDark ? "#1b1c20" : "#f5f5f7"
     readonly property color card: isDark ? "#26272c" : "#ffffff"
     readonly property bool isStrong: Theme.increasesContrast
     readonly property color text: isStrong ? (isDark ? "#ffffff" : "#000000") : isDark ? "#f3f4f6" : "#1c1d21"
-    readonly property color secondaryText: isStrong ? text : isDark ? "#a7abb4" : "#5c606a"
+    readonly property color secondaryText: isStrong || isClear ? text : isDark ? "#a7abb4" : "#5c606a"
     readonly property color line: isStrong ? (isDark ? "#b3ffffff" : "#b3000000") : isDark ? "#1fffffff" : "#1a000000"
     readonly property color hover: isStrong ? (isDark ? "#33ffffff" : "#24000000") : isDark ? "#14ffffff" : "#0d000000"
     readonly property color pressed: isStrong ? (isDark ? "#59ffffff" : "#47000000") : isDark ? "#24ffffff" : "#1a000000"
     readonly property color field: isDark ? "#1f2025" : "#f3f4f6"
-    readonly property color accent: "#2f7df0"
+    readonly property color accent: "#1f6fe5"
     readonly property color grave: isDark ? "#ff7b6e" : "#c8281e" // what loses something
     readonly property color warning: isDark ? "#f5b13d" : "#a15c00"
 
-    // Text or symbols on a filled tint: white, but dark where white would have a contrast below 3.
+    // Text or symbols on a filled tint: white, or black where white would have a contrast below 4.5.
     function onTint(tint: color): color {
-        return luminance(tint) > 0.3 ? "#1c1d21" : "#ffffff"
+        return luminance(tint) > 0.18 ? "#000000" : "#ffffff"
     }
 
     // The tint as text or symbol on this window's background: shifted until it can be read.

@@ -6,6 +6,7 @@ Text {
 
     color: colors.text
     font.pixelSize: Theme.text
+    horizontalAlignment: Text.AlignLeft // said outright, it mirrors with the layout
     elide: Text.ElideRight
     textFormat: Text.PlainText
     renderType: Text.QtRendering

@@ -19,7 +19,8 @@ Item {
                                    + (detail === "" ? 0 : Math.ceil(detailText.implicitWidth) + content.spacing)
 
     implicitWidth: Math.ceil(caption.implicitWidth) + beside + 2 * padding
-    implicitHeight: 40
+    implicitHeight: Math.max(40, Math.ceil(caption.implicitHeight) + 20)
+    width: Math.min(implicitWidth, (parent as SettingSlot)?.room ?? implicitWidth)
     opacity: isEnabled ? 1 : 0.45
     activeFocusOnTab: isEnabled
 
@@ -68,7 +69,7 @@ Item {
         Symbol {
             id: mark
             name: button.symbol
-            size: 17
+            size: Math.round(17 * Theme.textScale)
             color: button.foreground
             visible: button.symbol !== ""
             anchors.verticalCenter: parent.verticalCenter

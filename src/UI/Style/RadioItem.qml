@@ -23,9 +23,9 @@ Item {
     Accessible.onPressAction: chosen()
 
     Keys.onPressed: isPointed = false
-    Keys.onLeftPressed: row.step(index, -1)
+    Keys.onLeftPressed: row.step(index, LayoutMirroring.enabled ? 1 : -1)
     Keys.onUpPressed: row.step(index, -1)
-    Keys.onRightPressed: row.step(index, 1)
+    Keys.onRightPressed: row.step(index, LayoutMirroring.enabled ? -1 : 1)
     Keys.onDownPressed: row.step(index, 1)
 
     HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }

@@ -13,10 +13,10 @@ Flow {
 
     function step(from: int, by: int) {
         const next = repeater.itemAt(from + by) as RadioItem
-        if (!next)
+        if (!next || !next.visible)
             return
+        next.forceActiveFocus(Qt.TabFocusReason) // first: what has the keyboard must stay in the order of tabs
         next.chosen()
-        next.forceActiveFocus(Qt.TabFocusReason)
     }
 
     Repeater { id: repeater }

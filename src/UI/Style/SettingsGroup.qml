@@ -5,13 +5,31 @@ Item {
     id: group
 
     required property Colors colors
+    property string title: ""
     default property alias rows: column.data
 
-    width: parent.width
-    height: column.height
+    width: parent?.width ?? 0
+    implicitHeight: card.y + column.height
+    height: implicitHeight
 
+    Label {
+        id: heading
+        anchors { left: parent.left; leftMargin: 18; right: parent.right; rightMargin: 18 }
+        colors: group.colors
+        color: group.colors.secondaryText
+        text: group.title
+        visible: text !== ""
+        font.pixelSize: Theme.textHelp
+        font.weight: Font.DemiBold
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
     Rectangle {
-        anchors.fill: parent
+        id: card
+        y: heading.visible ? heading.height + 8 : 0
+        width: parent.width
+        height: column.height
         radius: 14
         color: group.colors.card
         border.width: 1
@@ -19,6 +37,7 @@ Item {
     }
     Column {
         id: column
+        y: card.y
         width: parent.width
     }
 }

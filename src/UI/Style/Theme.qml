@@ -8,6 +8,8 @@ QtObject {
     property bool reducesMotion: false
     // The same: for more contrast.
     property bool increasesContrast: false
+    // The same: for larger or smaller text. What surrounds text grows with it.
+    property real textScale: 1
 
     readonly property int unit: 4
 
@@ -15,11 +17,12 @@ QtObject {
     readonly property int radius: 10
     readonly property int radiusLarge: 18
 
-    readonly property int textSmall: 11
-    readonly property int text: 13
-    readonly property int textLarge: 15
-    readonly property int title: 20
-    readonly property int headline: 26
+    readonly property int textSmall: Math.round(11 * textScale)
+    readonly property int textHelp: Math.round(12 * textScale)
+    readonly property int text: Math.round(13 * textScale)
+    readonly property int textLarge: Math.round(15 * textScale)
+    readonly property int title: Math.round(20 * textScale)
+    readonly property int headline: Math.round(26 * textScale)
 
     readonly property int quick: reducesMotion ? 0 : 110
     readonly property int normal: reducesMotion ? 0 : 190

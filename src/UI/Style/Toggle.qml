@@ -10,8 +10,11 @@ Item {
 
     signal toggled(on: bool)
 
-    implicitWidth: 42
-    implicitHeight: 26
+    readonly property real scaling: Math.min(1.6, Math.max(1, Theme.textScale))
+    readonly property bool isAtEnd: isOn !== LayoutMirroring.enabled
+
+    implicitWidth: Math.round(42 * scaling)
+    implicitHeight: Math.round(26 * scaling)
     activeFocusOnTab: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: name
@@ -27,23 +30,26 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: toggle.isOn ? toggle.colors.accent : toggle.colors.pressed
+        color: toggle.isOn ? hover.hovered ? Qt.lighter(toggle.colors.accent, 1.08) : toggle.colors.accent
+             : hover.hovered ? toggle.colors.faded(toggle.colors.text, 0.22) : toggle.colors.pressed
         border.width: toggle.isOn ? 0 : 1
         border.color: toggle.colors.line
         Behavior on color { ColorAnimation { duration: Theme.quick } }
     }
     Rectangle {
-        width: 20
-        height: 20
-        radius: 10
-        y: 3
-        x: toggle.isOn ? parent.width - width - 3 : 3
+        readonly property int inset: 3
+        width: height
+        height: parent.height - 2 * inset
+        radius: height / 2
+        y: inset
+        x: toggle.isAtEnd ? parent.width - width - inset : inset
         color: "white"
         border.width: 1
         border.color: "#14000000"
         Behavior on x { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
     }
 
-    FocusRing { target: toggle; targetRadius: 13 }
+    FocusRing { target: toggle; targetRadius: toggle.height / 2 }
+    HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }
     TapHandler { onTapped: toggle.toggled(!toggle.isOn) }
 }

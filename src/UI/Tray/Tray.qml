@@ -1,18 +1,24 @@
 import QtQuick
 import Qt.labs.platform as Platform
+import Fendrel.Dock
 import Fendrel.Types
 
-// The status icon: modes, focus and quitting, for desktops that have a place for such icons.
+// The status icon, in the mode's tint, for desktops that have a place for such icons.
 Platform.SystemTrayIcon {
     id: tray
 
     required property DockController dock
     required property FocusController focusState
-    required property string iconName
+
+    readonly property MainMenu main: MainMenu {
+        dock: tray.dock
+        focusState: tray.focusState
+    }
+    readonly property var mode: main.allModes.find(mode => mode.isCurrent)
+    readonly property string tint: dock.tint.toString().substring(1)
 
     visible: true
-    icon.name: iconName
-    icon.source: "image://symbol/scope/ff808080"
+    icon.source: "image://tray/" + mode.symbol + "/" + (tint.length === 6 ? "ff" : "") + tint + "/" + (focusState.isOn ? "focus" : "rest")
     tooltip: !focusState.isOn ? "Fendrel · " + dock.modeName
            : focusState.remaining === "" ? qsTr("%1 · focused").arg(dock.modeName)
            : qsTr("%1 · %2 left").arg(dock.modeName).arg(focusState.remaining)
@@ -20,54 +26,48 @@ Platform.SystemTrayIcon {
     menu: Platform.Menu {
         id: menu
 
-        Instantiator {
-            model: tray.dock.modes
-            delegate: Platform.MenuItem {
-                required property string modeID
-                required property string name
-                required property bool isCurrent
-                required property bool isPending
-                text: isPending ? qsTr("%1 (switching in %2 s)").arg(name).arg(tray.focusState.pendingSeconds) : name
-                checkable: true
-                checked: isCurrent
-                onTriggered: {
-                    checked = Qt.binding(() => isCurrent)
-                    tray.dock.requestMode(modeID)
+        // Its items stay while only their words change, or a menu that is open would be made anew every second.
+        readonly property var entries: tray.main.entries(false)
+        readonly property string shape: entries.map(entry => entry.page ? ">" : "-").join("")
+
+        readonly property Instantiator maker: Instantiator {
+            model: menu.shape.split("")
+            delegate: QtObject {
+                id: row
+                required property int index
+                required property string modelData
+                readonly property bool isPage: modelData === ">"
+                readonly property var entry: menu.entries[index] ?? ({})
+                property Platform.MenuItem item
+                property Platform.Menu page
+            }
+            onObjectAdded: (index, row) => {
+                if (row.isPage) {
+                    row.page = menu.pageMaker.createObject(row, { row: row })
+                    menu.insertMenu(index, row.page)
+                } else {
+                    row.item = menu.itemMaker.createObject(row, { row: row })
+                    menu.insertItem(index, row.item)
                 }
             }
-            onObjectAdded: (index, object) => menu.insertItem(index, object)
-            onObjectRemoved: (index, object) => menu.removeItem(object)
-        }
-        Platform.MenuSeparator {}
-        Platform.MenuItem {
-            text: qsTr("Start Focus")
-            visible: !tray.focusState.isOn
-            onTriggered: tray.focusState.start(0)
-        }
-        Instantiator {
-            model: [25, 50, 90]
-            delegate: Platform.MenuItem {
-                required property int modelData
-                text: qsTr("Focus for %1 Minutes").arg(modelData)
-                visible: !tray.focusState.isOn
-                onTriggered: tray.focusState.start(modelData)
+            onObjectRemoved: (index, row) => {
+                if (row.isPage)
+                    menu.removeMenu(row.page)
+                else
+                    menu.removeItem(row.item)
             }
-            onObjectAdded: (index, object) => menu.insertItem(tray.dock.modes.rowCount() + 2 + index, object)
-            onObjectRemoved: (index, object) => menu.removeItem(object)
         }
-        Platform.MenuItem {
-            text: tray.focusState.remaining === "" ? qsTr("End Focus") : qsTr("End Focus (%1 left)").arg(tray.focusState.remaining)
-            visible: tray.focusState.isOn
-            onTriggered: tray.focusState.stop()
+        readonly property Component itemMaker: Component {
+            TrayItem {
+                required property var row
+                entry: row.entry
+            }
         }
-        Platform.MenuSeparator {}
-        Platform.MenuItem {
-            text: qsTr("Settings…")
-            onTriggered: tray.dock.openSettings("general")
-        }
-        Platform.MenuItem {
-            text: qsTr("Quit Fendrel")
-            onTriggered: tray.dock.quit()
+        readonly property Component pageMaker: Component {
+            TrayPage {
+                required property var row
+                entry: row.entry
+            }
         }
     }
 }

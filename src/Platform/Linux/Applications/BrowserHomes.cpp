@@ -21,7 +21,9 @@ QList<BrowserHome> browserHomes(const QString& home, const QString& config) {
                                       : data + (isMozilla ? u"/native-messaging-hosts"_s : u"/NativeMessagingHosts"_s);
         homes.append({.data = data,
                       .manifests = manifests,
-                      .family = isMozilla ? BrowserHome::Family::mozilla : BrowserHome::Family::chromium});
+                      .family = isMozilla ? BrowserHome::Family::mozilla : BrowserHome::Family::chromium,
+                      .name = browser[u"name"].toString(),
+                      .bundleID = browser[u"bundleID"].toString()});
     }
     return homes;
 }

@@ -7,6 +7,9 @@
 #include <QMap>
 #include <QVariantMap>
 
+#include <algorithm>
+#include <cmath>
+
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
@@ -18,6 +21,7 @@ const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString interface = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString gnomeInterface = u"org.gnome.desktop.interface"_s;
+const ConfigurationKey textScalingFactor{.schema = gnomeInterface, .key = u"text-scaling-factor"_s};
 
 } // namespace
 
@@ -33,8 +37,16 @@ Look lookFrom(const PortalWishes& portal, const QString& themeName, std::optiona
             .increasesContrast = portal.contrast == 1U || isContrastTheme};
 }
 
-PortalLook::PortalLook(std::shared_ptr<DesktopSettings> settings)
+double textScaleFrom(std::optional<double> wanted, double drawnScale) {
+    const bool isDrawn = std::abs(drawnScale - 1) > 0.01;
+    const bool isUsable = wanted && std::isfinite(*wanted);
+    return isDrawn || !isUsable ? 1 : std::clamp(*wanted, 0.5, 3.0);
+}
+
+PortalLook::PortalLook(std::shared_ptr<DesktopSettings> settings, std::shared_ptr<DesktopConfiguration> configuration)
     : m_settings(std::move(settings)),
+      m_configuration(std::move(configuration)),
+      m_configurationWatch(m_configuration->watch(textScalingFactor, [this] { refresh(); })),
       m_portal(service, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForRegistration) {
     connect(m_settings.get(), &DesktopSettings::changed, this, &PortalLook::refresh);
     connect(&m_portal, &QDBusServiceWatcher::serviceRegistered, this, &PortalLook::ask);
@@ -77,10 +89,16 @@ void PortalLook::take(const QString& group, const QString& key, const QVariant& 
         m_wishes.contrast = value.toUInt();
     else if (group == gnomeInterface && key == "enable-animations"_L1)
         m_wishes.animates = value.toBool();
+    else if (group == gnomeInterface && key == textScalingFactor.key)
+        m_wishes.textScale = value.toDouble();
 }
 
 void PortalLook::refresh() {
-    const Look look = lookFrom(m_wishes, m_settings->themeName(), m_settings->prefersDark(), m_settings->animates());
+    Look look = lookFrom(m_wishes, m_settings->themeName(), m_settings->prefersDark(), m_settings->animates());
+    auto wantedScale = m_wishes.textScale;
+    if (const auto configured = wantedScale ? std::nullopt : m_configuration->value(textScalingFactor))
+        wantedScale = configured->toDouble();
+    look.textScale = textScaleFrom(wantedScale, m_settings->drawnScale());
     if (std::exchange(m_look, look) != look)
         onChanged();
 }

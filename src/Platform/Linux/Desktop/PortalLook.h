@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Linux/Desktop/DesktopConfiguration.h"
 #include "Platform/Linux/X11/DesktopSettings.h"
 #include "Ports/SystemLook.h"
 
@@ -17,6 +18,7 @@ struct PortalWishes {
     std::optional<uint> reducedMotion{}; ///< 1 reduced
     std::optional<bool> animates{};
     std::optional<uint> contrast{}; ///< 1 more
+    std::optional<double> textScale{};
 };
 
 struct Look {
@@ -31,12 +33,16 @@ struct Look {
 Look lookFrom(const PortalWishes& portal, const QString& themeName, std::optional<bool> prefersDark,
               std::optional<bool> animates);
 
+/// The factor on text that is left to us. A settings daemon may pass the user's factor on as a resolution, and by that
+/// the toolkit scales all that it draws: `drawnScale` is what it was told so, 1 for nothing.
+double textScaleFrom(std::optional<double> wanted, double drawnScale);
+
 /// The look that the user chose in the desktop's settings. Main thread. Asks the portal without waiting for it and
 /// without starting it; until it answers, the desktop's other settings count.
 class PortalLook : public QObject, public SystemLook {
     Q_OBJECT
 public:
-    explicit PortalLook(std::shared_ptr<DesktopSettings> settings);
+    PortalLook(std::shared_ptr<DesktopSettings> settings, std::shared_ptr<DesktopConfiguration> configuration);
 
     bool isDark() const override { return m_look.isDark; }
     bool reducesMotion() const override { return m_look.reducesMotion; }
@@ -50,6 +56,8 @@ private:
     Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
     std::shared_ptr<DesktopSettings> m_settings;
+    std::shared_ptr<DesktopConfiguration> m_configuration;
+    Handle m_configurationWatch;
     QDBusServiceWatcher m_portal;
     PortalWishes m_wishes;
     Look m_look;

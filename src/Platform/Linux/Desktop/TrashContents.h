@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <vector>
 
-/// Trash folders as the freedesktop.org Trash specification lays them out. Every call waits for the disk; any thread.
+/// Trash folders as desktops lay them out. Every call waits for the disk; any thread.
 namespace fendrel::trashContents {
 
 /// The user's own trash folders on the disks of this machine, besides the one at home.

@@ -76,4 +76,11 @@ std::optional<bool> DesktopSettings::animates() const {
     return animates.isValid() ? std::optional(animates.toBool()) : std::nullopt;
 }
 
+double DesktopSettings::drawnScale() const {
+    constexpr double usual = 96.0 * 1024;
+    // Where whole windows are drawn larger, too, the first leaves that out.
+    const QVariant resolution = m_published.value(u"Gdk/UnscaledDPI"_s, m_published.value(u"Xft/DPI"_s));
+    return resolution.toInt() > 0 ? resolution.toInt() / usual : 1;
+}
+
 } // namespace fendrel

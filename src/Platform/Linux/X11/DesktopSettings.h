@@ -21,6 +21,8 @@ public:
     QString iconThemeName() const;
     std::optional<bool> prefersDark() const;
     std::optional<bool> animates() const;
+    /// What programs are asked to scale all text by, apart from whole windows; 1 where nobody asks.
+    double drawnScale() const;
 
 Q_SIGNALS:
     void changed();

@@ -2,7 +2,11 @@
 
 #include <xkbcommon/xkbcommon.h>
 
+#include <array>
+
 namespace fendrel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -10,7 +14,32 @@ xcb_keysym_t symbolOf(const QString& label) {
     const auto letters = label.toLower().toUcs4();
     if (letters.size() == 1)
         return xkb_utf32_to_keysym(letters.first());
-    return xkb_keysym_from_name(label.toUtf8().constData(), XKB_KEYSYM_CASE_INSENSITIVE);
+    const QByteArray name = QString(label).replace(u' ', u'_').toUtf8();
+    return xkb_keysym_from_name(name.constData(), XKB_KEYSYM_CASE_INSENSITIVE);
+}
+
+QString labelOf(xcb_keysym_t symbol) {
+    const bool isModifier = symbol >= XKB_KEY_Shift_L && symbol <= XKB_KEY_Hyper_R;
+    const bool isShifter = symbol >= XKB_KEY_ISO_Lock && symbol <= XKB_KEY_ISO_Level5_Lock;
+    if (symbol == XKB_KEY_NoSymbol || isModifier || isShifter)
+        return {};
+    switch (symbol) { // the library's names for them are not what people say
+    case XKB_KEY_Page_Up:
+        return u"Page Up"_s;
+    case XKB_KEY_Page_Down:
+        return u"Page Down"_s;
+    case XKB_KEY_space:
+        return u"Space"_s;
+    default:
+        break;
+    }
+    const char32_t sign = xkb_keysym_to_utf32(symbol);
+    if (sign > U' ' && sign != U'\x7f')
+        return sign == U'ß' ? u"ß"_s : QString::fromUcs4(&sign, 1).toUpper();
+    std::array<char, 64> name{};
+    if (xkb_keysym_get_name(symbol, name.data(), name.size()) <= 0)
+        return {};
+    return QString::fromUtf8(name.data()).replace(u'_', u' ');
 }
 
 } // namespace
@@ -49,6 +78,11 @@ std::optional<xcb_keycode_t> KeyMap::keyOf(xcb_keysym_t symbol) const {
         }
     }
     return {};
+}
+
+QString KeyMap::label(std::uint32_t key) const {
+    const qsizetype index = (static_cast<qsizetype>(key) - m_firstKey) * m_width;
+    return index < 0 || index >= m_keys.size() ? QString() : labelOf(m_keys[index]);
 }
 
 std::uint16_t KeyMap::modifier(xcb_keysym_t symbol) const {

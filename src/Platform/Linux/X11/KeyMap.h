@@ -14,6 +14,10 @@ public:
     /// The key with this label: without modifiers, if there is one, else with some. Nothing when no key has it.
     std::optional<xcb_keycode_t> key(const QString& label) const;
 
+    /// What is printed on a key: a letter or sign as a capital, else a name, such as "F3" or "Page Up". Empty for a key
+    /// that says nothing, or is a modifier.
+    QString label(std::uint32_t key) const;
+
     /// The bit of events and grabs for the modifier that this key is; 0 when the layout has none.
     std::uint16_t modifier(xcb_keysym_t symbol) const;
 

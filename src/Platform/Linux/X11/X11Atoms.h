@@ -46,6 +46,7 @@ struct X11Atoms {
     xcb_atom_t netWmWindowTypePopupMenu{};
     xcb_atom_t gtkApplicationId{};
     xcb_atom_t kdeDesktopFile{};
+    xcb_atom_t kdeBlurRegion{};
     xcb_atom_t wmState{};
     xcb_atom_t wmChangeState{};
     xcb_atom_t wmProtocols{};
@@ -90,6 +91,7 @@ inline constexpr auto x11AtomNames = std::to_array<std::pair<xcb_atom_t X11Atoms
     {&X11Atoms::netWmWindowTypePopupMenu, "_NET_WM_WINDOW_TYPE_POPUP_MENU"},
     {&X11Atoms::gtkApplicationId, "_GTK_APPLICATION_ID"},
     {&X11Atoms::kdeDesktopFile, "_KDE_NET_WM_DESKTOP_FILE"},
+    {&X11Atoms::kdeBlurRegion, "_KDE_NET_WM_BLUR_BEHIND_REGION"},
     {&X11Atoms::wmState, "WM_STATE"},
     {&X11Atoms::wmChangeState, "WM_CHANGE_STATE"},
     {&X11Atoms::wmProtocols, "WM_PROTOCOLS"},

@@ -1,7 +1,5 @@
 #include "Platform/Linux/X11/X11HotKeys.h"
 
-#include "Platform/Linux/X11/KeyMap.h"
-
 #include <QPointer>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -28,8 +26,9 @@ std::uint16_t maskOf(int modifiers, const KeyMap& map) {
 
 } // namespace
 
-X11HotKeys::X11HotKeys(std::shared_ptr<X11Connection> connection) : m_connection(std::move(connection)) {
-    readLocks(KeyMap(*m_connection));
+X11HotKeys::X11HotKeys(std::shared_ptr<X11Connection> connection)
+    : m_connection(std::move(connection)), m_map(*m_connection) {
+    readLocks();
     connect(m_connection.get(), &X11Connection::eventReceived, this, &X11HotKeys::handle);
 }
 
@@ -41,9 +40,8 @@ X11HotKeys::~X11HotKeys() {
 }
 
 std::optional<Handle> X11HotKeys::grab(int modifiers, const QString& key, std::function<void()> onPressed) {
-    const KeyMap map(*m_connection);
     HotKey hotKey{.modifiers = modifiers, .label = key, .onPressed = std::move(onPressed)};
-    hotKey.grabbed = take(hotKey, map);
+    hotKey.grabbed = take(hotKey);
     if (!hotKey.grabbed)
         return {};
     const int id = ++m_lastID;
@@ -52,6 +50,11 @@ std::optional<Handle> X11HotKeys::grab(int modifiers, const QString& key, std::f
         if (self)
             self->letGo(id);
     });
+}
+
+void X11HotKeys::yieldKeyboard() {
+    // Answered, so that the toolkit, which has a connection of its own, finds it free.
+    m_connection->check(xcb_ungrab_keyboard_checked(m_connection->xcb(), XCB_CURRENT_TIME));
 }
 
 void X11HotKeys::handle(const xcb_generic_event_t& event) {
@@ -90,11 +93,11 @@ void X11HotKeys::handlePress(const xcb_key_press_event_t& press) {
     onPressed();
 }
 
-void X11HotKeys::readLocks(const KeyMap& map) {
+void X11HotKeys::readLocks() {
     m_locks = {0};
     m_everyLock = 0;
     for (const std::uint16_t lock :
-         {std::uint16_t{XCB_MOD_MASK_LOCK}, map.modifier(XKB_KEY_Num_Lock), map.modifier(XKB_KEY_Scroll_Lock)}) {
+         {std::uint16_t{XCB_MOD_MASK_LOCK}, m_map.modifier(XKB_KEY_Num_Lock), m_map.modifier(XKB_KEY_Scroll_Lock)}) {
         if ((m_everyLock | lock) == m_everyLock)
             continue;
         m_everyLock |= lock;
@@ -104,11 +107,11 @@ void X11HotKeys::readLocks(const KeyMap& map) {
 }
 
 /// Grabs all of it or nothing.
-std::optional<X11HotKeys::Combination> X11HotKeys::take(const HotKey& hotKey, const KeyMap& map) const {
-    const auto key = map.key(hotKey.label);
+std::optional<X11HotKeys::Combination> X11HotKeys::take(const HotKey& hotKey) const {
+    const auto key = m_map.key(hotKey.label);
     if (!key)
         return {};
-    const Combination combination{.modifiers = maskOf(hotKey.modifiers, map), .key = *key};
+    const Combination combination{.modifiers = maskOf(hotKey.modifiers, m_map), .key = *key};
     const auto isHeldByUs = [&](const auto& entry) { return entry.second.grabbed == combination; };
     if (std::ranges::any_of(m_hotKeys, isHeldByUs))
         return {};
@@ -147,10 +150,10 @@ void X11HotKeys::grabAnew() {
         if (hotKey.grabbed)
             letGo(*std::exchange(hotKey.grabbed, {}));
     }
-    const KeyMap map(*m_connection);
-    readLocks(map);
+    m_map = KeyMap(*m_connection);
+    readLocks();
     for (auto& [id, hotKey] : m_hotKeys)
-        hotKey.grabbed = take(hotKey, map);
+        hotKey.grabbed = take(hotKey);
 }
 
 } // namespace fendrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/X11/X11Connection.h"
+#include "Platform/Linux/X11/KeyMap.h"
 #include "Ports/HotKeys.h"
 
 #include <QObject>
@@ -9,8 +9,6 @@
 #include <memory>
 
 namespace fendrel {
-
-class KeyMap;
 
 /// Grabs keys on the root window, once for every combination of lock keys, since to the server those are modifiers
 /// like others. Another layout of the keyboard moves the grabs to where their labels are then.
@@ -21,6 +19,8 @@ public:
     ~X11HotKeys() override;
 
     std::optional<Handle> grab(int modifiers, const QString& key, std::function<void()> onPressed) override;
+    void yieldKeyboard() override;
+    QString label(std::uint32_t nativeScanCode) const override { return m_map.label(nativeScanCode); }
 
 private:
     struct Combination {
@@ -37,13 +37,14 @@ private:
 
     void handle(const xcb_generic_event_t& event);
     void handlePress(const xcb_key_press_event_t& press);
-    void readLocks(const KeyMap& map);
-    std::optional<Combination> take(const HotKey& hotKey, const KeyMap& map) const;
+    void readLocks();
+    std::optional<Combination> take(const HotKey& hotKey) const;
     void letGo(const Combination& combination) const;
     void letGo(int id);
     void grabAnew();
 
     std::shared_ptr<X11Connection> m_connection;
+    KeyMap m_map;
     QList<std::uint16_t> m_locks; ///< every combination of lock keys, none of them included
     std::uint16_t m_everyLock{};
     std::map<int, HotKey> m_hotKeys;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace fendrel {
 
@@ -52,6 +53,7 @@ X11Panels::X11Panels(std::shared_ptr<X11Windows> windows, std::shared_ptr<X11Mon
       m_knowsShapes(m_connection->firstEvent(xcb_shape_id).has_value()) {
     connect(m_connection.get(), &X11Connection::eventReceived, this, &X11Panels::handle);
     m_compositor.onChanged = [this] { onTransparencyChanged(); };
+    m_knowsBlur = readBlur();
 }
 
 void X11Panels::prepare(quintptr window, Kind kind) {
@@ -88,6 +90,32 @@ void X11Panels::setInputRegion(quintptr window, const QRegion& region) {
     xcb_shape_rectangles(m_connection->xcb(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
                          native(window), 0, 0, static_cast<std::uint32_t>(rectangles.size()), rectangles.constData());
     m_connection->flush();
+}
+
+void X11Panels::setBlurRegion(quintptr window, const QRegion& region) {
+    const xcb_atom_t property = m_connection->atoms().kdeBlurRegion;
+    QList<quint32> numbers;
+    for (const QRect& part : region) {
+        for (const int number : {part.x(), part.y(), part.width(), part.height()})
+            numbers.append(static_cast<quint32>(number));
+    }
+    // No rectangles at all would mean the whole window.
+    if (numbers.isEmpty())
+        xcb_delete_property(m_connection->xcb(), native(window), property);
+    else
+        m_connection->setNumbers(native(window), property, XCB_ATOM_CARDINAL, numbers);
+    m_connection->flush();
+}
+
+/// A compositor that blurs says so by a property of that name on the root window, whatever its value.
+bool X11Panels::readBlur() {
+    const auto list =
+        m_connection->reply<xcb_list_properties_reply>(xcb_list_properties(m_connection->xcb(), m_connection->root()));
+    if (!list)
+        return false;
+    const std::span names(xcb_list_properties_atoms(list.get()),
+                          static_cast<std::size_t>(xcb_list_properties_atoms_length(list.get())));
+    return std::ranges::find(names, m_connection->atoms().kdeBlurRegion) != names.end();
 }
 
 void X11Panels::activate(quintptr window) {
@@ -141,6 +169,10 @@ void X11Panels::handle(const xcb_generic_event_t& event) {
                                              atoms.wmProtocols, XCB_ATOM_WM_HINTS};
         if (change.window == m_connection->root() && change.atom == atoms.netClientListStacking)
             stackCards();
+        if (change.window == m_connection->root() && change.atom == atoms.kdeBlurRegion) {
+            m_knowsBlur = change.state == XCB_PROPERTY_NEW_VALUE;
+            onTransparencyChanged();
+        }
         const auto panel = m_panels.constFind(change.window);
         if (panel != m_panels.constEnd() && std::ranges::find(ours, change.atom) != ours.end()) {
             setUp(change.window, *panel);

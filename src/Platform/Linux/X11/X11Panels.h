@@ -24,8 +24,10 @@ public:
     void prepare(quintptr window, Kind kind) override;
     void reserve(quintptr window, Qt::Edge edge, const QRect& display, const QRect& area) override;
     void setInputRegion(quintptr window, const QRegion& region) override;
+    void setBlurRegion(quintptr window, const QRegion& region) override;
     void activate(quintptr window) override;
     bool hasTransparency() const override { return m_compositor.window() != XCB_WINDOW_NONE; }
+    bool canBlur() const override { return m_knowsBlur && hasTransparency(); }
 
 private:
     struct Panel {
@@ -35,6 +37,7 @@ private:
     };
 
     void handle(const xcb_generic_event_t& event);
+    bool readBlur();
     xcb_atom_t typeOf(Kind kind) const;
     void setUp(xcb_window_t window, const Panel& panel);
     void setUpStates(xcb_window_t window, Kind kind);
@@ -51,6 +54,7 @@ private:
     X11Requests m_requests;
     SelectionOwner m_compositor;
     bool m_knowsShapes{};
+    bool m_knowsBlur{};
     QHash<xcb_window_t, Panel> m_panels;
 };
 

@@ -304,7 +304,8 @@ private Q_SLOTS:
                 xcb_query_pointer(m_world->connection->xcb(), root));
             return at ? QPoint(at->root_x, at->root_y) : QPoint();
         };
-        X11PointerGuard guard;
+        X11PointerGuard guard(m_world->connection);
+        QVERIFY(guard.isAvailable());
         guard.setEdges({{.side = Side::bottom, .line = 768, .from = 0, .to = 1024}});
         QVERIFY(xdotool(u"mousemove 500 767"_s));
         QVERIFY(guard.start());

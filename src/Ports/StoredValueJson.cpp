@@ -1,4 +1,4 @@
-#include "Platform/Shared/StoredValueJson.h"
+#include "Ports/StoredValueJson.h"
 
 #include "Base/Overloaded.h"
 

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Base/Handle.h"
+#include "Base/Worker.h"
+#include "Ports/Platform.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+
+namespace fendrel {
+
+class AppController;
+
+/// Something of this system that Fendrel makes use of.
+struct Capability {
+    enum class State {
+        unknown, ///< cannot be told now
+        works,
+        missing, ///< could work here
+        locked,  ///< is here, and waits for its user
+        absent,  ///< this system has nothing of the kind
+    };
+    QString id{};
+    State state{};
+    QString reason{};                     ///< for the user: why it does not work
+    std::optional<BrowserHome> browser{}; ///< of the ones that stand for a browser
+};
+
+/// What is known of the system at one moment.
+struct CapabilityFacts {
+    enum class Keyring { unknown, ready, missing, locked, failed };
+    struct Browser {
+        BrowserHome home{};
+        bool isRunning{};
+        bool isConnected{};
+    };
+
+    bool readsTitles{};
+    QString messagesProblem{}; ///< empty while messages are held
+    QString modelProblem{};    ///< empty while a model answers
+    Keyring keyring{};
+    QList<Browser> browsers{}; ///< those that were used here
+    bool canHoldPointer{};
+    bool isPointerHeld{true};   ///< or nobody wants it held
+    QStringList takenHotKeys{}; ///< wanted, but another program's
+    bool hasStatusArea{};
+    bool hasTransparency{};
+};
+
+/// In the order in which they are shown.
+QList<Capability> capabilities(const CapabilityFacts& facts);
+
+/// What of this system works for Fendrel, as it changes. Main thread.
+class Capabilities : public QObject {
+    Q_OBJECT
+public:
+    explicit Capabilities(AppController& controller);
+
+    const QList<Capability>& all() const { return m_all; }
+    /// Asks again what does not tell by itself: the keyring, and which browsers were used.
+    void refresh();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void gather();
+    void lookForBrowsers();
+    QStringList takenHotKeys() const;
+    QList<CapabilityFacts::Browser> browsers() const;
+
+    AppController& m_controller;
+    bool m_canHoldPointer;
+    QList<Capability> m_all;
+    CapabilityFacts::Keyring m_keyring{};
+    QList<BrowserHome> m_usedBrowsers;
+    Handle m_reading;
+    Worker m_worker; ///< the last: nothing it posts arrives once it has ended
+};
+
+} // namespace fendrel

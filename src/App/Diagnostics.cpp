@@ -1,0 +1,132 @@
+#include "App/Diagnostics.h"
+
+#include "App/AppController.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QMetaProperty>
+#include <QRegularExpression>
+#include <QSysInfo>
+
+#include <algorithm>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString hidden = u"<private>"_s;
+
+QString stateName(Capability::State state) {
+    switch (state) {
+    case Capability::State::unknown:
+        return u"unknown"_s;
+    case Capability::State::works:
+        return u"works"_s;
+    case Capability::State::missing:
+        return u"missing"_s;
+    case Capability::State::locked:
+        return u"locked"_s;
+    case Capability::State::absent:
+        break;
+    }
+    return u"absent"_s;
+}
+
+QJsonArray array(const QRect& rect) {
+    return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QString redacted(QString text, const QStringList& privateTexts) {
+    static const QRegularExpression address(uR"([\w+.-]+://\S+|\S+@\S+)"_s);
+    text.replace(address, hidden);
+    for (const QString& secret : privateTexts)
+        text.replace(secret, hidden, Qt::CaseInsensitive);
+    return text;
+}
+
+/// The ones that say how Fendrel behaves. What a user types is none of them, nor what came in since without a thought.
+QJsonObject settingsOf(const Preferences& preferences) {
+    constexpr std::array names{"dockSize",     "dockPosition", "dockDisplay",  "autoHide",
+                               "magnify",      "focusGlow",    "sounds",       "modeModifiers",
+                               "appModifiers", "clickToHide",  "tidyOnSwitch", "strictness",
+                               "quietBanners", "passCritical", "matchSystem",  "crashReports"};
+    QJsonObject settings;
+    for (const char* name : names)
+        settings.insert(QString::fromLatin1(name), QJsonValue::fromVariant(preferences.property(name)));
+    return settings;
+}
+
+QStringList privateTextsOf(AppController& controller) {
+    const Preferences& preferences = controller.preferences();
+    QStringList texts = preferences.breakThroughWords();
+    texts << preferences.modelServer() << preferences.modelName() << QDir::homePath() << QDir::home().dirName()
+          << QSysInfo::machineHostName();
+    for (const Mode& mode : controller.engine().modes()) {
+        texts << mode.name << mode.sites << mode.apps;
+        for (const QString& app : mode.apps)
+            texts << controller.workspace().displayName(app);
+    }
+    return texts;
+}
+
+} // namespace
+
+QMap<QString, QByteArray> diagnosticFiles(const DiagnosticFacts& facts) {
+    QJsonArray displays;
+    for (const Display& display : facts.displays)
+        displays.append(QJsonObject{{u"frame"_s, array(display.frame)},
+                                    {u"workArea"_s, array(display.workArea)},
+                                    {u"isMain"_s, display.isMain},
+                                    {u"isFullScreen"_s, display.isFullScreen}});
+    QJsonObject capabilities;
+    for (const Capability& capability : facts.capabilities)
+        capabilities.insert(capability.id, stateName(capability.state));
+
+    // The longest first, or a part of one would leave its rest behind. What is shorter than three letters is in every
+    // other word.
+    QStringList privateTexts = facts.privateTexts;
+    privateTexts.removeIf([](const QString& text) { return text.size() < 3; });
+    std::ranges::sort(privateTexts, std::greater{}, &QString::size);
+    QStringList log;
+    for (const QString& line : facts.log)
+        log.append(redacted(line, privateTexts));
+
+    const QJsonObject report{{u"system"_s, facts.system},
+                             {u"displays"_s, displays},
+                             {u"capabilities"_s, capabilities},
+                             {u"settings"_s, facts.settings},
+                             {u"crashReports"_s, QJsonArray::fromStringList(facts.crashReports)}};
+    return {{u"report.json"_s, QJsonDocument(report).toJson()}, {u"log.txt"_s, log.join(u'\n').toUtf8() + '\n'}};
+}
+
+DiagnosticFacts diagnosticFacts(AppController& controller, const QList<Capability>& capabilities) {
+    Platform& platform = controller.platform();
+    const QJsonObject system{{u"fendrel"_s, QStringLiteral(FENDREL_VERSION)},
+                             {u"qt"_s, QString::fromLatin1(qVersion())},
+                             {u"system"_s, QSysInfo::prettyProductName()},
+                             {u"kernel"_s, QSysInfo::kernelVersion()},
+                             {u"processor"_s, QSysInfo::currentCpuArchitecture()},
+                             {u"desktop"_s, qEnvironmentVariable("XDG_CURRENT_DESKTOP")},
+                             {u"session"_s, qEnvironmentVariable("XDG_SESSION_TYPE")},
+                             {u"language"_s, QLocale().name()},
+                             {u"dock"_s, controller.replacement().dockName()},
+                             {u"replacesDock"_s, controller.replacement().isOn()},
+                             {u"isDark"_s, platform.look->isDark()},
+                             {u"reducesMotion"_s, platform.look->reducesMotion()},
+                             {u"increasesContrast"_s, platform.look->increasesContrast()},
+                             {u"textScale"_s, platform.look->textScale()},
+                             {u"modes"_s, controller.engine().modes().size()}};
+    return {.system = system,
+            .displays = platform.displays->all(),
+            .capabilities = capabilities,
+            .settings = settingsOf(controller.preferences()),
+            .log = platform.recentLog(),
+            .crashReports = QDir(platform.folders.crashes).entryList({u"Fendrel-*.ips"_s}, QDir::Files),
+            .privateTexts = privateTextsOf(controller)};
+}
+
+} // namespace fendrel

@@ -1,0 +1,194 @@
+import QtQuick
+import Fendrel.Style
+import Fendrel.Types
+
+// A service: what it is for, whether it is connected, and the field for its key once that is wanted.
+FocusScope {
+    id: row
+
+    required property Colors colors
+    required property AccountsController accounts
+    required property int index
+    required property string name
+    required property string use
+    required property string letter
+    required property color tint
+    required property string standing
+    required property bool isConnected
+    required property bool busy
+    property bool isOpen: false
+
+    readonly property int margin: 18
+    readonly property real scaling: Math.max(1, Theme.textScale)
+    readonly property bool isNarrow: width < 480 * scaling
+
+    width: parent?.width ?? 0
+    height: content.height + 28
+    Accessible.role: Accessible.Grouping
+    Accessible.name: name
+    Accessible.description: standing
+
+    function open() {
+        isOpen = true
+        key.forceActiveFocus(Qt.TabFocusReason)
+    }
+    function close() {
+        key.text = ""
+        isOpen = false
+        opener.forceActiveFocus(Qt.TabFocusReason)
+    }
+    function save() {
+        if (accounts.save(index, key.text))
+            close()
+    }
+
+    Keys.onEscapePressed: event => {
+        event.accepted = isOpen
+        if (isOpen)
+            close()
+    }
+
+    Column {
+        id: content
+        anchors { left: parent.left; right: parent.right; margins: row.margin }
+        y: 14
+        spacing: 12
+
+        Item {
+            width: parent.width
+            readonly property real headHeight: Math.max(mark.height, words.height)
+            height: row.isNarrow ? headHeight + 10 + buttons.height : Math.max(headHeight, buttons.height)
+
+            Rectangle {
+                id: mark
+                anchors { left: parent.left; top: parent.top }
+                width: Math.round(36 * row.scaling)
+                height: width
+                radius: width / 2
+                color: row.colors.faded(row.tint, 0.18)
+                Label {
+                    anchors.centerIn: parent
+                    colors: row.colors
+                    color: row.colors.tintText(row.tint)
+                    text: row.letter
+                    font.pixelSize: Theme.textLarge
+                    font.weight: Font.Bold
+                    Accessible.ignored: true
+                }
+            }
+            Column {
+                id: words
+                anchors { left: mark.right; leftMargin: 14; right: row.isNarrow ? parent.right : buttons.left; rightMargin: row.isNarrow ? 0 : 14 }
+                spacing: 2
+                Label {
+                    colors: row.colors
+                    width: parent.width
+                    text: row.name
+                    font.weight: Font.Medium
+                    wrapMode: Text.Wrap
+                    Accessible.ignored: true
+                }
+                Label {
+                    colors: row.colors
+                    color: row.colors.secondaryText
+                    width: parent.width
+                    text: row.use
+                    font.pixelSize: Theme.textHelp
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+                Row {
+                    anchors.left: parent.left
+                    spacing: 5
+                    visible: row.standing !== ""
+                    Symbol {
+                        anchors.verticalCenter: parent.verticalCenter
+                        visible: row.isConnected && !row.busy
+                        name: "checkmark"
+                        size: Math.round(13 * row.scaling)
+                        color: row.colors.tintText("#2ea055")
+                    }
+                    Label {
+                        colors: row.colors
+                        color: row.isConnected ? row.colors.tintText("#2ea055") : row.colors.secondaryText
+                        text: row.standing
+                        font.pixelSize: Theme.textHelp
+                        font.weight: row.isConnected ? Font.Medium : Font.Normal
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: text
+                    }
+                }
+            }
+            Row {
+                id: buttons
+                anchors.right: parent.right
+                y: parent.height - (row.isNarrow ? height : (parent.height + height) / 2)
+                spacing: 8
+                PushButton {
+                    colors: row.colors
+                    visible: row.isConnected
+                    isEnabled: !row.busy
+                    text: qsTr("Remove…")
+                    Accessible.description: row.name
+                    onClicked: row.accounts.askToRemove(row.index)
+                }
+                PushButton {
+                    id: opener
+                    colors: row.colors
+                    isEnabled: !row.busy
+                    text: row.isOpen ? qsTr("Cancel") : row.isConnected ? qsTr("Change Key…") : qsTr("Connect…")
+                    Accessible.description: row.name
+                    onClicked: row.isOpen ? row.close() : row.open()
+                }
+            }
+        }
+
+        Flow {
+            width: parent.width
+            visible: row.isOpen
+            spacing: 8
+            InputField {
+                id: key
+                width: Math.max(Math.min(parent.width, 180 * row.scaling), parent.width - paste.width - save.width - page.width - 24)
+                colors: row.colors
+                isSecret: true
+                maximumLength: 4096
+                name: qsTr("Key of %1").arg(row.name)
+                placeholder: qsTr("Paste the key here")
+                onAccepted: row.save()
+            }
+            PushButton {
+                id: paste
+                colors: row.colors
+                text: qsTr("Paste")
+                onClicked: {
+                    key.text = row.accounts.clipboardText()
+                    key.forceActiveFocus(Qt.OtherFocusReason)
+                }
+            }
+            PushButton {
+                id: save
+                colors: row.colors
+                text: qsTr("Save")
+                isFilled: true
+                isEnabled: key.text.trim() !== ""
+                onClicked: row.save()
+            }
+            PushButton {
+                id: page
+                colors: row.colors
+                text: qsTr("Get a Key…")
+                symbol: "globe"
+                Accessible.description: qsTr("Opens a page of %1 in your browser").arg(row.name)
+                onClicked: row.accounts.openKeyPage(row.index)
+            }
+        }
+    }
+    Rectangle {
+        anchors { left: parent.left; leftMargin: row.margin; right: parent.right; top: parent.top }
+        height: 1
+        color: row.colors.line
+        visible: row.index > 0
+    }
+}

@@ -1,0 +1,93 @@
+#include "UI/Settings/DataController.h"
+
+#include "App/AppController.h"
+
+#include <QDir>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString typedPath(const QString& typed) {
+    if (typed.startsWith("file:"_L1))
+        return QUrl(typed).toLocalFile();
+    if (typed.startsWith("~/"_L1))
+        return QDir::home().filePath(typed.mid(2));
+    return QDir::home().absoluteFilePath(typed);
+}
+
+QString shownPath(const QString& path) {
+    const QString home = QDir::homePath() + u'/';
+    return path.startsWith(home) ? u"~/"_s + path.mid(home.size()) : path;
+}
+
+} // namespace
+
+DataController::DataController(AppController& controller) : m_controller(controller) {
+    connect(&controller.backup(), &Backup::changed, this, &DataController::changed);
+}
+
+bool DataController::canUndo() const {
+    return m_controller.backup().canUndo();
+}
+
+void DataController::exportNow() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString path = folder + u'/' + m_controller.backup().suggestedName();
+    m_underWay = m_controller.backup().write(path, [this, path](const std::optional<QString>& problem) {
+        m_exported = problem ? QString() : path;
+        tell(problem ? *problem : tr("Saved as %1.").arg(shownPath(path)), problem.has_value());
+    });
+}
+
+void DataController::reveal() {
+    m_controller.platform().shell->reveal({m_exported});
+}
+
+void DataController::importFrom(const QString& typed) {
+    m_underWay = m_controller.backup().read(typedPath(typed.trimmed()), [this](const Result<Archive, QString>& read) {
+        if (read)
+            askToUse(*read);
+        else
+            tell(read.error(), true);
+    });
+}
+
+void DataController::askToUse(const Archive& archive) {
+    const QStringList parts{tr("%n mode(s)", nullptr, static_cast<int>(archive.modes.size())),
+                            tr("%n setting(s)", nullptr, static_cast<int>(archive.settings.size())),
+                            tr("%n learned answer(s)", nullptr, static_cast<int>(archive.answers.size()))};
+    QString text =
+        tr("The file has %1, %2 and %3. They replace yours.").arg(parts[0], parts[1], parts[2]) + u"\n\n"_s +
+        tr("You can undo this until you quit Fendrel. Keys of accounts are not in the file, and yours stay.");
+    if (archive.skipped > 0)
+        text +=
+            u"\n\n"_s + tr("%n entry(ies) can't be read and stay(s) out.", nullptr, static_cast<int>(archive.skipped));
+    m_controller.onAlert({.message = tr("Import this backup?"),
+                          .informativeText = text,
+                          .buttons = {tr("Import"), tr("Cancel")},
+                          .answered = [self = QPointer(this), archive](int button) {
+                              if (!self || button != 0)
+                                  return;
+                              self->m_controller.backup().use(archive);
+                              self->tell(tr("Imported."));
+                          }});
+}
+
+void DataController::undoImport() {
+    m_controller.backup().undo();
+    tell(tr("Everything is as it was before the import."));
+}
+
+void DataController::tell(const QString& state, bool hasFailed) {
+    m_state = state;
+    m_hasFailed = hasFailed;
+    Q_EMIT changed();
+}
+
+} // namespace fendrel

@@ -1,0 +1,112 @@
+#include "UI/Settings/WidgetsController.h"
+
+#include "App/AppController.h"
+
+#include <algorithm>
+
+namespace fendrel {
+
+using namespace Qt::StringLiterals;
+
+WidgetsController::WidgetsController(AppController& controller) : m_controller(controller) {
+    const QMetaEnum categories = QMetaEnum::fromType<WidgetCategory>();
+    for (int index = 0; index < categories.keyCount(); ++index)
+        m_groups.push_back(std::make_unique<WidgetGroup>(static_cast<WidgetCategory>(categories.value(index))));
+    for (const auto& group : m_groups)
+        group->setParent(this); // else views would think that they own it
+    connect(&controller.engine(), &ModeEngine::changed, this, &WidgetsController::refresh);
+    connect(&controller.accounts(), &WidgetAccounts::changed, this, &WidgetsController::refresh);
+    controller.accounts().read();
+    refresh();
+}
+
+QVariantList WidgetsController::groups() const {
+    QVariantList list;
+    for (const auto& group : m_groups)
+        list.append(QVariant::fromValue(group.get()));
+    return list;
+}
+
+int WidgetsController::found() const {
+    int sum = 0;
+    for (const auto& group : m_groups)
+        sum += group->count();
+    return sum;
+}
+
+QString WidgetsController::modeName() const {
+    return m_controller.engine().current().name;
+}
+
+QColor WidgetsController::modeTint() const {
+    return color(m_controller.engine().current().tint);
+}
+
+void WidgetsController::search(const QString& words) {
+    m_words = words.split(u' ', Qt::SkipEmptyParts);
+    refresh();
+}
+
+void WidgetsController::choose(const QString& widgetID, bool on) {
+    Mode mode = m_controller.engine().current();
+    mode.widgets.removeAll(widgetID);
+    if (on)
+        mode.widgets.append(widgetID);
+    m_controller.engine().update(mode);
+}
+
+void WidgetsController::refresh() {
+    for (const auto& group : m_groups) {
+        QList<WidgetGroup::Row> rows;
+        for (const DockWidgetKind& kind : dockWidgetKinds()) {
+            if (kind.category != group->category())
+                continue;
+            const WidgetGroup::Row wanted = row(kind);
+            const QString text =
+                QStringList{wanted.title, wanted.detail, group->title(), wanted.modeNames, wanted.account}.join(u' ');
+            if (std::ranges::all_of(m_words,
+                                    [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }))
+                rows.append(wanted);
+        }
+        group->show(rows);
+    }
+    Q_EMIT changed();
+}
+
+WidgetGroup::Row WidgetsController::row(const DockWidgetKind& kind) const {
+    WidgetGroup::Row row{.id = kind.id(),
+                         .title = kind.title(),
+                         .detail = kind.detail(),
+                         .symbol = kind.symbol,
+                         .accent = QColor::fromRgb(kind.accent)};
+    const ModeEngine& engine = m_controller.engine();
+    QStringList names;
+    for (const Mode& mode : engine.modes()) {
+        if (!mode.widgets.contains(row.id))
+            continue;
+        names.append(mode.name);
+        row.modes.append(QVariantMap{{u"name"_s, mode.name}, {u"tint"_s, color(mode.tint)}});
+    }
+    row.modeNames = names.join(QStringLiteral(", "));
+    row.isChosen = engine.current().widgets.contains(row.id);
+
+    QStringList connected;
+    QStringList possible;
+    for (const auto service : WidgetAccounts::usedBy(kind.widget)) {
+        const QString& name = WidgetAccounts::description(service).name;
+        possible.append(name);
+        if (m_controller.accounts().connected().contains(service))
+            connected.append(name);
+    }
+    row.needsAccount = !possible.isEmpty();
+    row.isConnected = !connected.isEmpty();
+    if (row.isConnected)
+        row.account = tr("Connected to %1").arg(connected.join(QStringLiteral(", ")));
+    else if (row.needsAccount)
+        row.account = possible.size() > 1
+                          ? tr("Needs an account of one of these: %1").arg(possible.join(QStringLiteral(", ")))
+                          : tr("Needs an account of %1").arg(possible.first());
+    return row;
+}
+
+} // namespace fendrel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "UI/Settings/WidgetGroup.h"
+
+#include <memory>
+#include <vector>
+
+namespace fendrel {
+
+class AppController;
+
+/// The catalogue of widgets, and which modes have them. Those of the current mode can be chosen.
+class WidgetsController : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(QVariantList groups READ groups CONSTANT) ///< WidgetGroup
+    Q_PROPERTY(int found READ found NOTIFY changed)      ///< in all of them
+    Q_PROPERTY(QString modeName READ modeName NOTIFY changed)
+    Q_PROPERTY(QColor modeTint READ modeTint NOTIFY changed)
+
+public:
+    explicit WidgetsController(AppController& controller);
+
+    QVariantList groups() const;
+    int found() const;
+    QString modeName() const;
+    QColor modeTint() const;
+
+    Q_INVOKABLE void search(const QString& words); ///< all of them are in what is shown
+    Q_INVOKABLE void choose(const QString& widgetID, bool on);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void refresh();
+    WidgetGroup::Row row(const DockWidgetKind& kind) const;
+
+    AppController& m_controller;
+    std::vector<std::unique_ptr<WidgetGroup>> m_groups;
+    QStringList m_words;
+};
+
+} // namespace fendrel
