@@ -30,7 +30,8 @@ endif()
 
 # What every test passes to the sanitizers.
 set(FENDREL_SANITIZER_OPTIONS
-    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.suppressions"
+    # Programs are started by a fork, and the child does nothing but start them.
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.suppressions:die_after_fork=0"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.suppressions:print_suppressions=0")
 
 # fendrel_library(<name> SOURCES <files> [LINKS <targets>]): the one static library of a folder.

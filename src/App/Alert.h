@@ -11,7 +11,8 @@ namespace fendrel {
 struct Alert {
     QString message{};
     QString informativeText{};
-    QStringList buttons{};                                 ///< the first is the default
+    QStringList buttons{}; ///< the first is the default
+    bool isGrave{false};   ///< the first loses something, so the keyboard is at the last
     std::function<void(int button)> answered = [](int) {}; ///< the position of the button; the last one on Escape
 };
 

@@ -46,7 +46,8 @@ public:
 
     // What the interface does for the controller
     std::function<void()> onShowOnboarding = [] {};
-    std::function<void(const QString& pane)> onShowSettings = [](const QString&) {};
+    /// A pane, or a setting on one.
+    std::function<void(const QString& name)> onShowSettings = [](const QString&) {};
     std::function<void(const QString& modeID)> onShowModes = [](const QString&) {};
     std::function<void(const Alert&)> onAlert = [](const Alert&) {};
     std::function<void()> onLayoutDocks = [] {}; ///< make the panels match `dockScreens`

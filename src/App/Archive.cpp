@@ -3,6 +3,7 @@
 #include "Base/EnumNames.h"
 #include "Modes/SiteName.h"
 #include "Ports/StoredValueJson.h"
+#include "Widgets/DockWidget.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -95,8 +96,11 @@ private:
                         .apps = texts(object[u"apps"], [](const QString& app) { return std::optional(app); }),
                         .sites = texts(object[u"sites"], [](const QString& site) { return siteName(site); }),
                         .entryDelay = seconds(object[u"entryDelay"]),
-                        .widgets =
-                            texts(object[u"widgets"], [](const QString& widget) { return std::optional(widget); }),
+                        .widgets = texts(object[u"widgets"],
+                                         [](const QString& widget) {
+                                             return enumValue<DockWidget>(widget) ? std::optional(widget)
+                                                                                  : std::nullopt;
+                                         }),
                         .dailyBudget = seconds(object[u"dailyBudget"])};
         if (mode.id.isEmpty() || mode.name.isEmpty())
             return {};

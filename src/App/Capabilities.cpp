@@ -58,7 +58,7 @@ Capability pointer(const CapabilityFacts& facts) {
 QString taken(const QStringList& hotKeys) {
     if (hotKeys.isEmpty())
         return {};
-    return Capabilities::tr("Another program holds %1.").arg(hotKeys.join(u", "));
+    return Capabilities::tr("Taken by another program, or not on this keyboard: %1.").arg(hotKeys.join(u", "));
 }
 
 CapabilityFacts::Keyring stateOf(const SecretStore::Secret& secret) {
@@ -97,11 +97,12 @@ QList<Capability> capabilities(const CapabilityFacts& facts) {
     return all;
 }
 
-Capabilities::Capabilities(AppController& controller)
-    : m_controller(controller),
-      m_canHoldPointer(controller.platform().pointerGuard->isAvailable()),
-      m_worker(u"capabilities"_s) {
-    connect(&controller.titles(), &WindowTitles::changed, this, &Capabilities::gather);
+Capabilities::Capabilities(AppController& controller) : m_controller(controller) {
+    connect(&controller.titles(), &WindowTitles::changed, this, [this] {
+        // Titles change all the time, and this seldom.
+        if (m_controller.platform().accessibility->isTrusted() != m_readsTitles)
+            gather();
+    });
     connect(&controller.messages(), &HeldMessages::changed, this, &Capabilities::gather);
     connect(&controller.classifier(), &Classifier::changed, this, &Capabilities::gather);
     connect(&controller.bridge(), &BrowserBridge::changed, this, &Capabilities::gather);
@@ -110,11 +111,13 @@ Capabilities::Capabilities(AppController& controller)
     // A browser that is started for the first time has its folder from now on.
     connect(&controller.workspace(), &Workspace::runningChanged, this, &Capabilities::lookForBrowsers);
     connect(&controller.hotKeys(), &HotKeyRegistry::changed, this, &Capabilities::gather);
-    gather();
-    refresh();
 }
 
 void Capabilities::refresh() {
+    if (!m_worker)
+        m_worker = std::make_unique<Worker>(u"capabilities"_s);
+    m_controller.hotKeys().retry();
+    gather();
     // An item that nobody has: the answer tells of the keyring alone, and unlocks nothing.
     const SecretStore::Item nobodys{.service = u"org.fendrel.Fendrel"_s, .account = u"is there a keyring"_s};
     m_reading = m_controller.platform().secrets->read(nobodys, [this](const SecretStore::Secret& secret) {
@@ -125,7 +128,9 @@ void Capabilities::refresh() {
 }
 
 void Capabilities::lookForBrowsers() {
-    m_worker.post(u"browsers"_s, [this, browsers = m_controller.platform().browsers]() mutable {
+    if (!m_worker)
+        return;
+    m_worker->post(u"browsers"_s, [this, browsers = m_controller.platform().browsers]() mutable {
         browsers.removeIf([](const BrowserHome& home) { return !QFileInfo(home.data).isDir(); });
         QMetaObject::invokeMethod(
             this,
@@ -138,18 +143,24 @@ void Capabilities::lookForBrowsers() {
 }
 
 void Capabilities::gather() {
+    if (!m_worker)
+        return; // nobody wants to know yet
     Platform& platform = m_controller.platform();
     const bool wantsPointerHeld = m_controller.replacement().isOn() && !m_controller.replacement().dockName().isEmpty();
-    m_all = capabilities({.readsTitles = platform.accessibility->isTrusted(),
-                          .messagesProblem = m_controller.messages().unavailableReason(),
-                          .modelProblem = platform.languageModel->unavailableReason(),
-                          .keyring = m_keyring,
-                          .browsers = browsers(),
-                          .canHoldPointer = m_canHoldPointer,
-                          .isPointerHeld = !wantsPointerHeld || platform.pointerGuard->isRunning(),
-                          .takenHotKeys = takenHotKeys(),
-                          .hasStatusArea = platform.statusArea->isAvailable(),
-                          .hasTransparency = platform.panels->hasTransparency()});
+    m_readsTitles = platform.accessibility->isTrusted();
+    const auto all = capabilities({.readsTitles = m_readsTitles,
+                                   .messagesProblem = m_controller.messages().unavailableReason(),
+                                   .modelProblem = platform.languageModel->unavailableReason(),
+                                   .keyring = m_keyring,
+                                   .browsers = browsers(),
+                                   .canHoldPointer = platform.pointerGuard->isAvailable(),
+                                   .isPointerHeld = !wantsPointerHeld || platform.pointerGuard->isRunning(),
+                                   .takenHotKeys = takenHotKeys(),
+                                   .hasStatusArea = platform.statusArea->isAvailable(),
+                                   .hasTransparency = platform.panels->hasTransparency()});
+    if (all == m_all)
+        return;
+    m_all = all;
     Q_EMIT changed();
 }
 

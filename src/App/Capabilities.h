@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace fendrel {
@@ -25,7 +26,10 @@ struct Capability {
     QString id{};
     State state{};
     QString reason{};                     ///< for the user: why it does not work
-    std::optional<BrowserHome> browser{}; ///< of the ones that stand for a browser
+    std::optional<BrowserHome> browser{}; ///< of the ones that stand for a browser, which the id names too
+    bool operator==(const Capability& other) const {
+        return id == other.id && state == other.state && reason == other.reason;
+    }
 };
 
 /// What is known of the system at one moment.
@@ -44,7 +48,7 @@ struct CapabilityFacts {
     QList<Browser> browsers{}; ///< those that were used here
     bool canHoldPointer{};
     bool isPointerHeld{true};   ///< or nobody wants it held
-    QStringList takenHotKeys{}; ///< wanted, but another program's
+    QStringList takenHotKeys{}; ///< wanted, but another program's, or no keys of this keyboard
     bool hasStatusArea{};
     bool hasTransparency{};
 };
@@ -52,14 +56,15 @@ struct CapabilityFacts {
 /// In the order in which they are shown.
 QList<Capability> capabilities(const CapabilityFacts& facts);
 
-/// What of this system works for Fendrel, as it changes. Main thread.
+/// What of this system works for Fendrel, as it changes: empty until somebody refreshes it for the first time. Main
+/// thread.
 class Capabilities : public QObject {
     Q_OBJECT
 public:
     explicit Capabilities(AppController& controller);
 
     const QList<Capability>& all() const { return m_all; }
-    /// Asks again what does not tell by itself: the keyring, and which browsers were used.
+    /// Asks again what does not tell by itself: the keyring, which browsers were used, and hot keys that were refused.
     void refresh();
 
 Q_SIGNALS:
@@ -72,12 +77,12 @@ private:
     QList<CapabilityFacts::Browser> browsers() const;
 
     AppController& m_controller;
-    bool m_canHoldPointer;
     QList<Capability> m_all;
+    bool m_readsTitles = false;
     CapabilityFacts::Keyring m_keyring{};
     QList<BrowserHome> m_usedBrowsers;
     Handle m_reading;
-    Worker m_worker; ///< the last: nothing it posts arrives once it has ended
+    std::unique_ptr<Worker> m_worker; ///< the last: nothing it posts arrives once it has ended
 };
 
 } // namespace fendrel

@@ -43,8 +43,15 @@ QJsonArray array(const QRect& rect) {
 QString redacted(QString text, const QStringList& privateTexts) {
     static const QRegularExpression address(uR"([\w+.-]+://\S+|\S+@\S+)"_s);
     text.replace(address, hidden);
-    for (const QString& secret : privateTexts)
-        text.replace(secret, hidden, Qt::CaseInsensitive);
+    for (const QString& secret : privateTexts) {
+        if (secret.size() < 3) // it is in every other word
+            text.replace(QRegularExpression(uR"((?<!\w)%1(?!\w))"_s.arg(QRegularExpression::escape(secret)),
+                                            QRegularExpression::CaseInsensitiveOption |
+                                                QRegularExpression::UseUnicodePropertiesOption),
+                         hidden);
+        else
+            text.replace(secret, hidden, Qt::CaseInsensitive);
+    }
     return text;
 }
 
@@ -70,6 +77,11 @@ QStringList privateTextsOf(AppController& controller) {
         for (const QString& app : mode.apps)
             texts << controller.workspace().displayName(app);
     }
+    QStringList known = controller.classifier().answers().keys();
+    for (const SeenApp& app : controller.seen().recent())
+        known << app.bundleID;
+    for (const QString& key : std::as_const(known))
+        texts << key << controller.workspace().displayName(key);
     return texts;
 }
 
@@ -86,10 +98,11 @@ QMap<QString, QByteArray> diagnosticFiles(const DiagnosticFacts& facts) {
     for (const Capability& capability : facts.capabilities)
         capabilities.insert(capability.id, stateName(capability.state));
 
-    // The longest first, or a part of one would leave its rest behind. What is shorter than three letters is in every
-    // other word.
+    // Many thousands of answers can be private: only what is in the log is looked for in each line. The longest first,
+    // or a part of one would leave its rest behind.
+    const QString whole = facts.log.join(u'\n').toCaseFolded();
     QStringList privateTexts = facts.privateTexts;
-    privateTexts.removeIf([](const QString& text) { return text.size() < 3; });
+    privateTexts.removeIf([&](const QString& text) { return text.isEmpty() || !whole.contains(text.toCaseFolded()); });
     std::ranges::sort(privateTexts, std::greater{}, &QString::size);
     QStringList log;
     for (const QString& line : facts.log)

@@ -13,7 +13,9 @@ constexpr int digits = 9;
 
 QList<HotKey> digitKeys(Kind kind, int modifiers, int count) {
     QList<HotKey> keys;
-    for (int index = 0; modifiers != 0 && index < std::min(count, digits); ++index)
+    if (getsInTheWay(modifiers, u"1"_s))
+        return keys;
+    for (int index = 0; index < std::min(count, digits); ++index)
         keys.append(
             {.action = {.kind = kind, .index = index}, .modifiers = modifiers, .key = QString::number(index + 1)});
     return keys;

@@ -46,8 +46,8 @@ struct HotKeyPlan {
 struct HotKeyWishes {
     std::optional<Shortcut> focus{};
     std::optional<Shortcut> dock{};
-    int modeModifiers{}; ///< 0: none
-    int appModifiers{};  ///< 0: none
+    int modeModifiers{}; ///< 0: none; shift alone gives none either
+    int appModifiers{};  ///< likewise
     int modes{};
     int apps{};
 };

@@ -19,6 +19,13 @@ void HotKeyRegistry::apply(const HotKeyPlan& plan) {
     Q_EMIT changed();
 }
 
+void HotKeyRegistry::retry() {
+    const QList<HotKey> before = m_refused;
+    update();
+    if (m_refused != before)
+        Q_EMIT changed();
+}
+
 Handle HotKeyRegistry::pause() {
     ++m_pauses;
     update();

@@ -25,6 +25,9 @@ public:
     /// tried again, for its holder may have ended.
     void apply(const HotKeyPlan& plan);
 
+    /// Tries again what was refused.
+    void retry();
+
     /// Lets go of all of them until the handle goes: somebody is choosing a combination, and wants to press one.
     Handle pause();
 

@@ -187,11 +187,15 @@ void CommandHandlers::run(const Request& request, Answered answered) {
         return;
     }
     const quint64 number = ++m_lastNumber;
-    m_underWay[number] = (*late)(request, [this, number, answered = std::move(answered)](const Answer& answer) {
+    m_underWay.try_emplace(number);
+    Handle handle = (*late)(request, [this, number, answered = std::move(answered)](const Answer& answer) {
         // Taken out first: whoever is told may end the program.
         const auto ended = m_underWay.extract(number);
         answered(answer);
     });
+    // It may have been answered meanwhile.
+    if (const auto found = m_underWay.find(number); found != m_underWay.end())
+        found->second = std::move(handle);
 }
 
 Answer CommandHandlers::replaceDock(const QString& wish) {

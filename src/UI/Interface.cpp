@@ -5,6 +5,7 @@
 #include "UI/Images/ShadowImages.h"
 #include "UI/Images/SymbolImages.h"
 #include "UI/Images/TrayImages.h"
+#include "UI/Settings/SettingsCatalog.h"
 #include "UI/Setup/AlertController.h"
 #include "UI/Setup/Dialog.h"
 
@@ -54,8 +55,9 @@ Interface::Interface(AppController& controller)
       m_gate(controller),
       m_messages(controller, m_icons),
       m_dock(controller, m_icons, m_messages),
-      m_firstRun(controller, m_icons),
-      m_settings(controller, m_icons) {
+      m_capabilities(controller),
+      m_firstRun(controller, m_icons, m_capabilities),
+      m_settings(controller, m_icons, m_capabilities) {
     qml_register_types_Fendrel_Types();
     m_engine.addImportPath(u"qrc:/qml"_s);
     m_engine.addImageProvider(u"app"_s, m_icons.makeProvider());
@@ -67,7 +69,7 @@ Interface::Interface(AppController& controller)
 
     controller.onLayoutDocks = [this] { layoutDocks(); };
     controller.onShowOnboarding = [this] { showFirstRun(); };
-    controller.onShowSettings = [this](const QString& pane) { whenFree([this, pane] { showSettings(pane); }); };
+    controller.onShowSettings = [this](const QString& name) { whenFree([this, name] { showSettings(name); }); };
     controller.onShowModes = [this](const QString& modeID) { whenFree([this, modeID] { showModes(modeID); }); };
     controller.onAlert = [this](const Alert& alert) { whenFree([this, alert] { showAlert(alert); }); };
     controller.onAttention = [this] { whenFree([this] { showSettings(m_settings.pane()); }); };
@@ -180,6 +182,11 @@ void Interface::focusDock() {
         dock->second->takeKeyboard();
 }
 
+/// With larger text, a larger window, as far as the screen allows.
+QSize Interface::windowSize(int width, int height) const {
+    return QSize(width, height) * std::clamp(m_controller.platform().look->textScale(), 1.0, 1.6);
+}
+
 void Interface::showFirstRun() {
     if (m_firstRunWindow) {
         m_firstRunWindow->present();
@@ -188,8 +195,7 @@ void Interface::showFirstRun() {
     m_firstRun.begin();
     m_firstRunWindow = std::make_unique<Dialog>(
         m_engine, QCoreApplication::translate("Interface", "Welcome to Fendrel"), u"Setup/FirstRunView.qml"_s,
-        QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}},
-        (QSizeF(760, 690) * std::clamp(m_controller.platform().look->textScale(), 1.0, 1.6)).toSize());
+        QVariantMap{{u"firstRun"_s, QVariant::fromValue(&m_firstRun)}}, windowSize(760, 690));
     m_firstRunWindow->onClosed = [this] { m_firstRunWindow.release()->deleteLater(); };
     QObject::connect(&m_firstRun, &FirstRunController::closed, m_firstRunWindow.get(), [this] {
         // The window is still in the middle of the press that ended it.
@@ -199,16 +205,16 @@ void Interface::showFirstRun() {
     m_firstRunWindow->present();
 }
 
-void Interface::showSettings(const QString& pane) {
-    m_settings.setPane(pane);
+void Interface::showSettings(const QString& name) {
+    const SettingEntry entry = settingsCatalog::entry(name);
+    m_settings.setPane(entry.pane);
     if (!m_settingsWindow) {
-        // With larger text, a larger window, as far as the screen allows.
-        const double scale = std::clamp(m_controller.platform().look->textScale(), 1.0, 1.6);
         m_settingsWindow = std::make_unique<Dialog>(
             m_engine, QCoreApplication::translate("Interface", "Fendrel Settings"), u"Settings/SettingsView.qml"_s,
-            QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, (QSizeF(860, 640) * scale).toSize());
+            QVariantMap{{u"settings"_s, QVariant::fromValue(&m_settings)}}, windowSize(860, 640));
         m_settingsWindow->onClosed = [this] { m_settingsWindow.release()->deleteLater(); };
     }
+    Q_EMIT m_settings.opened(entry.setting);
     m_settingsWindow->present();
 }
 
@@ -220,7 +226,7 @@ void Interface::showModes(const QString& modeID) {
     if (!m_modesWindow) {
         m_modesWindow = std::make_unique<Dialog>(
             m_engine, QCoreApplication::translate("Interface", "Modes"), u"Modes/ModesView.qml"_s,
-            QVariantMap{{u"modes"_s, QVariant::fromValue(modes)}}, QSize(980, 720));
+            QVariantMap{{u"modes"_s, QVariant::fromValue(modes)}}, windowSize(980, 720));
         m_modesWindow->onClosed = [this] { m_modesWindow.release()->deleteLater(); };
     }
     m_modesWindow->present();

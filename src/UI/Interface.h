@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/Alert.h"
+#include "App/Capabilities.h"
 #include "UI/Dock/DockController.h"
 #include "UI/Focus/FocusController.h"
 #include "UI/Focus/FocusGlow.h"
@@ -39,8 +40,9 @@ private:
     void makeHidden();
     void placeCards();
     void focusDock();
+    QSize windowSize(int width, int height) const;
     void showFirstRun();
-    void showSettings(const QString& pane);
+    void showSettings(const QString& name); ///< a pane, or a setting on one
     void showModes(const QString& modeID);
     void showAlert(const Alert& alert);
     void showTray();
@@ -55,6 +57,7 @@ private:
     GateController m_gate;
     MessagesController m_messages;
     DockController m_dock;
+    Capabilities m_capabilities;
     FirstRunController m_firstRun;
     SettingsController m_settings;
     std::map<QString, std::unique_ptr<DockPanel>> m_docks; ///< by display

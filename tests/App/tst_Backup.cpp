@@ -153,14 +153,18 @@ private Q_SLOTS:
         QCOMPARE(settings.skipped, 2);
         const QJsonObject mode{{u"id"_s, u"a"_s},
                                {u"name"_s, u" A\n"_s},
+                               {u"widgets"_s, QJsonArray{u"clock"_s, u"strange"_s}},
                                {u"sites"_s, QJsonArray{u"https://WWW.X.org/y"_s, u"x.org"_s, 3, u"http://"_s}},
                                {u"entryDelay"_s, -5},
                                {u"dailyBudget"_s, 1e99}};
         const Archive modes =
             decode(changed("modes", QJsonArray{mode, QJsonObject{{u"id"_s, u"a"_s}, {u"name"_s, u"B"_s}}}));
-        QCOMPARE(modes.modes,
-                 (QList<Mode>{{.id = u"a"_s, .name = u"A"_s, .sites = {u"x.org"_s}, .dailyBudget = Seconds(86'400)}}));
-        QCOMPARE(modes.skipped, 3); // two sites, and the second mode
+        QCOMPARE(modes.modes, (QList<Mode>{{.id = u"a"_s,
+                                            .name = u"A"_s,
+                                            .sites = {u"x.org"_s},
+                                            .widgets = {u"clock"_s},
+                                            .dailyBudget = Seconds(86'400)}}));
+        QCOMPARE(modes.skipped, 4); // a widget, two sites, and the second mode
     }
 
     void keepsTheNewestOfTooManyAnswers() {

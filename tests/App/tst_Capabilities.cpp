@@ -54,6 +54,7 @@ private Q_SLOTS:
         QDir(world.fake.home.path()).mkpath(u"one-too"_s);
         AppController& controller = world.launch();
         Capabilities known(controller);
+        known.refresh();
         const auto browsers = [&] {
             QStringList ids;
             for (const Capability& capability : known.all()) {

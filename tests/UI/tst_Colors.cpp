@@ -46,7 +46,7 @@ private Q_SLOTS:
                         check(text, is(back), readableContrast);
                         check(text, over(is("hover"), is(back)), readableContrast);
                     }
-                    for (const char* text : {"grave", "warning"})
+                    for (const char* text : {"grave", "warning", "well"})
                         check(text, is(back), readableContrast);
                     check("accent", is(back), 3);
                     check("text", over(is("pressed"), is(back)), readableContrast);

@@ -14,9 +14,10 @@ struct World : ControllerWorld {
         fake.settings->values.insert(u"onboardingDone"_s, isDone);
         launch();
         icons.emplace(controller->workspace());
+        capabilities.emplace(*controller);
     }
     std::unique_ptr<FirstRunController> open() {
-        auto firstRun = std::make_unique<FirstRunController>(*controller, *icons);
+        auto firstRun = std::make_unique<FirstRunController>(*controller, *icons, *capabilities);
         firstRun->begin();
         return firstRun;
     }
@@ -27,6 +28,7 @@ struct World : ControllerWorld {
         return names;
     }
     std::optional<AppIcons> icons;
+    std::optional<Capabilities> capabilities;
 };
 
 } // namespace

@@ -145,11 +145,15 @@ private Q_SLOTS:
         QCOMPARE(world.app.engine().current().sites.last(2), (QStringList{u"example.org"_s, u"sub.example.net"_s}));
 
         const auto count = world.app.engine().current().sites.size();
-        QVERIFY(add("new.example nonsense")[u"isProblem"_s].toBool()); // all or none
-        QCOMPARE(world.app.engine().current().sites.size(), count);
-        const auto partly = add("EXAMPLE.org new.example");
+        const auto problem = add("\"new.example\", <https://other.example/a_(b)>;(third.example)\nnonsense rubbish");
+        QVERIFY(problem[u"isProblem"_s].toBool());
+        const QString bad = problem[u"text"_s].toString();
+        QVERIFY2(bad.contains(u"nonsense"_s) && bad.contains(u"rubbish"_s) && !bad.contains(u"<"_s), qPrintable(bad));
+        QCOMPARE(world.app.engine().current().sites.mid(count),
+                 (QStringList{u"new.example"_s, u"other.example"_s, u"third.example"_s}));
+        const auto partly = add("EXAMPLE.org fourth.example");
         QVERIFY(!partly[u"isProblem"_s].toBool() && partly[u"text"_s].toString().contains(u"example.org"_s));
-        QCOMPARE(world.app.engine().current().sites.size(), count + 1);
+        QCOMPARE(world.app.engine().current().sites.size(), count + 4);
     }
 };
 

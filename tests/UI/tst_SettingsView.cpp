@@ -213,6 +213,37 @@ private Q_SLOTS:
         QVERIFY(place.top() >= 0 && place.bottom() <= window.view->height());
     }
 
+    void opensElsewhereWhateverItShows() {
+        const Window window(u"general"_s);
+        QVERIFY(window.isShown);
+        QQuickItem* shower = window.find("detail", u"0"_s, window.row(u"learnedAnswers"_s));
+        QVERIFY(shower);
+        shower->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(window.view, Qt::Key_Space);
+        QQuickItem* search = window.find("placeholder", u"Search"_s);
+        QVERIFY(search && !search->isEnabled());
+        QTest::keyClick(window.view, Qt::Key_Escape);
+        QVERIFY(shower->hasActiveFocus() && search->isEnabled());
+
+        QTest::keyClick(window.view, Qt::Key_Space);
+        QVERIFY(!search->isEnabled());
+        window.controller->showSettings(u"dock"_s);
+        QVERIFY(window.isPane(u"dock"_s) && search->isEnabled());
+
+        QTest::keyClick(window.view, Qt::Key_F, Qt::ControlModifier);
+        window.type("glow");
+        QVERIFY(!window.row(u"autoHide"_s));
+        window.controller->showSettings(u"dock"_s);
+        QVERIFY(window.row(u"autoHide"_s));
+        window.controller->onShowSettings(u"modelServer"_s);
+        QTRY_VERIFY(window.row(u"modelServer"_s) &&
+                    window.isInside(window.view->activeFocusItem(), window.row(u"modelServer"_s)));
+
+        const QPointer<QWindow> view(window.view);
+        QTest::keyClick(window.view, Qt::Key_Escape);
+        QTRY_VERIFY(!view);
+    }
+
     void searchFindsWhatIsMeant_data() {
         const Table<QString, QString, QString> table("query", "found", "marked");
         table("the beginning of a word", u"tid"_s, u"a"_s, u"<b>Tidy</b> &amp; Café"_s);

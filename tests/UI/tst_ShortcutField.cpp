@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(problem(), u"This combination switches to mode 2."_s);
         field.world.fake.hotKeys->others = {u"4096+J"_s};
         preferences.setFocusShortcut(Shortcut{.keyCode = 38, .modifiers = modifier::control, .key = u"J"_s});
-        QCOMPARE(problem(), u"Another program holds ⌃J."_s);
+        QCOMPARE(problem(), u"Taken by another program, or not on this keyboard: ⌃J."_s);
     }
 };
 

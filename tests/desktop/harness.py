@@ -17,7 +17,7 @@ PROGRAMS = pathlib.Path(os.environ["FENDREL_PROGRAMS"])
 DESKTOP = pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"
 HOME = pathlib.Path.home()
 DATA, CONFIG, STATE = (HOME / folder / "Fendrel" for folder in (".local/share", ".config", ".local/state"))
-GATE, DOCK, SETTINGS = "Stay focused, or switch?", "Fendrel dock", "Fendrel Settings"
+GATE, DOCK, SETTINGS, MODES = "Stay focused, or switch?", "Fendrel dock", "Fendrel Settings", "Modes"
 OWN = "org.fendrel.Fendrel"
 # What sanitizers and QML say of a fault in the program.
 FAULTS = re.compile(r"Sanitizer|runtime error:|^qrc:.*(Error|Warning|loop)|Cannot (assign|read)|ASSERT", re.MULTILINE)

@@ -8,7 +8,7 @@ import subprocess
 import unittest
 
 import harness
-from harness import DATA, HOME, IS_SANITIZED, PROGRAMS, SETTINGS, STATE
+from harness import DATA, HOME, IS_SANITIZED, MODES, PROGRAMS, SETTINGS, STATE
 from windows import SECONDS, press, wait_active, xdotool
 
 
@@ -81,12 +81,11 @@ class Settings(harness.DesktopTest):
     def test_a_mode_is_edited_with_the_keyboard(self):
         fendrel = self.start_with_modes()
         mode = fendrel.do("modes")[0]
-        fendrel.do("settings", "open", "modes")
-        wait_active(SETTINGS)
-        panes, before = 5, 1  # the pills are one stop
-        press(*["Tab"] * (panes + before + 1))  # the name
-        # Color, wait, allowance and "Add…", each application's button, and then the field for sites.
-        to_sites = 4 + len(mode["apps"]) + 1
+        fendrel.do("modes", "open", mode["id"])
+        wait_active(MODES)
+        press("Tab", "Tab")  # from the list of modes to "Add Mode", and the name
+        # Color, symbol and "Add…", each application's button, and then the field for sites.
+        to_sites = 3 + len(mode["apps"]) + 1
         press(*["Tab"] * to_sites)
         xdotool("type", "nonsense")
         press("Return", "ctrl+a")
@@ -94,7 +93,7 @@ class Settings(harness.DesktopTest):
         press("Return")
         press(*["shift+Tab"] * to_sites, "ctrl+a")
         xdotool("type", "Prose")
-        subprocess.run(["wmctrl", "-F", "-c", SETTINGS], check=True)  # what was typed counts
+        subprocess.run(["wmctrl", "-F", "-c", MODES], check=True)  # what was typed counts
         fendrel.expect("the new name", lambda state: state["mode"]["name"] == "Prose")
         self.assertEqual(fendrel.do("modes")[0]["sites"], [*mode["sites"], "wanted.example"])
 

@@ -69,6 +69,13 @@ class Screen:
     def place(self, window_class, x, y, width, height):
         subprocess.run(["wmctrl", "-x", "-r", window_class, "-e", f"0,{x},{y},{width},{height}"], check=True)
 
+    def scroll_down(self):
+        """Turns the wheel over the middle of the active window until everything has gone by."""
+        size = xdotool("getactivewindow", "getwindowgeometry", "--shell")
+        width, height = (int(line.split("=")[1]) for line in size.splitlines()[3:5])
+        xdotool("getactivewindow", "mousemove", "--window", "%1", str(width // 2), str(height // 2),
+                "click", "--repeat", "60", "--delay", "5", "5", "mousemove", "restore")
+
     def type(self, text):
         for line in text.splitlines(keepends=True):
             xdotool("type", "--delay", "12", line.rstrip("\n"))

@@ -12,6 +12,7 @@ from demo_parts.screen import DESKTOP, Screen
 from demo_parts.watch import Failed, Watch
 
 PANES = ("general", "dock", "appearance", "widgets", "modes", "accounts", "permissions", "about")
+LONG = ("general", "appearance", "widgets", "about")  # their end is not in sight
 FIRST_RUN, SETTINGS, MODES = "Welcome to Fendrel", "Fendrel Settings", "Modes"
 PAGES = 4
 # What the desktop is told, and the program.
@@ -63,6 +64,10 @@ class WindowsGallery:
     def picture(self, look, name):
         print(f"gallery: {self.screen.picture(f'{look}-{name}').name}", flush=True)
 
+    def end(self, look, name):
+        self.screen.scroll_down()
+        self.picture(look, f"{name}-end")
+
     def first_run(self, look, watch):
         for page in range(1, PAGES + 1):
             self.picture(look, f"first-run-{page}")
@@ -73,12 +78,23 @@ class WindowsGallery:
         for pane in PANES:
             watch.do("settings", "open", pane)
             self.picture(look, pane)
-            self.screen.press("ctrl+End")
+            if pane in LONG:
+                self.end(look, pane)
+        self.learned_answers(look)
+        self.screen.press("Escape")
+
+    def learned_answers(self, look):
+        self.screen.press("ctrl+f")
+        self.screen.type("gelernte antworten\n" if look == "german" else "learned answers\n")
+        self.screen.settle()  # its button has the keyboard then
+        self.screen.press("Return")
+        self.picture(look, "answers")
         self.screen.press("Escape")
 
     def modes(self, look, watch):
         watch.do("modes", "open", "writing")
         self.picture(look, "modes-window")
+        self.end(look, "modes-window")
         self.screen.press("Escape")
 
 

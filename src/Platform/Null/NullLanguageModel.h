@@ -3,6 +3,8 @@
 #include "Platform/Shared/AtNextTurn.h"
 #include "Ports/LanguageModel.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace fendrel {
@@ -11,7 +13,7 @@ class NullLanguageModel final : public LanguageModel {
 public:
     bool isAvailable() const override { return false; }
     QString unavailableReason() const override {
-        return QStringLiteral("There is no language model on this computer.");
+        return QCoreApplication::translate("ModelServer", "There is no language model on this computer.");
     }
     void prewarm(const Question&) override {}
     Handle ask(const Question&, Answered answered) override {

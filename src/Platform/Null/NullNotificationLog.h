@@ -2,13 +2,15 @@
 
 #include "Ports/NotificationLog.h"
 
+#include <QCoreApplication>
+
 namespace fendrel {
 
 class NullNotificationLog final : public NotificationLog {
 public:
     QString databasePath() const override { return {}; }
     QString unavailableReason() const override {
-        return QStringLiteral("This system doesn't tell which notifications were shown.");
+        return QCoreApplication::translate("Notifications", "This system doesn't tell which notifications were shown.");
     }
     bool tellsChanges() const override { return true; }
 };

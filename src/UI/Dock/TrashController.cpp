@@ -38,6 +38,7 @@ void TrashController::askToEmpty() {
     m_controller.onAlert({.message = tr("Empty the Trash?"),
                           .informativeText = tr("What is in it is deleted for good. You can't undo this."),
                           .buttons = {tr("Empty Trash"), tr("Cancel")},
+                          .isGrave = true,
                           .answered = [self = QPointer(this), failed](int button) {
                               if (self && button == 0)
                                   self->m_controller.platform().trash->empty(failed);

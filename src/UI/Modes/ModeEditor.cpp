@@ -8,6 +8,7 @@
 #include "Widgets/DockWidget.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -208,14 +209,14 @@ QVariantMap ModeEditor::addSites(const QString& typed) {
     const auto answer = [](const QString& text, bool isProblem) {
         return QVariantMap{{u"text"_s, text}, {u"isProblem"_s, isProblem}};
     };
-    QStringList sites, known;
-    for (const QString& address : typed.simplified().split(u' ', Qt::SkipEmptyParts)) {
+    // As they come out of letters and lists.
+    static const QRegularExpression between(uR"([<>"'()]*(?:[\s,;]+|^|$)[<>"'()]*)"_s);
+    QStringList sites, known, strange;
+    for (const QString& address : typed.split(between, Qt::SkipEmptyParts)) {
         const auto site = typedSite(address);
-        if (!site) {
-            return answer(
-                tr("“%1” is not the address of a web site. One looks like example.org.").arg(shortened(address)), true);
-        }
-        if (m_mode.sites.contains(*site))
+        if (!site)
+            strange.append(shortened(address));
+        else if (m_mode.sites.contains(*site))
             known.append(shownSite(*site));
         else
             sites.append(*site);
@@ -223,6 +224,13 @@ QVariantMap ModeEditor::addSites(const QString& typed) {
     const QString modeID = m_mode.id;
     for (const QString& site : std::as_const(sites))
         m_controller.engine().addSite(site, modeID);
+    if (strange.size() == 1)
+        return answer(tr("“%1” is not the address of a web site. One looks like example.org.").arg(strange.first()),
+                      true);
+    if (!strange.isEmpty())
+        return answer(tr("These are not addresses of web sites: %1. One looks like example.org.")
+                          .arg(QLocale().createSeparatedList(strange.first(std::min<qsizetype>(strange.size(), 5)))),
+                      true);
     if (known.isEmpty())
         return answer({}, false);
     return answer(known.size() == 1

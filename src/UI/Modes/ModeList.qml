@@ -139,7 +139,8 @@ FocusScope {
 
     function showChosen() {
         list.forceLayout() // a new row has no place yet
-        list.positionViewAtIndex(modes.list.position(modes.editor.modeID), ListView.Contain)
+        list.currentIndex = modes.list.position(modes.editor.modeID)
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
     }
     function step(to: int) {
         if (to < 0 || to >= list.count)
@@ -150,10 +151,13 @@ FocusScope {
     }
     readonly property string chosen: modes.editor.modeID
     onChosenChanged: showChosen()
+    Component.onCompleted: showChosen()
 
     ListView {
         id: list
         anchors.fill: parent
+        focus: true
+        highlightFollowsCurrentItem: false
         model: root.modes.list
         clip: true
         interactive: contentHeight > height && carried < 0

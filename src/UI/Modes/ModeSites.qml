@@ -21,7 +21,7 @@ SettingsGroup {
                 spacing: 8
                 InputField {
                     id: siteField
-                    width: Math.min(implicitWidth, entry.room - add.width - 8)
+                    width: Math.min(implicitWidth, entry.room - adder.width - 8)
                     colors: group.colors
                     name: qsTr("Address of a web site")
                     placeholder: "example.org"
@@ -35,7 +35,7 @@ SettingsGroup {
                     }
                 }
                 PushButton {
-                    id: add
+                    id: adder
                     colors: group.colors
                     text: qsTr("Add")
                     isEnabled: siteField.text.trim() !== ""

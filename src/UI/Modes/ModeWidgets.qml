@@ -91,7 +91,7 @@ SettingsGroup {
     SettingRow {
         colors: group.colors
         label: qsTr("Widgets")
-        help: qsTr("Small cards in the dock while you are in this mode.")
+        help: qsTr("Small cards in the dock while you are in this mode. The dock doesn't draw them yet: what is chosen here is kept for then.")
         PushButton {
             id: chooser
             colors: group.colors

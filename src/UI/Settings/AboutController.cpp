@@ -13,8 +13,9 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-AboutController::AboutController(AppController& controller)
-    : m_controller(controller), m_capabilities(controller), m_worker(u"about"_s) {
+AboutController::AboutController(AppController& controller, Capabilities& capabilities)
+    : m_controller(controller), m_capabilities(capabilities), m_worker(u"about"_s) {
+    m_capabilities.refresh(); // by the time that a report is wanted, the answers are there
     m_worker.post({}, [this, all = fendrel::dependencies(), extension = controller.platform().extension] {
         QVariantList rows;
         for (const Dependency& dependency : all) {

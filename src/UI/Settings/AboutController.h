@@ -1,6 +1,5 @@
 #pragma once
 
-#include "App/Capabilities.h"
 #include "App/DiagnosticBundle.h"
 #include "Base/Worker.h"
 
@@ -11,6 +10,9 @@
 #include <memory>
 
 namespace fendrel {
+
+class AppController;
+class Capabilities;
 
 /// What this program is: its version, its folders, what it is built on, and a report for when something is wrong.
 class AboutController : public QObject {
@@ -28,7 +30,7 @@ class AboutController : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
-    explicit AboutController(AppController& controller);
+    AboutController(AppController& controller, Capabilities& capabilities);
 
     QString version() const { return QStringLiteral(FENDREL_VERSION); }
     const QString& extensionVersion() const { return m_extensionVersion; } ///< empty while it is not known
@@ -47,7 +49,7 @@ Q_SIGNALS:
 
 private:
     AppController& m_controller;
-    Capabilities m_capabilities;
+    Capabilities& m_capabilities;
     QString m_extensionVersion;
     QVariantList m_dependencies;
     bool m_isWriting = false;

@@ -35,11 +35,16 @@ FocusScope {
     function close() {
         key.text = ""
         isOpen = false
-        opener.forceActiveFocus(Qt.TabFocusReason)
+        if (activeFocus)
+            opener.forceActiveFocus(Qt.TabFocusReason)
     }
-    function save() {
-        if (accounts.save(index, key.text))
-            close()
+    Connections {
+        target: row.accounts
+        // A refused key stays, for another try.
+        function onSaved(index: int) {
+            if (index === row.index && row.isOpen)
+                row.close()
+        }
     }
 
     Keys.onEscapePressed: event => {
@@ -69,7 +74,6 @@ FocusScope {
                 Label {
                     anchors.centerIn: parent
                     colors: row.colors
-                    color: row.colors.tintText(row.tint)
                     text: row.letter
                     font.pixelSize: Theme.textLarge
                     font.weight: Font.Bold
@@ -107,11 +111,11 @@ FocusScope {
                         visible: row.isConnected && !row.busy
                         name: "checkmark"
                         size: Math.round(13 * row.scaling)
-                        color: row.colors.tintText("#2ea055")
+                        color: row.colors.well
                     }
                     Label {
                         colors: row.colors
-                        color: row.isConnected ? row.colors.tintText("#2ea055") : row.colors.secondaryText
+                        color: row.isConnected ? row.colors.well : row.colors.secondaryText
                         text: row.standing
                         font.pixelSize: Theme.textHelp
                         font.weight: row.isConnected ? Font.Medium : Font.Normal
@@ -136,7 +140,7 @@ FocusScope {
                 PushButton {
                     id: opener
                     colors: row.colors
-                    isEnabled: !row.busy
+                    isEnabled: !row.busy && (row.isOpen || row.accounts.hasKeyring)
                     text: row.isOpen ? qsTr("Cancel") : row.isConnected ? qsTr("Change Key…") : qsTr("Connect…")
                     Accessible.description: row.name
                     onClicked: row.isOpen ? row.close() : row.open()
@@ -156,12 +160,14 @@ FocusScope {
                 maximumLength: 4096
                 name: qsTr("Key of %1").arg(row.name)
                 placeholder: qsTr("Paste the key here")
-                onAccepted: row.save()
+                enabled: !row.busy
+                onAccepted: row.accounts.save(row.index, text)
             }
             PushButton {
                 id: paste
                 colors: row.colors
                 text: qsTr("Paste")
+                isEnabled: !row.busy
                 onClicked: {
                     key.text = row.accounts.clipboardText()
                     key.forceActiveFocus(Qt.OtherFocusReason)
@@ -172,8 +178,8 @@ FocusScope {
                 colors: row.colors
                 text: qsTr("Save")
                 isFilled: true
-                isEnabled: key.text.trim() !== ""
-                onClicked: row.save()
+                isEnabled: !row.busy && key.text.trim() !== ""
+                onClicked: row.accounts.save(row.index, key.text)
             }
             PushButton {
                 id: page

@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -168,8 +169,12 @@ void AccountsController::openKeyPage(int row) {
     m_controller.platform().shell->openAddress(WidgetAccounts::all()[row].keyAddress);
 }
 
-bool AccountsController::save(int row, const QString& key) {
-    return m_accounts.save(key, WidgetAccounts::all()[row].service);
+void AccountsController::save(int row, const QString& key) {
+    m_accounts.save(key, WidgetAccounts::all()[row].service,
+                    [self = QPointer(this), row](std::optional<Problem> problem) {
+                        if (self && !problem)
+                            Q_EMIT self->saved(row);
+                    });
 }
 
 void AccountsController::askToRemove(int row) {
@@ -180,6 +185,7 @@ void AccountsController::askToRemove(int row) {
                                "you delete it at %1.")
                                 .arg(name),
          .buttons = {tr("Remove"), tr("Cancel")},
+         .isGrave = true,
          .answered = [&accounts = m_accounts, service = service](int button) {
              if (button == 0)
                  accounts.remove(service);

@@ -19,6 +19,7 @@ class AccountsController : public QAbstractListModel {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(QString remedy READ remedy NOTIFY changed)
     Q_PROPERTY(QString remedyAction READ remedyAction NOTIFY changed)
+    Q_PROPERTY(bool hasKeyring READ hasKeyring NOTIFY changed)
 
 public:
     explicit AccountsController(AppController& controller);
@@ -30,16 +31,18 @@ public:
     QString problem() const;
     QString remedy() const;
     QString remedyAction() const;
+    bool hasKeyring() const { return keyringProblem() != WidgetAccounts::Problem::missing; }
 
     Q_INVOKABLE void look(); ///< into the keyring, which others may have changed
     Q_INVOKABLE void runRemedy();
     Q_INVOKABLE void openKeyPage(int row);
-    Q_INVOKABLE bool save(int row, const QString& key); ///< false: there is nothing in it
+    Q_INVOKABLE void save(int row, const QString& key);
     Q_INVOKABLE void askToRemove(int row);
     Q_INVOKABLE QString clipboardText() const;
 
 Q_SIGNALS:
     void changed();
+    void saved(int row); ///< the keyring has taken the key
 
 private:
     std::optional<WidgetAccounts::Problem> keyringProblem() const;

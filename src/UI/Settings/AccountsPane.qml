@@ -14,6 +14,11 @@ Column {
     spacing: 18
     Component.onCompleted: accounts.look()
 
+    StateLine {
+        colors: page.colors
+        problem: qsTr("The dock doesn't draw widgets yet. Keys that you enter here are kept for then.")
+        well: ""
+    }
     Label {
         colors: page.colors
         color: page.colors.secondaryText

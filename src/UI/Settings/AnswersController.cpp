@@ -73,6 +73,7 @@ void AnswersController::askToForgetAll() {
                           .informativeText = tr("Fendrel judges everything anew, and asks the language model again. "
                                                 "What the modes' lists name is not touched."),
                           .buttons = {tr("Forget All"), tr("Cancel")},
+                          .isGrave = true,
                           .answered = [self = QPointer(this)](int button) {
                               if (self && button == 0)
                                   self->m_controller.classifier().replaceAnswers({});

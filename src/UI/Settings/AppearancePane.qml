@@ -21,16 +21,26 @@ Column {
     function percent(share: real): string { return qsTr("%1 %").arg(Math.round(100 * share)) }
     function pixels(count: real): string { return qsTr("%1 px").arg(Math.round(count)) }
 
-    component LookSlider: Slider {
-        required property string field
+    component LookRow: CatalogRow {
         colors: page.colors
-        current: page.look[field]
-        from: page.editor.least(field)
-        to: page.editor.most(field)
-        stepSize: to > 4 ? 1 : 0.01
-        text: to > 4 ? page.pixels(value) : page.percent(value)
-        onMoved: value => page.editor.move(field, value)
-        onSettled: page.editor.keep()
+        settings: page.settings
+    }
+    component SliderRow: LookRow {
+        id: row
+        property bool isUsable: true
+        Slider {
+            readonly property string field: row.setting
+            colors: page.colors
+            name: row.label
+            enabled: row.isUsable
+            current: page.look[field]
+            from: page.editor.least(field)
+            to: page.editor.most(field)
+            stepSize: to > 4 ? 1 : 0.01
+            text: to > 4 ? page.pixels(value) : page.percent(value)
+            onMoved: value => page.editor.move(field, value)
+            onSettled: page.editor.keep()
+        }
     }
 
     SettingsGroup {
@@ -81,42 +91,24 @@ Column {
     SettingsGroup {
         colors: page.colors
         title: qsTr("Shape")
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Icon size")
-            help: qsTr("On top of the size chosen for the dock.")
-            LookSlider { name: qsTr("Icon size"); field: "iconScale" }
+        SliderRow { setting: "iconScale" }
+        SliderRow {
+            setting: "magnification"
+            help: isUsable ? settings.helpOf(setting) : qsTr("Icons do not grow while this is off in the dock's settings.")
+            isUsable: page.preferences.magnify
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Magnification")
-            help: page.preferences.magnify ? qsTr("How large the icon under the pointer grows.") : qsTr("Icons do not grow while this is off in the dock's settings.")
-            LookSlider { name: qsTr("Magnification"); field: "magnification"; enabled: page.preferences.magnify }
-        }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Spacing")
-            help: qsTr("The room between icons.")
-            LookSlider { name: qsTr("Spacing"); field: "spacing" }
-        }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Corners")
-            help: qsTr("How round they are.")
-            LookSlider { name: qsTr("Corners"); field: "cornerRadius" }
-        }
+        SliderRow { setting: "spacing" }
+        SliderRow { setting: "cornerRadius" }
     }
 
     SettingsGroup {
         colors: page.colors
         title: qsTr("Surface")
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Color")
-            help: qsTr("Text on it becomes light or dark to suit.")
+        LookRow {
+            setting: "background"
             ColorWells {
                 colors: page.colors
-                name: qsTr("Color")
+                name: page.settings.labelOf("background")
                 width: Math.min(440 * Math.max(1, Theme.textScale), (parent as SettingSlot)?.room ?? 440)
                 current: page.look.background
                 choices: [
@@ -135,41 +127,33 @@ Column {
                 onSettled: page.editor.keep()
             }
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Opacity")
-            help: !page.editor.isBlended ? qsTr("Nothing shines through until a compositor runs on this desktop.")
-                : page.editor.isReadable ? qsTr("How little of what lies behind shines through.")
+        SliderRow {
+            setting: "opacity"
+            help: !isUsable ? qsTr("Nothing shines through until a compositor runs on this desktop.")
+                : page.editor.isReadable ? settings.helpOf(setting)
                 : qsTr("Text may be hard to read over some backgrounds.")
-            LookSlider { name: qsTr("Opacity"); field: "opacity"; enabled: page.editor.isBlended }
+            isUsable: page.editor.isBlended
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Blur")
-            help: page.editor.canBlur ? qsTr("Softens what shines through.")
+        LookRow {
+            setting: "blur"
+            help: page.editor.canBlur ? settings.helpOf(setting)
                 : page.editor.isBlended ? qsTr("This desktop's compositor does not offer it.")
                 : qsTr("This needs a compositor, and none runs on this desktop.")
             Toggle {
                 colors: page.colors
-                name: qsTr("Blur")
+                name: page.settings.labelOf("blur")
                 isOn: page.look.blur && page.editor.canBlur
                 enabled: page.editor.canBlur
                 opacity: enabled ? 1 : 0.45
                 onToggled: on => page.editor.setBlur(on)
             }
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Shadow")
-            help: page.editor.isBlended ? qsTr("How dark it is.") : qsTr("This needs a compositor, and none runs on this desktop.")
-            LookSlider { name: qsTr("Shadow"); field: "shadow"; enabled: page.editor.isBlended }
+        SliderRow {
+            setting: "shadow"
+            help: isUsable ? settings.helpOf(setting) : qsTr("This needs a compositor, and none runs on this desktop.")
+            isUsable: page.editor.isBlended
         }
-        SettingRow {
-            colors: page.colors
-            label: qsTr("Border")
-            help: qsTr("How strong the thin line around the dock is.")
-            LookSlider { name: qsTr("Border"); field: "border" }
-        }
+        SliderRow { setting: "border" }
     }
     ResetButton { colors: page.colors; settings: page.settings; pane: "appearance" }
 }

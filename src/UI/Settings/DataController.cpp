@@ -71,6 +71,7 @@ void DataController::askToUse(const Archive& archive) {
     m_controller.onAlert({.message = tr("Import this backup?"),
                           .informativeText = text,
                           .buttons = {tr("Import"), tr("Cancel")},
+                          .isGrave = true,
                           .answered = [self = QPointer(this), archive](int button) {
                               if (!self || button != 0)
                                   return;

@@ -37,7 +37,7 @@ Item {
                     colors: page.colors
                     text: qsTr("Show…")
                     detail: page.settings.answers.total.toLocaleString(Qt.locale(), "f", 0)
-                    onClicked: answers.active = true
+                    onClicked: page.settings.isShowingAnswers = true
                 }
             }
             CatalogRow {
@@ -113,26 +113,11 @@ Item {
                 page.importFrom(drop.urls[0].toString())
         }
     }
-
-    Loader {
-        id: answers
-        parent: page.Window.contentItem
-        anchors.fill: parent
-        active: false
-        sourceComponent: AnswersPage {
-            controller: page.settings.answers
-            colors: page.colors
-            onClosed: {
-                answers.active = false
+    Connections {
+        target: page.settings
+        function onIsShowingAnswersChanged() {
+            if (!page.settings.isShowingAnswers)
                 shower.forceActiveFocus(Qt.OtherFocusReason)
-            }
         }
-    }
-    // The keyboard stays on the page that is seen.
-    Binding {
-        target: page.Window.contentItem?.children[0] ?? null
-        property: "enabled"
-        value: false
-        when: answers.active
     }
 }

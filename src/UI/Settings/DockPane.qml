@@ -18,9 +18,7 @@ Column {
             colors: page.colors
             settings: page.settings
             setting: "replacesDock"
-            help: page.settings.systemDock !== "" ? qsTr("Hides %1 while Fendrel runs, and gives it back as it was.").arg(page.settings.systemDock)
-                : page.settings.replacesDock ? qsTr("No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash are in the dock.")
-                : qsTr("No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash come to the dock all the same.")
+            help: page.settings.dockHelp
             Toggle { colors: page.colors; name: page.settings.labelOf("replacesDock"); isOn: page.settings.replacesDock; onToggled: on => page.settings.replaceDock(on) }
         }
     }

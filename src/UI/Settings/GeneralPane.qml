@@ -45,11 +45,11 @@ Column {
     SettingsGroup {
         colors: page.colors
         title: qsTr("First steps")
-        SettingRow {
+        CatalogRow {
             colors: page.colors
-            label: qsTr("Show the first steps again")
-            help: qsTr("Adds modes and connects browsers. What you have stays as it is.")
-            PushButton { colors: page.colors; text: qsTr("Show"); Accessible.name: qsTr("Show the first steps again"); onClicked: page.settings.showFirstRun() }
+            settings: page.settings
+            setting: "firstSteps"
+            PushButton { colors: page.colors; text: qsTr("Show"); Accessible.name: page.settings.labelOf("firstSteps"); onClicked: page.settings.showFirstRun() }
         }
     }
     SettingsGroup {

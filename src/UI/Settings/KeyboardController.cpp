@@ -15,6 +15,10 @@ using Kind = HotKeyAction::Kind;
 
 namespace {
 
+QString waitsForModifier() {
+    return KeyboardController::tr("It needs Control, Alt or Super, or nobody could type this key.");
+}
+
 int maskOf(int modifiers) {
     const Qt::KeyboardModifiers held(modifiers);
     return (held.testFlag(Qt::ControlModifier) ? modifier::control : 0) |
@@ -120,6 +124,10 @@ void KeyboardController::clear(const QString& setting) {
     store(setting, {});
 }
 
+void KeyboardController::retry() {
+    m_controller.hotKeys().retry();
+}
+
 QStringList KeyboardController::heldCaps(int modifiers) const {
     return caps(maskOf(modifiers), {});
 }
@@ -134,16 +142,17 @@ void KeyboardController::store(const QString& setting, const std::optional<Short
 QVariantMap KeyboardController::shortcutState(const std::optional<Shortcut>& shortcut, Kind kind) const {
     if (!shortcut)
         return {{u"caps"_s, QStringList()}, {u"words"_s, QString()}, {u"problem"_s, QString()}};
-    const QString waits = getsInTheWay(shortcut->modifiers, shortcut->key)
-                              ? tr("It needs Control, Alt or Super, or nobody could type this key.")
-                              : problem(kind);
+    const QString waits = getsInTheWay(shortcut->modifiers, shortcut->key) ? waitsForModifier() : problem(kind);
     return {{u"caps"_s, caps(shortcut->modifiers, shortcut->key)},
             {u"words"_s, words(shortcut->modifiers, shortcut->key)},
             {u"problem"_s, waits}};
 }
 
 QVariantMap KeyboardController::digitState(int modifiers, Kind kind) const {
-    return {{u"caps"_s, caps(modifiers, {})}, {u"words"_s, words(modifiers, {})}, {u"problem"_s, problem(kind)}};
+    const bool waits = modifiers != 0 && getsInTheWay(modifiers, u"1"_s);
+    return {{u"caps"_s, caps(modifiers, {})},
+            {u"words"_s, words(modifiers, {})},
+            {u"problem"_s, waits ? waitsForModifier() : problem(kind)}};
 }
 
 /// What stands in the way of hot keys of this kind; empty while nothing does.
@@ -158,7 +167,9 @@ QString KeyboardController::problem(Kind kind) const {
         if (refused.action.kind == kind)
             labels.append(modifierSymbols(refused.modifiers) + refused.key);
     }
-    return labels.isEmpty() ? QString() : tr("Another program holds %1.").arg(QLocale().createSeparatedList(labels));
+    if (labels.isEmpty())
+        return {};
+    return tr("Taken by another program, or not on this keyboard: %1.").arg(QLocale().createSeparatedList(labels));
 }
 
 } // namespace fendrel

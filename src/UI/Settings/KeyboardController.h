@@ -37,6 +37,7 @@ public:
     /// Takes the combination of a key event of the toolkit. False when it is none that a hot key can be.
     Q_INVOKABLE bool record(const QString& setting, int modifiers, quint32 nativeScanCode);
     Q_INVOKABLE void clear(const QString& setting);
+    Q_INVOKABLE void retry();                              ///< hot keys that another program held
     Q_INVOKABLE QStringList heldCaps(int modifiers) const; ///< of the toolkit's modifiers
 
 Q_SIGNALS:

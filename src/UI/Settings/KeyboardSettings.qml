@@ -13,6 +13,8 @@ Column {
     width: parent?.width ?? 0
     spacing: 10
 
+    Component.onCompleted: keyboard.retry() // another program may have let go of one
+
     component ShortcutRow: CatalogRow {
         id: shortcutRow
         colors: page.colors

@@ -67,6 +67,7 @@ Column {
                 color: pane.colors.secondaryText
                 text: row.counts
                 font.pixelSize: Theme.textHelp
+                wrapMode: Text.Wrap
                 width: parent.width
                 Accessible.ignored: true
             }

@@ -42,7 +42,7 @@ constexpr auto rows = std::to_array<Row>({
                        "While messages are held, the desktop shows none at all, those of the current mode neither."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "notifications do not disturb silence")},
     {"claudePings", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Pings from coding agents"),
-     QT_TRANSLATE_NOOP("SettingsCatalog", "Shows when a coding agent in a terminal waits for you."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Kept for when Fendrel hears of coding agents."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "terminal assistant notifications")},
     {"modelServer", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Model server"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Address of a language model on this computer. No other is ever asked."),
@@ -63,11 +63,16 @@ constexpr auto rows = std::to_array<Row>({
      QT_TRANSLATE_NOOP("SettingsCatalog", "These keys with 1 to 9 open the dock's applications in their order."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "keyboard shortcut hot key modifiers number")},
     {"sounds", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Play sounds"),
-     QT_TRANSLATE_NOOP("SettingsCatalog", "A short sound when focus starts or stops and when the mode changes."),
+     QT_TRANSLATE_NOOP(
+         "SettingsCatalog",
+         "A short sound when focus starts or stops, when the mode changes, and when a message is let through."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "audio cue noise mute")},
     {"startAtLogin", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Start at log-in"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Fendrel is there as soon as you are."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "login automatically launch autostart boot")},
+    {"firstSteps", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Show the first steps again"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Adds modes and connects browsers. What you have stays as it is."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "welcome setup introduction")},
     {"crashReports", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Offer to send crash reports"),
      QT_TRANSLATE_NOOP("SettingsCatalog",
                        "Asks after a crash, and opens your mail app with the report for you to read first."),
@@ -115,14 +120,36 @@ constexpr auto rows = std::to_array<Row>({
      QT_TRANSLATE_NOOP("SettingsCatalog", "color theme style")},
     {"lightAppearance", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Look of the dock"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Its color, opacity, corners, shadow and spacing."),
-     QT_TRANSLATE_NOOP("SettingsCatalog",
-                       "preset icon size magnification spacing corners background opacity blur shadow border")},
+     QT_TRANSLATE_NOOP("SettingsCatalog", "preset")},
     {"darkAppearance", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Look of the dock in dark mode"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "A look of its own for when the desktop is dark."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "night black theme")},
     {"matchSystem", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Match light and dark mode"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "The dock has a look of its own for each, and changes with the desktop."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "night theme automatic")},
+    {"iconScale", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Icon size"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "On top of the size chosen for the dock."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "small medium large big icons")},
+    {"magnification", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Magnification"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "How large the icon under the pointer grows."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "magnification zoom larger")},
+    {"spacing", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Spacing"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "The room between icons."), ""},
+    {"cornerRadius", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Corners"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "How round they are."), ""},
+    {"background", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Color"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Text on it becomes light or dark to suit."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "background")},
+    {"opacity", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Opacity"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "How little of what lies behind shines through."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "transparency")},
+    {"blur", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Blur"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Softens what shines through."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "transparency")},
+    {"shadow", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Shadow"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "How dark it is."), ""},
+    {"border", "appearance", QT_TRANSLATE_NOOP("SettingsCatalog", "Border"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "How strong the thin line around the dock is."), ""},
 
     {"widgets", "widgets", QT_TRANSLATE_NOOP("SettingsCatalog", "Widgets"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "What the dock shows beside your applications."), ""},
@@ -158,6 +185,20 @@ SettingEntry entryOf(const Row& row) {
 }
 
 } // namespace
+
+QString dockHelp(const QString& systemDock, bool replaces) {
+    if (!systemDock.isEmpty()) {
+        return QCoreApplication::translate("SettingsCatalog",
+                                           "Hides %1 while Fendrel runs, and gives it back as it was.")
+            .arg(systemDock);
+    }
+    return replaces
+               ? QCoreApplication::translate("SettingsCatalog", "No other dock or panel runs that Fendrel could hide. "
+                                                                "Minimized windows and the Trash are in the dock.")
+               : QCoreApplication::translate("SettingsCatalog",
+                                             "No other dock or panel runs that Fendrel could hide. Minimized windows "
+                                             "and the Trash come to the dock all the same.");
+}
 
 QList<SettingEntry> entries() {
     QList<SettingEntry> list;

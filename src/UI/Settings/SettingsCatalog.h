@@ -21,6 +21,8 @@ namespace settingsCatalog {
 QList<SettingEntry> entries();
 SettingEntry entry(const QString& setting); ///< an empty one for a name that is none
 QStringList settingsOf(const QString& pane);
+/// What replacing the system's dock does, where that dock may be none.
+QString dockHelp(const QString& systemDock, bool replaces);
 
 } // namespace settingsCatalog
 

@@ -4,13 +4,14 @@
 #include "UI/Settings/SettingsCatalog.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-SettingsController::SettingsController(AppController& controller, AppIcons& icons)
-    : m_controller(controller), m_icons(icons) {
+SettingsController::SettingsController(AppController& controller, AppIcons& icons, Capabilities& capabilities)
+    : m_controller(controller), m_icons(icons), m_capabilities(capabilities) {
     connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
     connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
     connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
@@ -53,14 +54,14 @@ LookEditor* SettingsController::lookEditor() {
 
 PermissionsModel* SettingsController::permissions() {
     if (!m_permissions)
-        m_permissions = std::make_unique<PermissionsModel>(
-            m_controller, m_icons, std::make_shared<Capabilities>(m_controller), PermissionsModel::Shows::all);
+        m_permissions =
+            std::make_unique<PermissionsModel>(m_controller, m_icons, m_capabilities, PermissionsModel::Shows::all);
     return m_permissions.get();
 }
 
 AboutController* SettingsController::about() {
     if (!m_about)
-        m_about = std::make_unique<AboutController>(m_controller);
+        m_about = std::make_unique<AboutController>(m_controller, m_capabilities);
     return m_about.get();
 }
 
@@ -113,8 +114,8 @@ bool SettingsController::replacesDock() const {
     return m_controller.replacement().isOn();
 }
 
-QString SettingsController::systemDock() const {
-    return m_controller.replacement().dockName();
+QString SettingsController::dockHelp() const {
+    return settingsCatalog::dockHelp(m_controller.replacement().dockName(), replacesDock());
 }
 
 void SettingsController::showFirstRun() {
@@ -134,14 +135,17 @@ QString SettingsController::helpOf(const QString& setting) const {
 }
 
 void SettingsController::askToReset(const QString& pane) {
-    m_controller.onAlert({.message = tr("Reset the settings of “%1”?").arg(labelOf(pane)),
-                          .informativeText = tr("They go back to how they were when Fendrel was new. Your modes and "
-                                                "what Fendrel has learned stay."),
-                          .buttons = {tr("Reset"), tr("Cancel")},
-                          .answered = [this, pane](int button) {
-                              if (button == 0)
-                                  m_controller.preferences().reset(settingsCatalog::settingsOf(pane));
-                          }});
+    m_controller.onAlert(
+        {.message = tr("Reset the settings of “%1”?").arg(labelOf(pane)),
+         .informativeText = tr("They go back to how they were when Fendrel was new. Starting at log-in, "
+                               "replacing the system dock, your modes and what Fendrel has learned "
+                               "stay as they are."),
+         .buttons = {tr("Reset"), tr("Cancel")},
+         .isGrave = true,
+         .answered = [self = QPointer(this), pane](int button) {
+             if (self && button == 0)
+                 self->m_controller.preferences().reset(settingsCatalog::settingsOf(pane));
+         }});
 }
 
 QString SettingsController::version() const {

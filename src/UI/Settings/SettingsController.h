@@ -29,6 +29,8 @@ class SettingsController : public QObject {
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(fendrel::Preferences* preferences READ preferences CONSTANT)
     Q_PROPERTY(QString pane READ pane WRITE setPane NOTIFY paneChanged)
+    /// The page of what was learned lies over the pane.
+    Q_PROPERTY(bool isShowingAnswers MEMBER m_isShowingAnswers NOTIFY isShowingAnswersChanged)
     Q_PROPERTY(fendrel::ModesController* modes READ modes CONSTANT)
     Q_PROPERTY(fendrel::LookEditor* lookEditor READ lookEditor CONSTANT)
     Q_PROPERTY(fendrel::KeyboardController* keyboard READ keyboard CONSTANT)
@@ -43,11 +45,11 @@ class SettingsController : public QObject {
     Q_PROPERTY(QString messagesProblem READ messagesProblem NOTIFY stateChanged)
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin WRITE setStartsAtLogin NOTIFY stateChanged)
     Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY dockChanged)
-    Q_PROPERTY(QString systemDock READ systemDock NOTIFY dockChanged)
+    Q_PROPERTY(QString dockHelp READ dockHelp NOTIFY dockChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
 
 public:
-    SettingsController(AppController& controller, AppIcons& icons);
+    SettingsController(AppController& controller, AppIcons& icons, Capabilities& capabilities);
     ~SettingsController() override;
 
     Preferences* preferences();
@@ -68,7 +70,7 @@ public:
     bool startsAtLogin() const;
     void setStartsAtLogin(bool on);
     bool replacesDock() const;
-    QString systemDock() const; ///< what there is to replace; empty when there is nothing
+    QString dockHelp() const; ///< what replacing it does
     QString version() const;
 
     Q_INVOKABLE void replaceDock(bool on); ///< asks first
@@ -80,6 +82,8 @@ public:
 
 Q_SIGNALS:
     void paneChanged();
+    void opened(const QString& setting); ///< from outside the window: one of the pane's settings, or the pane itself
+    void isShowingAnswersChanged();
     void looksChanged();
     void dockChanged();
     void stateChanged();
@@ -87,7 +91,9 @@ Q_SIGNALS:
 private:
     AppController& m_controller;
     AppIcons& m_icons;
+    Capabilities& m_capabilities;
     QString m_pane{QStringLiteral("general")};
+    bool m_isShowingAnswers{false};
     std::unique_ptr<ModesController> m_modes; ///< made when it is asked for first
     std::unique_ptr<AccountsController> m_accounts;
     std::unique_ptr<WidgetsController> m_widgets;

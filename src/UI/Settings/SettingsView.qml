@@ -25,7 +25,7 @@ FocusScope {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Keys.onEscapePressed: Window.window?.close()
+    Component.onDestruction: settings.isShowingAnswers = false
 
     function withNames(list: var): var {
         for (const pane of list)
@@ -41,7 +41,8 @@ FocusScope {
 
     function openSetting(setting: string, pane: string) {
         openPane(pane)
-        sought = setting
+        // The look for dark is there only where the dock has one.
+        sought = setting === "darkAppearance" && !settings.preferences.matchSystem ? "matchSystem" : setting
         Window.window?.update()
     }
 
@@ -57,6 +58,13 @@ FocusScope {
         return null
     }
 
+    Connections {
+        target: root.settings
+        function onOpened(setting: string) {
+            root.settings.isShowingAnswers = false
+            root.openSetting(setting, root.settings.pane)
+        }
+    }
     Connections {
         target: root.Window.window
         enabled: root.sought !== ""
@@ -76,6 +84,7 @@ FocusScope {
     }
     Shortcut {
         sequences: [StandardKey.Find]
+        enabled: !root.settings.isShowingAnswers
         onActivated: sidebar.search()
     }
     SettingsSearch {
@@ -95,6 +104,7 @@ FocusScope {
         id: sidebar
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
         width: Math.min(Math.max(implicitWidth, 196), parent.width * 0.36)
+        enabled: !root.settings.isShowingAnswers // the keyboard stays on the page that is seen
         colors: viewColors
         panes: root.panes
         current: root.isSearching ? -1 : root.current
@@ -111,6 +121,7 @@ FocusScope {
         anchors { left: sidebar.right; right: parent.right; top: parent.top; bottom: parent.bottom }
         colors: viewColors
         contentHeight: page.height + 56
+        enabled: !root.settings.isShowingAnswers
 
         Column {
             id: page
@@ -145,6 +156,15 @@ FocusScope {
                 Component.onCompleted: show()
                 function show() { setSource(file, { settings: root.settings, colors: viewColors }) }
             }
+        }
+    }
+    Loader {
+        anchors.fill: parent
+        active: root.settings.isShowingAnswers
+        sourceComponent: AnswersPage {
+            controller: root.settings.answers
+            colors: viewColors
+            onClosed: root.settings.isShowingAnswers = false
         }
     }
 }

@@ -88,41 +88,45 @@ FocusScope {
         border.color: field.isRecording ? field.colors.accent : field.colors.line
         Behavior on color { ColorAnimation { duration: Theme.quick } }
     }
-    Row {
-        id: content
-        readonly property var caps: field.isRecording ? field.heldCaps : field.current.caps
+    Item {
         anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }
-        spacing: 4
-        LayoutMirroring.enabled: false // keys are pressed in this order everywhere
-        Repeater {
-            model: content.caps
-            Rectangle {
-                id: cap
-                required property string modelData
-                width: Math.max(height, Math.ceil(label.implicitWidth) + 12)
-                height: Math.ceil(label.implicitHeight) + 8
-                radius: Theme.radiusSmall
-                color: field.colors.card
-                border.width: 1
-                border.color: field.colors.line
-                Label {
-                    id: label
-                    anchors.centerIn: parent
-                    colors: field.colors
-                    text: cap.modelData
-                    font.weight: Font.Medium
-                    Accessible.ignored: true
+        width: content.width
+        height: content.height
+        Row {
+            id: content
+            readonly property var caps: field.isRecording ? field.heldCaps : field.current.caps
+            spacing: 4
+            LayoutMirroring.enabled: false // keys are pressed in this order everywhere
+            Repeater {
+                model: content.caps
+                Rectangle {
+                    id: cap
+                    required property string modelData
+                    width: Math.max(height, Math.ceil(label.implicitWidth) + 12)
+                    height: Math.ceil(label.implicitHeight) + 8
+                    radius: Theme.radiusSmall
+                    color: field.colors.card
+                    border.width: 1
+                    border.color: field.colors.line
+                    Label {
+                        id: label
+                        anchors.centerIn: parent
+                        colors: field.colors
+                        text: cap.modelData
+                        font.weight: Font.Medium
+                        Accessible.ignored: true
+                    }
                 }
             }
-        }
-        Label {
-            id: hint
-            anchors.verticalCenter: parent.verticalCenter
-            visible: content.caps.length === 0
-            colors: field.colors
-            color: field.isRefused && field.isRecording ? field.colors.warning : field.colors.secondaryText
-            text: !field.isRecording ? qsTr("None") : field.isRefused ? qsTr("Hold Control, Alt or Super with it") : qsTr("Press the keys…")
-            Accessible.ignored: true
+            Label {
+                id: hint
+                anchors.verticalCenter: parent.verticalCenter
+                visible: content.caps.length === 0
+                colors: field.colors
+                color: field.isRefused && field.isRecording ? field.colors.warning : field.colors.secondaryText
+                text: !field.isRecording ? qsTr("None") : field.isRefused ? qsTr("Hold Control, Alt or Super with it") : qsTr("Press the keys…")
+                Accessible.ignored: true
+            }
         }
     }
     HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }

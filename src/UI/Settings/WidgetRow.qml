@@ -111,7 +111,7 @@ FocusScope {
             Accessible.onPressAction: open()
             Keys.onReturnPressed: open()
             Keys.onSpacePressed: open()
-            readonly property color shade: row.isConnected ? row.colors.tintText("#2ea055") : row.colors.tintText(row.colors.accent)
+            readonly property color shade: row.isConnected ? row.colors.well : row.colors.tintText(row.colors.accent)
             function open() { row.settings.pane = "accounts" }
             Symbol {
                 id: accountMark

@@ -13,6 +13,11 @@ Column {
     width: parent?.width ?? 0
     spacing: 18
 
+    StateLine {
+        colors: page.colors
+        problem: qsTr("The dock doesn't draw widgets yet. What is chosen here is kept for then.")
+        well: ""
+    }
     Item {
         width: parent.width
         height: Math.max(dot.height, intro.height)

@@ -15,6 +15,7 @@ class AlertController : public QObject {
     Q_PROPERTY(QString message READ message CONSTANT)
     Q_PROPERTY(QString informativeText READ informativeText CONSTANT)
     Q_PROPERTY(QStringList buttons READ buttons CONSTANT)
+    Q_PROPERTY(bool isGrave READ isGrave CONSTANT)
     Q_PROPERTY(bool isDark MEMBER m_isDark CONSTANT)
 
 public:
@@ -23,6 +24,7 @@ public:
     const QString& message() const { return m_alert.message; }
     const QString& informativeText() const { return m_alert.informativeText; }
     const QStringList& buttons() const { return m_alert.buttons; }
+    bool isGrave() const { return m_alert.isGrave; }
 
     Q_INVOKABLE void answer(int button) {
         // Taken first, so that closing the window is no second answer.

@@ -96,7 +96,8 @@ FocusScope {
                     colors: viewColors
                     text: modelData
                     isFilled: index === 0
-                    focus: index === 0
+                    tint: root.alert.isGrave ? viewColors.grave : viewColors.accent
+                    focus: index === (root.alert.isGrave ? root.alert.buttons.length - 1 : 0)
                     onClicked: root.alert.answer(index)
                 }
             }

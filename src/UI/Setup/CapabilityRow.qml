@@ -22,7 +22,7 @@ Item {
     readonly property int margin: 18
     readonly property bool isWell: standing === "works"
     readonly property bool isWanting: standing === "missing" || standing === "locked"
-    readonly property color stateColor: isWell ? (colors.isDark ? "#62c985" : "#1b7339") : isWanting ? colors.warning : colors.secondaryText
+    readonly property color stateColor: isWell ? colors.well : isWanting ? colors.warning : colors.secondaryText
 
     width: parent?.width ?? 0
     height: content.height + 28

@@ -66,6 +66,15 @@ void Dialog::present() {
     requestActivate();
 }
 
+void Dialog::keyPressEvent(QKeyEvent* event) {
+    QQuickView::keyPressEvent(event);
+    const bool isEnd = event->key() == Qt::Key_Escape || event->keyCombination() == (Qt::CTRL | Qt::Key_W);
+    if (isEnd && !event->isAccepted()) {
+        event->accept();
+        close();
+    }
+}
+
 void Dialog::closeEvent(QCloseEvent* event) {
     if (QQuickItem* focused = activeFocusItem())
         focused->setFocus(false); // a field that is left takes over what was typed in it

@@ -20,6 +20,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Escape and Ctrl+W close it, where its view has no other use for them.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void place();

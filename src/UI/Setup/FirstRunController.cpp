@@ -2,6 +2,7 @@
 
 #include "App/AppController.h"
 #include "UI/Images/AppIcons.h"
+#include "UI/Settings/SettingsCatalog.h"
 
 namespace fendrel {
 
@@ -12,8 +13,8 @@ const QString pageKey = u"onboardingPage"_s;
 const QString chosenKey = u"onboardingModes"_s;
 } // namespace
 
-FirstRunController::FirstRunController(AppController& controller, AppIcons& icons)
-    : m_controller(controller), m_icons(icons) {
+FirstRunController::FirstRunController(AppController& controller, AppIcons& icons, Capabilities& capabilities)
+    : m_controller(controller), m_icons(icons), m_capabilities(capabilities) {
     connect(&controller.workspace(), &Workspace::installedChanged, this, &FirstRunController::templatesChanged);
     connect(&controller.engine(), &ModeEngine::changed, this, &FirstRunController::templatesChanged);
     connect(&controller.preferences(), &Preferences::changed, this, &FirstRunController::changed);
@@ -29,6 +30,7 @@ FirstRunController::FirstRunController(AppController& controller, AppIcons& icon
 }
 
 void FirstRunController::begin() {
+    m_capabilities.refresh();
     const SettingsStore& settings = *m_controller.platform().settings;
     m_page = 0;
     m_chosen.clear();
@@ -85,28 +87,26 @@ QVariantList FirstRunController::templates() const {
     return list;
 }
 
-const std::shared_ptr<Capabilities>& FirstRunController::capabilities() {
-    if (!m_capabilities)
-        m_capabilities = std::make_shared<Capabilities>(m_controller);
-    return m_capabilities;
-}
-
 PermissionsModel* FirstRunController::browsers() {
     if (!m_browsers)
-        m_browsers = std::make_unique<PermissionsModel>(m_controller, m_icons, capabilities(),
+        m_browsers = std::make_unique<PermissionsModel>(m_controller, m_icons, m_capabilities,
                                                         PermissionsModel::Shows::browsers);
     return m_browsers.get();
 }
 
 PermissionsModel* FirstRunController::problems() {
     if (!m_problems)
-        m_problems = std::make_unique<PermissionsModel>(m_controller, m_icons, capabilities(),
+        m_problems = std::make_unique<PermissionsModel>(m_controller, m_icons, m_capabilities,
                                                         PermissionsModel::Shows::problems);
     return m_problems.get();
 }
 
 QString FirstRunController::systemDock() const {
     return m_controller.replacement().dockName();
+}
+
+QString FirstRunController::dockHelp() const {
+    return settingsCatalog::dockHelp(systemDock(), replacesDock());
 }
 
 bool FirstRunController::replacesDock() const {

@@ -30,12 +30,13 @@ class FirstRunController : public QObject {
     Q_PROPERTY(fendrel::PermissionsModel* browsers READ browsers CONSTANT)
     Q_PROPERTY(fendrel::PermissionsModel* problems READ problems CONSTANT)
     Q_PROPERTY(QString systemDock READ systemDock NOTIFY changed)
+    Q_PROPERTY(QString dockHelp READ dockHelp NOTIFY changed)
     Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY changed)
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin WRITE setStartsAtLogin NOTIFY changed)
     Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
 
 public:
-    FirstRunController(AppController& controller, AppIcons& icons);
+    FirstRunController(AppController& controller, AppIcons& icons, Capabilities& capabilities);
 
     static constexpr int pageCount() { return 4; }
     int page() const { return m_page; }
@@ -46,6 +47,7 @@ public:
     PermissionsModel* browsers();
     PermissionsModel* problems();
     QString systemDock() const; ///< what there is to replace; empty when there is nothing
+    QString dockHelp() const;   ///< what replacing it does
     bool replacesDock() const;
     bool startsAtLogin() const;
     void setStartsAtLogin(bool on);
@@ -65,14 +67,13 @@ Q_SIGNALS:
 
 private:
     bool exists(const QString& modeID) const;
-    const std::shared_ptr<Capabilities>& capabilities();
 
     AppController& m_controller;
     AppIcons& m_icons;
+    Capabilities& m_capabilities;
     int m_page = 0;
     QStringList m_chosen;
-    std::shared_ptr<Capabilities> m_capabilities; ///< these are made when they are asked for first
-    std::unique_ptr<PermissionsModel> m_browsers;
+    std::unique_ptr<PermissionsModel> m_browsers; ///< these are made when they are asked for first
     std::unique_ptr<PermissionsModel> m_problems;
 };
 

@@ -37,6 +37,11 @@ QString extensionsPage(BrowserHome::Family family) {
                                                   : u"chrome://extensions"_s;
 }
 
+bool hasApt() {
+    static const bool found = !QStandardPaths::findExecutable(u"apt"_s).isEmpty();
+    return found;
+}
+
 QString nameOf(State state) {
     return state == State::works     ? u"works"_s
            : state == State::missing ? u"missing"_s
@@ -47,10 +52,9 @@ QString nameOf(State state) {
 
 } // namespace
 
-PermissionsModel::PermissionsModel(AppController& controller, AppIcons& icons,
-                                   std::shared_ptr<Capabilities> capabilities, Shows shows)
-    : m_controller(controller), m_icons(icons), m_capabilities(std::move(capabilities)), m_shows(shows) {
-    connect(m_capabilities.get(), &Capabilities::changed, this, &PermissionsModel::sync);
+PermissionsModel::PermissionsModel(AppController& controller, AppIcons& icons, Capabilities& capabilities, Shows shows)
+    : m_controller(controller), m_icons(icons), m_capabilities(capabilities), m_shows(shows) {
+    connect(&capabilities, &Capabilities::changed, this, &PermissionsModel::sync);
     sync();
 }
 
@@ -98,7 +102,7 @@ QVariant PermissionsModel::data(const QModelIndex& index, int role) const {
 }
 
 bool PermissionsModel::hasConnection() const {
-    return std::ranges::any_of(m_capabilities->all(), [](const Capability& capability) {
+    return std::ranges::any_of(m_capabilities.all(), [](const Capability& capability) {
         return capability.browser && capability.state == State::works;
     });
 }
@@ -120,7 +124,7 @@ QString PermissionsModel::actionLabel(const QString& action) {
 }
 
 void PermissionsModel::act(const QString& row, const QString& action) {
-    const auto& all = m_capabilities->all();
+    const auto& all = m_capabilities.all();
     const auto found = std::ranges::find(all, row, &Capability::id);
     if (found == all.end())
         return;
@@ -138,13 +142,15 @@ void PermissionsModel::act(const QString& row, const QString& action) {
     } else if (action == "command"_L1) {
         QGuiApplication::clipboard()->setText(keyringCommand);
     } else if (action == "settings"_L1) {
-        m_controller.showSettings(u"general"_s);
+        m_controller.onShowSettings(row == "model"_L1     ? u"modelServer"_s
+                                    : row == "pointer"_L1 ? u"replacesDock"_s
+                                                          : u"focusShortcut"_s);
     }
 }
 
 void PermissionsModel::sync() {
     QList<Row> wanted;
-    for (const Capability& capability : m_capabilities->all()) {
+    for (const Capability& capability : m_capabilities.all()) {
         const bool isBrowser = capability.id.startsWith("browser"_L1);
         const bool isShown = m_shows == Shows::all || (m_shows == Shows::browsers && capability.browser) ||
                              (m_shows == Shows::problems && !isBrowser &&
@@ -212,6 +218,7 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
         row.title = tr("Browser");
         row.help = tr("Tells which site is in front, and veils pages that belong to another mode.");
         row.reason = tr("No browser that Fendrel can talk to was used here yet.");
+        row.remedy = tr("Start one such as Firefox or Chromium once.");
     } else if (row.id == "model"_L1) {
         row.title = tr("Language model");
         row.help =
@@ -222,20 +229,20 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
     } else if (row.id == "keyring"_L1) {
         row.title = tr("Keyring");
         row.help = tr("Keeps the keys of your accounts.");
-        const bool hasApt = !QStandardPaths::findExecutable(u"apt"_s).isEmpty();
         missing(tr("Install a keyring, such as GNOME Keyring or KWallet, and log in again."),
-                hasApt ? QStringList{u"command"_s} : QStringList());
+                isMissing && hasApt() ? QStringList{u"command"_s} : QStringList());
         if (capability.state == State::locked)
             row.actions = {u"unlock"_s};
     } else if (row.id == "hotKeys"_L1) {
         row.title = tr("Hot keys");
         row.help = tr("Lead to modes, focus and the dock from anywhere.");
         if (isMissing)
-            row.stateLabel = tr("Some are taken");
+            row.stateLabel = tr("Some don't work");
         missing(tr("Choose another combination, or change it in the other program."), {u"settings"_s});
     } else if (row.id == "pointer"_L1) {
         row.title = tr("Edges of the screen");
         row.help = tr("The pointer stays off the edge where a replaced dock waits.");
+        missing(tr("Turn replacing the dock off and on again."), {u"settings"_s});
         if (capability.state == State::absent)
             row.reason = tr("This system can't hold the pointer.");
     } else if (row.id == "statusArea"_L1) {
@@ -251,7 +258,7 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
     } else {
         row.title = tr("Calendar");
         row.help = tr("For widgets that show what comes next.");
-        row.reason = tr("No calendar is connected yet.");
+        row.reason = tr("Fendrel can't read calendars yet. That comes with the widgets.");
     }
 }
 

@@ -6,8 +6,6 @@
 #include <QVariantList>
 #include <QtQmlIntegration>
 
-#include <memory>
-
 namespace fendrel {
 
 class AppIcons;
@@ -27,8 +25,7 @@ public:
         problems, ///< what is missing, browsers aside
     };
 
-    PermissionsModel(AppController& controller, AppIcons& icons, std::shared_ptr<Capabilities> capabilities,
-                     Shows shows);
+    PermissionsModel(AppController& controller, AppIcons& icons, Capabilities& capabilities, Shows shows);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -37,7 +34,7 @@ public:
     bool hasConnection() const;
 
     /// Asks again what does not tell by itself.
-    Q_INVOKABLE void refresh() { m_capabilities->refresh(); }
+    Q_INVOKABLE void refresh() { m_capabilities.refresh(); }
     /// Does one of a row's actions, which are listed with an id and a label.
     Q_INVOKABLE void act(const QString& row, const QString& action);
 
@@ -67,7 +64,7 @@ private:
 
     AppController& m_controller;
     AppIcons& m_icons;
-    std::shared_ptr<Capabilities> m_capabilities;
+    Capabilities& m_capabilities;
     Shows m_shows;
     QList<Row> m_rows;
     Handle m_unlocking;

@@ -85,7 +85,7 @@ Column {
             visible: page.firstRun.systemDock !== "" || page.firstRun.replacesDock
             colors: page.colors
             label: qsTr("Replace the system dock")
-            help: qsTr("Hides %1 while Fendrel runs, and gives it back as it was.").arg(page.firstRun.systemDock)
+            help: page.firstRun.dockHelp
             Toggle { colors: page.colors; name: qsTr("Replace the system dock"); isOn: page.firstRun.replacesDock; onToggled: on => page.firstRun.replaceDock(on) }
         }
         SettingRow {

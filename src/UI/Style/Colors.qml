@@ -18,6 +18,7 @@ QtObject {
     readonly property color field: isDark ? "#1f2025" : "#f3f4f6"
     readonly property color accent: "#1f6fe5"
     readonly property color grave: isDark ? "#ff7b6e" : "#c8281e" // what loses something
+    readonly property color well: isDark ? "#62c985" : "#1b7339"
     readonly property color warning: isDark ? "#f5b13d" : "#a15c00"
 
     // Text or symbols on a filled tint: white, or black where white would have a contrast below 4.5.

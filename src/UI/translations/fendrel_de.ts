@@ -129,6 +129,10 @@
         <source>Some widgets show what a service knows about you, and need a key for it. Keys are kept in your keyring and nowhere else.</source>
         <translation>Manche Widgets zeigen, was ein Dienst über dich weiß, und brauchen dafür einen Schlüssel. Schlüssel liegen in deinem Schlüsselbund und nirgends sonst.</translation>
     </message>
+    <message>
+        <source>The dock doesn&apos;t draw widgets yet. Keys that you enter here are kept for then.</source>
+        <translation>Das Dock zeichnet noch keine Widgets. Schlüssel, die du hier eingibst, werden dafür aufgehoben.</translation>
+    </message>
 </context>
 <context>
     <name>AddMode</name>
@@ -337,52 +341,12 @@
         <translation>Form</translation>
     </message>
     <message>
-        <source>Icon size</source>
-        <translation>Symbolgröße</translation>
-    </message>
-    <message>
-        <source>On top of the size chosen for the dock.</source>
-        <translation>Zusätzlich zur Größe, die für das Dock gewählt ist.</translation>
-    </message>
-    <message>
-        <source>Magnification</source>
-        <translation>Vergrößerung</translation>
-    </message>
-    <message>
-        <source>How large the icon under the pointer grows.</source>
-        <translation>Wie groß das Symbol unter dem Zeiger wird.</translation>
-    </message>
-    <message>
         <source>Icons do not grow while this is off in the dock&apos;s settings.</source>
         <translation>Symbole wachsen nicht, solange dies in den Einstellungen des Docks aus ist.</translation>
     </message>
     <message>
-        <source>Spacing</source>
-        <translation>Abstand</translation>
-    </message>
-    <message>
-        <source>The room between icons.</source>
-        <translation>Der Platz zwischen den Symbolen.</translation>
-    </message>
-    <message>
-        <source>Corners</source>
-        <translation>Ecken</translation>
-    </message>
-    <message>
-        <source>How round they are.</source>
-        <translation>Wie rund sie sind.</translation>
-    </message>
-    <message>
         <source>Surface</source>
         <translation>Oberfläche</translation>
-    </message>
-    <message>
-        <source>Color</source>
-        <translation>Farbe</translation>
-    </message>
-    <message>
-        <source>Text on it becomes light or dark to suit.</source>
-        <translation>Text darauf wird passend hell oder dunkel.</translation>
     </message>
     <message>
         <source>White</source>
@@ -425,28 +389,12 @@
         <translation>Grün</translation>
     </message>
     <message>
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-    <message>
         <source>Nothing shines through until a compositor runs on this desktop.</source>
         <translation>Nichts scheint durch, bis auf dieser Arbeitsfläche ein Compositor läuft.</translation>
     </message>
     <message>
-        <source>How little of what lies behind shines through.</source>
-        <translation>Wie wenig von dem durchscheint, was dahinter liegt.</translation>
-    </message>
-    <message>
         <source>Text may be hard to read over some backgrounds.</source>
         <translation>Text kann über manchen Hintergründen schwer lesbar sein.</translation>
-    </message>
-    <message>
-        <source>Blur</source>
-        <translation>Unschärfe</translation>
-    </message>
-    <message>
-        <source>Softens what shines through.</source>
-        <translation>Macht weicher, was durchscheint.</translation>
     </message>
     <message>
         <source>This desktop&apos;s compositor does not offer it.</source>
@@ -455,22 +403,6 @@
     <message>
         <source>This needs a compositor, and none runs on this desktop.</source>
         <translation>Das braucht einen Compositor, und auf dieser Arbeitsfläche läuft keiner.</translation>
-    </message>
-    <message>
-        <source>Shadow</source>
-        <translation>Schatten</translation>
-    </message>
-    <message>
-        <source>How dark it is.</source>
-        <translation>Wie dunkel er ist.</translation>
-    </message>
-    <message>
-        <source>Border</source>
-        <translation>Rand</translation>
-    </message>
-    <message>
-        <source>How strong the thin line around the dock is.</source>
-        <translation>Wie kräftig die dünne Linie um das Dock ist.</translation>
     </message>
 </context>
 <context>
@@ -808,18 +740,6 @@
 </context>
 <context>
     <name>DockPane</name>
-    <message>
-        <source>Hides %1 while Fendrel runs, and gives it back as it was.</source>
-        <translation>Blendet %1 aus, solange Fendrel läuft, und gibt es zurück, wie es war.</translation>
-    </message>
-    <message>
-        <source>No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash are in the dock.</source>
-        <translation>Es läuft kein anderes Dock oder Panel, das Fendrel ausblenden könnte. Minimierte Fenster und der Papierkorb sind im Dock.</translation>
-    </message>
-    <message>
-        <source>No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash come to the dock all the same.</source>
-        <translation>Es läuft kein anderes Dock oder Panel, das Fendrel ausblenden könnte. Minimierte Fenster und der Papierkorb kommen trotzdem ins Dock.</translation>
-    </message>
     <message>
         <source>Bottom</source>
         <translation>Unten</translation>
@@ -1376,14 +1296,6 @@
         <translation>Erste Schritte</translation>
     </message>
     <message>
-        <source>Show the first steps again</source>
-        <translation>Erste Schritte noch einmal zeigen</translation>
-    </message>
-    <message>
-        <source>Adds modes and connects browsers. What you have stays as it is.</source>
-        <translation>Fügt Modi hinzu und verbindet Browser. Was du hast, bleibt, wie es ist.</translation>
-    </message>
-    <message>
         <source>Show</source>
         <translation>Zeigen</translation>
     </message>
@@ -1744,10 +1656,6 @@
         <translation>Widgets</translation>
     </message>
     <message>
-        <source>Small cards in the dock while you are in this mode.</source>
-        <translation>Kleine Karten im Dock, während du in diesem Modus bist.</translation>
-    </message>
-    <message>
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
@@ -1762,6 +1670,57 @@
     <message>
         <source>No widget is found</source>
         <translation>Kein Widget gefunden</translation>
+    </message>
+    <message>
+        <source>Small cards in the dock while you are in this mode. The dock doesn&apos;t draw them yet: what is chosen here is kept for then.</source>
+        <translation>Kleine Karten im Dock, während du in diesem Modus bist. Das Dock zeichnet sie noch nicht: Was du hier wählst, wird dafür aufgehoben.</translation>
+    </message>
+</context>
+<context>
+    <name>ModelServer</name>
+    <message>
+        <source>“%1” is no address of a model server. An address looks like localhost:8080.</source>
+        <translation>„%1“ ist keine Adresse eines Modellservers. Eine Adresse sieht aus wie localhost:8080.</translation>
+    </message>
+    <message>
+        <source>Only a model server on this machine is asked, and “%1” is elsewhere.</source>
+        <translation>Gefragt wird nur ein Modellserver auf diesem Computer, und „%1“ ist anderswo.</translation>
+    </message>
+    <message>
+        <source>A language model server on this machine is being looked for.</source>
+        <translation>Auf diesem Computer wird ein Sprachmodell-Server gesucht.</translation>
+    </message>
+    <message>
+        <source>No language model server answers on this machine.</source>
+        <translation>Auf diesem Computer antwortet kein Sprachmodell-Server.</translation>
+    </message>
+    <message>
+        <source>No model server answers at %1.</source>
+        <translation>Unter %1 antwortet kein Modellserver.</translation>
+    </message>
+    <message>
+        <source>The model server at %1 is still loading its model.</source>
+        <translation>Der Modellserver unter %1 lädt sein Modell noch.</translation>
+    </message>
+    <message>
+        <source>What answers at %1 is no model server.</source>
+        <translation>Was unter %1 antwortet, ist kein Modellserver.</translation>
+    </message>
+    <message>
+        <source>The model server at %1 has no model to ask.</source>
+        <translation>Der Modellserver unter %1 hat kein Modell, das man fragen könnte.</translation>
+    </message>
+    <message>
+        <source>The model server at %1 doesn&apos;t have the model “%2”.</source>
+        <translation>Der Modellserver unter %1 hat das Modell „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>Only a model on this machine is asked, and “%1” runs elsewhere.</source>
+        <translation>Gefragt wird nur ein Modell auf diesem Computer, und „%1“ läuft anderswo.</translation>
+    </message>
+    <message>
+        <source>There is no language model on this computer.</source>
+        <translation>Auf diesem Computer gibt es kein Sprachmodell.</translation>
     </message>
 </context>
 <context>
@@ -1809,6 +1768,29 @@
     <message>
         <source>Add Mode</source>
         <translation>Modus hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>Notifications</name>
+    <message>
+        <source>Fendrel can&apos;t reach the session bus, so it doesn&apos;t see notifications (%1).</source>
+        <translation>Fendrel erreicht den Sitzungsbus nicht und sieht deshalb keine Mitteilungen (%1).</translation>
+    </message>
+    <message>
+        <source>The session bus doesn&apos;t let Fendrel see notifications (%1).</source>
+        <translation>Der Sitzungsbus lässt Fendrel keine Mitteilungen sehen (%1).</translation>
+    </message>
+    <message>
+        <source>The connection to the session bus was lost. Start Fendrel again to see notifications.</source>
+        <translation>Die Verbindung zum Sitzungsbus ist abgerissen. Starte Fendrel neu, um Mitteilungen zu sehen.</translation>
+    </message>
+    <message>
+        <source>Notifications can&apos;t be kept (%1).</source>
+        <translation>Mitteilungen können nicht aufbewahrt werden (%1).</translation>
+    </message>
+    <message>
+        <source>This system doesn&apos;t tell which notifications were shown.</source>
+        <translation>Dieses System verrät nicht, welche Mitteilungen gezeigt wurden.</translation>
     </message>
 </context>
 <context>
@@ -1950,10 +1932,6 @@
         <translation>Hinweise von Coding-Agenten</translation>
     </message>
     <message>
-        <source>Shows when a coding agent in a terminal waits for you.</source>
-        <translation>Zeigt, wenn ein Coding-Agent in einem Terminal auf dich wartet.</translation>
-    </message>
-    <message>
         <source>terminal assistant notifications</source>
         <translation>terminal assistent benachrichtigungen</translation>
     </message>
@@ -2028,10 +2006,6 @@
     <message>
         <source>Play sounds</source>
         <translation>Töne abspielen</translation>
-    </message>
-    <message>
-        <source>A short sound when focus starts or stops and when the mode changes.</source>
-        <translation>Ein kurzer Ton, wenn der Fokus beginnt oder endet und wenn der Modus wechselt.</translation>
     </message>
     <message>
         <source>audio cue noise mute</source>
@@ -2214,10 +2188,6 @@
         <translation>Farbe, Deckkraft, Ecken, Schatten und Abstände.</translation>
     </message>
     <message>
-        <source>preset icon size magnification spacing corners background opacity blur shadow border</source>
-        <translation>vorlage symbolgröße vergrößerung abstand ecken hintergrund deckkraft transparenz unschärfe schatten rahmen</translation>
-    </message>
-    <message>
         <source>Look of the dock in dark mode</source>
         <translation>Aussehen des Docks bei Dunkel</translation>
     </message>
@@ -2296,6 +2266,122 @@
     <message>
         <source>version license files diagnostics help privacy</source>
         <translation>version lizenz dateien diagnose hilfe datenschutz</translation>
+    </message>
+    <message>
+        <source>Kept for when Fendrel hears of coding agents.</source>
+        <translation>Wird aufgehoben, bis Fendrel von Coding-Agenten hört.</translation>
+    </message>
+    <message>
+        <source>A short sound when focus starts or stops, when the mode changes, and when a message is let through.</source>
+        <translation>Ein kurzer Ton, wenn der Fokus beginnt oder endet, wenn der Modus wechselt und wenn eine Nachricht durchgelassen wird.</translation>
+    </message>
+    <message>
+        <source>Show the first steps again</source>
+        <translation>Erste Schritte noch einmal zeigen</translation>
+    </message>
+    <message>
+        <source>Adds modes and connects browsers. What you have stays as it is.</source>
+        <translation>Fügt Modi hinzu und verbindet Browser. Was du hast, bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>welcome setup introduction</source>
+        <translation>willkommen einrichtung einführung</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>vorlage</translation>
+    </message>
+    <message>
+        <source>Icon size</source>
+        <translation>Symbolgröße</translation>
+    </message>
+    <message>
+        <source>On top of the size chosen for the dock.</source>
+        <translation>Zusätzlich zur Größe, die für das Dock gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Magnification</source>
+        <translation>Vergrößerung</translation>
+    </message>
+    <message>
+        <source>How large the icon under the pointer grows.</source>
+        <translation>Wie groß das Symbol unter dem Zeiger wird.</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>The room between icons.</source>
+        <translation>Der Platz zwischen den Symbolen.</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>How round they are.</source>
+        <translation>Wie rund sie sind.</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Text on it becomes light or dark to suit.</source>
+        <translation>Text darauf wird passend hell oder dunkel.</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>hintergrund</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>How little of what lies behind shines through.</source>
+        <translation>Wie wenig von dem durchscheint, was dahinter liegt.</translation>
+    </message>
+    <message>
+        <source>transparency</source>
+        <translation>transparenz durchsichtig</translation>
+    </message>
+    <message>
+        <source>Blur</source>
+        <translation>Unschärfe</translation>
+    </message>
+    <message>
+        <source>Softens what shines through.</source>
+        <translation>Macht weicher, was durchscheint.</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>How dark it is.</source>
+        <translation>Wie dunkel er ist.</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>How strong the thin line around the dock is.</source>
+        <translation>Wie kräftig die dünne Linie um das Dock ist.</translation>
+    </message>
+    <message>
+        <source>Hides %1 while Fendrel runs, and gives it back as it was.</source>
+        <translation>Blendet %1 aus, solange Fendrel läuft, und gibt es zurück, wie es war.</translation>
+    </message>
+    <message>
+        <source>No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash are in the dock.</source>
+        <translation>Es läuft kein anderes Dock oder Panel, das Fendrel ausblenden könnte. Minimierte Fenster und der Papierkorb sind im Dock.</translation>
+    </message>
+    <message>
+        <source>No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash come to the dock all the same.</source>
+        <translation>Es läuft kein anderes Dock oder Panel, das Fendrel ausblenden könnte. Minimierte Fenster und der Papierkorb kommen trotzdem ins Dock.</translation>
     </message>
 </context>
 <context>
@@ -2392,10 +2478,6 @@
     <message>
         <source>Replace the system dock</source>
         <translation>System-Dock ersetzen</translation>
-    </message>
-    <message>
-        <source>Hides %1 while Fendrel runs, and gives it back as it was.</source>
-        <translation>Blendet %1 aus, solange Fendrel läuft, und gibt es zurück, wie es war.</translation>
     </message>
     <message>
         <source>Start at log-in</source>
@@ -3024,6 +3106,10 @@
         <source>No widget is called that. Perhaps in other words?</source>
         <translation>Kein Widget heißt so. Vielleicht mit anderen Worten?</translation>
     </message>
+    <message>
+        <source>The dock doesn&apos;t draw widgets yet. What is chosen here is kept for then.</source>
+        <translation>Das Dock zeichnet noch keine Widgets. Was du hier wählst, wird dafür aufgehoben.</translation>
+    </message>
 </context>
 <context>
     <name>WindowCard</name>
@@ -3288,12 +3374,12 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Der Zeiger lässt sich gerade nicht halten.</translation>
     </message>
     <message>
-        <source>Another program holds %1.</source>
-        <translation>Ein anderes Programm belegt %1.</translation>
-    </message>
-    <message>
         <source>Fendrel may not read window titles yet.</source>
         <translation>Fendrel darf noch keine Fenstertitel lesen.</translation>
+    </message>
+    <message>
+        <source>Taken by another program, or not on this keyboard: %1.</source>
+        <translation>Von einem anderen Programm belegt oder nicht auf dieser Tastatur: %1.</translation>
     </message>
 </context>
 <context>
@@ -3629,8 +3715,8 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Control, Alt oder Super muss dabei sein, sonst könnte niemand diese Taste tippen.</translation>
     </message>
     <message>
-        <source>Another program holds %1.</source>
-        <translation>Ein anderes Programm belegt %1.</translation>
+        <source>Taken by another program, or not on this keyboard: %1.</source>
+        <translation>Von einem anderen Programm belegt oder nicht auf dieser Tastatur: %1.</translation>
     </message>
 </context>
 <context>
@@ -3727,6 +3813,10 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
             <numerusform>%n davon steht schon auf der Liste.</numerusform>
             <numerusform>%n davon stehen schon auf der Liste.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>These are not addresses of web sites: %1. One looks like example.org.</source>
+        <translation>Das sind keine Adressen von Websites: %1. Eine sieht aus wie example.org.</translation>
     </message>
 </context>
 <context>
@@ -3883,10 +3973,6 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Führen von überall zu Modi, Fokus und Dock.</translation>
     </message>
     <message>
-        <source>Some are taken</source>
-        <translation>Einige sind belegt</translation>
-    </message>
-    <message>
         <source>Choose another combination, or change it in the other program.</source>
         <translation>Wähle eine andere Kombination oder ändere sie im anderen Programm.</translation>
     </message>
@@ -3939,8 +4025,20 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Für Widgets, die zeigen, was als Nächstes kommt.</translation>
     </message>
     <message>
-        <source>No calendar is connected yet.</source>
-        <translation>Noch ist kein Kalender verbunden.</translation>
+        <source>Start one such as Firefox or Chromium once.</source>
+        <translation>Starte einmal einen wie Firefox oder Chromium.</translation>
+    </message>
+    <message>
+        <source>Some don&apos;t work</source>
+        <translation>Einige gehen nicht</translation>
+    </message>
+    <message>
+        <source>Turn replacing the dock off and on again.</source>
+        <translation>Schalte das Ersetzen des Docks aus und wieder ein.</translation>
+    </message>
+    <message>
+        <source>Fendrel can&apos;t read calendars yet. That comes with the widgets.</source>
+        <translation>Fendrel kann noch keine Kalender lesen. Das kommt mit den Widgets.</translation>
     </message>
 </context>
 <context>
@@ -3950,16 +4048,16 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Einstellungen von „%1“ zurücksetzen?</translation>
     </message>
     <message>
-        <source>They go back to how they were when Fendrel was new. Your modes and what Fendrel has learned stay.</source>
-        <translation>Sie werden wieder, wie sie am Anfang waren. Deine Modi und was Fendrel gelernt hat, bleiben.</translation>
-    </message>
-    <message>
         <source>Reset</source>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>They go back to how they were when Fendrel was new. Starting at log-in, replacing the system dock, your modes and what Fendrel has learned stay as they are.</source>
+        <translation>Sie werden wieder, wie sie am Anfang waren. Der Start beim Anmelden, das Ersetzen des System-Docks, deine Modi und was Fendrel gelernt hat, bleiben, wie sie sind.</translation>
     </message>
 </context>
 <context>

@@ -105,10 +105,10 @@ GCancellable* cancellable(const KeyringPatience& patience) {
 /// One conversation with the service. Where nobody provides it, this is known at once.
 class Conversation {
 public:
-    Conversation() {
+    explicit Conversation(const KeyringPatience& patience) : m_patience(patience) {
         Failure failure;
-        m_service.reset(secret_service_open_sync(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, nullptr,
-                                                 failure.place()));
+        m_service.reset(secret_service_open_sync(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION,
+                                                 cancellable(patience), failure.place()));
         if (!m_service)
             m_problem = failure.problem();
     }
@@ -119,38 +119,40 @@ public:
 
     Owned<GList> search(const SecretStore::Item& item, int flags, Failure& failure) const {
         return Owned<GList>(secret_service_search_sync(m_service.get(), &schema(), attributes(item).get(),
-                                                       static_cast<SecretSearchFlags>(flags), nullptr,
+                                                       static_cast<SecretSearchFlags>(flags), cancellable(m_patience),
                                                        failure.place()));
     }
 
     /// The keyring that new items go to; null where there is none yet.
     Owned<SecretCollection> collection(Failure& failure) const {
-        return Owned<SecretCollection>(secret_collection_for_alias_sync(
-            m_service.get(), SECRET_COLLECTION_DEFAULT, SECRET_COLLECTION_NONE, nullptr, failure.place()));
+        return Owned<SecretCollection>(secret_collection_for_alias_sync(m_service.get(), SECRET_COLLECTION_DEFAULT,
+                                                                        SECRET_COLLECTION_NONE, cancellable(m_patience),
+                                                                        failure.place()));
     }
 
     /// Asks the user. `object` is an item or a keyring.
-    std::optional<Problem> unlock(void* object, const KeyringPatience& patience) const {
+    std::optional<Problem> unlock(void* object) const {
         GList objects{.data = object, .next = nullptr, .prev = nullptr};
         Failure failure;
         const int count =
-            secret_service_unlock_sync(m_service.get(), &objects, cancellable(patience), nullptr, failure.place());
+            secret_service_unlock_sync(m_service.get(), &objects, cancellable(m_patience), nullptr, failure.place());
         if (failure)
             return failure.problem();
         return count > 0 ? std::nullopt : std::optional(Problem::locked);
     }
 
-    std::optional<Problem> unlockCollection(const KeyringPatience& patience) const {
+    std::optional<Problem> unlockCollection() const {
         Failure failure;
         const auto found = collection(failure);
         if (failure)
             return failure.problem();
         if (!found || secret_collection_get_locked(found.get()) == FALSE)
             return {};
-        return unlock(found.get(), patience);
+        return unlock(found.get());
     }
 
 private:
+    const KeyringPatience& m_patience;
     Owned<SecretService> m_service;
     Problem m_problem = Problem::missing;
 };
@@ -169,10 +171,10 @@ void KeyringPatience::end() {
 
 namespace keyring {
 
-SecretStore::Secret read(const SecretStore::Item& item) {
+SecretStore::Secret read(const SecretStore::Item& item, const KeyringPatience& patience) {
     using Secret = SecretStore::Secret;
     const OwnContext context;
-    const Conversation conversation;
+    const Conversation conversation(patience);
     if (!conversation)
         return Secret::failure(conversation.problem());
     Failure failure;
@@ -199,7 +201,7 @@ SecretStore::Secret read(const SecretStore::Item& item) {
 std::optional<Problem> save(const SecretStore::Item& item, const QString& label, const QString& secret,
                             const KeyringPatience& patience) {
     const OwnContext context;
-    const Conversation conversation;
+    const Conversation conversation(patience);
     if (!conversation)
         return conversation.problem();
     QByteArray bytes = secret.toUtf8();
@@ -212,12 +214,13 @@ std::optional<Problem> save(const SecretStore::Item& item, const QString& label,
     if (items) {
         auto* found = static_cast<SecretItem*>(items->data);
         if (secret_item_get_locked(found) != FALSE) {
-            if (const auto problem = conversation.unlock(found, patience))
+            if (const auto problem = conversation.unlock(found))
                 return problem;
         }
-        return outcome(secret_item_set_secret_sync(found, value.get(), nullptr, failure.place()), failure);
+        return outcome(secret_item_set_secret_sync(found, value.get(), cancellable(patience), failure.place()),
+                       failure);
     }
-    if (const auto problem = conversation.unlockCollection(patience))
+    if (const auto problem = conversation.unlockCollection())
         return problem;
     // Where there is no keyring yet, this makes one, and the user chooses its password.
     const auto isStored =
@@ -228,7 +231,7 @@ std::optional<Problem> save(const SecretStore::Item& item, const QString& label,
 
 std::optional<Problem> remove(const SecretStore::Item& item, const KeyringPatience& patience) {
     const OwnContext context;
-    const Conversation conversation;
+    const Conversation conversation(patience);
     if (!conversation)
         return conversation.problem();
     Failure failure;
@@ -238,7 +241,7 @@ std::optional<Problem> remove(const SecretStore::Item& item, const KeyringPatien
     for (const GList* each = items.get(); each != nullptr; each = each->next) {
         auto* found = static_cast<SecretItem*>(each->data);
         if (secret_item_get_locked(found) != FALSE) {
-            if (const auto problem = conversation.unlock(found, patience))
+            if (const auto problem = conversation.unlock(found))
                 return problem;
         }
         if (secret_item_delete_sync(found, cancellable(patience), failure.place()) == FALSE)
@@ -249,8 +252,8 @@ std::optional<Problem> remove(const SecretStore::Item& item, const KeyringPatien
 
 std::optional<Problem> unlock(const KeyringPatience& patience) {
     const OwnContext context;
-    const Conversation conversation;
-    return conversation ? conversation.unlockCollection(patience) : conversation.problem();
+    const Conversation conversation(patience);
+    return conversation ? conversation.unlockCollection() : conversation.problem();
 }
 
 } // namespace keyring

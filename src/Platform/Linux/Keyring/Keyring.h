@@ -7,7 +7,7 @@
 
 namespace fendrel {
 
-/// Lets another thread put an end to the wait for the user's password.
+/// Lets another thread put an end to every wait, for the service and for the user's password.
 class KeyringPatience {
 public:
     KeyringPatience();
@@ -23,7 +23,7 @@ private:
 /// thread of its own.
 namespace keyring {
 
-SecretStore::Secret read(const SecretStore::Item& item);
+SecretStore::Secret read(const SecretStore::Item& item, const KeyringPatience& patience);
 std::optional<SecretStore::Problem> save(const SecretStore::Item& item, const QString& label, const QString& secret,
                                          const KeyringPatience& patience);
 std::optional<SecretStore::Problem> remove(const SecretStore::Item& item, const KeyringPatience& patience);

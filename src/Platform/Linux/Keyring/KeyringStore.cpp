@@ -11,7 +11,7 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 KeyringStore::~KeyringStore() {
-    m_patience.end(); // the thread is waited for, and must not wait for the user meanwhile
+    m_patience.end(); // the thread is waited for, and must not wait for anybody meanwhile
 }
 
 template<class Answer>
@@ -32,7 +32,7 @@ Handle KeyringStore::post(std::function<Answer()> work, std::function<void(const
 }
 
 Handle KeyringStore::read(const Item& item, std::function<void(const Secret&)> done) {
-    return post<Secret>([item] { return keyring::read(item); }, std::move(done));
+    return post<Secret>([item, patience = m_patience] { return keyring::read(item, patience); }, std::move(done));
 }
 
 Handle KeyringStore::save(const Item& item, const QString& label, const QString& secret, Done done) {

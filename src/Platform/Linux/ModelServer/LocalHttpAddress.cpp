@@ -1,5 +1,6 @@
 #include "Platform/Linux/ModelServer/LocalHttpAddress.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHostAddress>
 #include <QUrl>
@@ -15,11 +16,16 @@ namespace {
 using Parsed = Result<LocalHttpAddress, QString>;
 
 Parsed notAnAddress(const QString& text) {
-    return Parsed::failure(u"“%1” is no address of a model server. An address looks like localhost:8080."_s.arg(text));
+    return Parsed::failure(
+        QCoreApplication::translate("ModelServer",
+                                    "“%1” is no address of a model server. An address looks like localhost:8080.")
+            .arg(text));
 }
 
 Parsed elsewhere(const QString& text) {
-    return Parsed::failure(u"Only a model server on this machine is asked, and “%1” is elsewhere."_s.arg(text));
+    return Parsed::failure(QCoreApplication::translate(
+                               "ModelServer", "Only a model server on this machine is asked, and “%1” is elsewhere.")
+                               .arg(text));
 }
 
 Parsed ofSocket(const QString& text, const QString& path) {

@@ -3,6 +3,8 @@
 #include "Base/Log.h"
 #include "Platform/Linux/ModelServer/ModelServerReply.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace fendrel {
@@ -16,7 +18,7 @@ constexpr auto lookInterval = 30s, lookTolerance = 10s;
 constexpr auto questionTimeout = 20s;
 
 QString beingLookedFor() {
-    return u"A language model server on this machine is being looked for."_s;
+    return QCoreApplication::translate("ModelServer", "A language model server on this machine is being looked for.");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "Platform/Linux/ModelServer/ModelServerSearch.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace fendrel {
@@ -20,7 +22,8 @@ ModelServerSearch::ModelServerSearch(LocalHttp& http, const QList<LocalHttpAddre
       m_model(std::move(model)),
       m_done(std::move(done)),
       // Of several usual addresses nobody has to use any, and a stranger at one is no news.
-      m_worst(addresses.size() > 1 ? Miss::stranger : Miss::none) {
+      m_worst(addresses.size() > 1 ? Miss::stranger : Miss::none),
+      m_reason(QCoreApplication::translate("ModelServer", "No language model server answers on this machine.")) {
     for (const LocalHttpAddress& address : addresses) {
         for (const LocalEndpoint& endpoint : address.endpoints)
             m_candidates.append({address.name, endpoint});
@@ -44,11 +47,15 @@ void ModelServerSearch::tryCurrent() {
     // request is enough to find out.
     get("/v1/models", [this](int status, const QByteArray& body) {
         if (status == 0)
-            miss(Miss::silence, u"No model server answers at %1."_s.arg(candidate().name));
+            miss(Miss::silence,
+                 QCoreApplication::translate("ModelServer", "No model server answers at %1.").arg(candidate().name));
         else if (status == stillLoading)
-            miss(Miss::loading, u"The model server at %1 is still loading its model."_s.arg(candidate().name));
+            miss(Miss::loading,
+                 QCoreApplication::translate("ModelServer", "The model server at %1 is still loading its model.")
+                     .arg(candidate().name));
         else if (status != ok || !ModelServerList::chatCompletions(body))
-            miss(Miss::stranger, u"What answers at %1 is no model server."_s.arg(candidate().name));
+            miss(Miss::stranger, QCoreApplication::translate("ModelServer", "What answers at %1 is no model server.")
+                                     .arg(candidate().name));
         else
             askWhetherOllama(body);
     });
@@ -74,7 +81,9 @@ void ModelServerSearch::askWhetherReady(const QByteArray& models) {
     get("/health", [this, models](int status, const QByteArray&) {
         // Not every server knows this question; those that do not are ready when they have a model.
         if (status == stillLoading)
-            miss(Miss::loading, u"The model server at %1 is still loading its model."_s.arg(candidate().name));
+            miss(Miss::loading,
+                 QCoreApplication::translate("ModelServer", "The model server at %1 is still loading its model.")
+                     .arg(candidate().name));
         else
             take(ModelProtocol::chatCompletions, ModelServerList::chatCompletions(models).value());
     });
@@ -83,11 +92,16 @@ void ModelServerSearch::askWhetherReady(const QByteArray& models) {
 void ModelServerSearch::take(ModelProtocol protocol, const QList<ServedModel>& models) {
     const ServedModel* const model = ModelServerList::pick(models, m_model);
     if (!model && m_model.isEmpty()) {
-        miss(Miss::noModel, u"The model server at %1 has no model to ask."_s.arg(candidate().name));
+        miss(Miss::noModel, QCoreApplication::translate("ModelServer", "The model server at %1 has no model to ask.")
+                                .arg(candidate().name));
     } else if (!model) {
-        miss(Miss::noModel, u"The model server at %1 doesn't have the model “%2”."_s.arg(candidate().name, m_model));
+        miss(Miss::noModel,
+             QCoreApplication::translate("ModelServer", "The model server at %1 doesn't have the model “%2”.")
+                 .arg(candidate().name, m_model));
     } else if (model->isElsewhere) {
-        miss(Miss::noModel, u"Only a model on this machine is asked, and “%1” runs elsewhere."_s.arg(model->name));
+        miss(Miss::noModel, QCoreApplication::translate(
+                                "ModelServer", "Only a model on this machine is asked, and “%1” runs elsewhere.")
+                                .arg(model->name));
     } else {
         const auto done = std::exchange(m_done, {});
         done(FoundModelServer{.address = {.name = candidate().name, .endpoints = {candidate().endpoint}},

@@ -46,7 +46,7 @@ private:
     Done m_done;
     qsizetype m_current = 0;
     Miss m_worst;
-    QString m_reason = QStringLiteral("No language model server answers on this machine.");
+    QString m_reason;
     Handle m_request;
 };
 

@@ -3,6 +3,8 @@
 #include "Base/Log.h"
 #include "Platform/Linux/Notifications/NotificationDecoding.h"
 
+#include <QCoreApplication>
+
 #include <poll.h>
 #include <systemd/sd-bus.h>
 
@@ -42,7 +44,9 @@ struct Unreference {
 using Message = std::unique_ptr<sd_bus_message, Unreference>;
 
 QString unreachable(int code) {
-    return u"Fendrel can't reach the session bus, so it doesn't see notifications (%1)."_s.arg(qt_error_string(-code));
+    return QCoreApplication::translate("Notifications",
+                                       "Fendrel can't reach the session bus, so it doesn't see notifications (%1).")
+        .arg(qt_error_string(-code));
 }
 
 } // namespace
@@ -144,7 +148,8 @@ int NotificationMonitor::monitorTold(sd_bus_message* answer) {
     m_patience.reset();
     if (const auto* error = sd_bus_message_get_error(answer)) {
         qCWarning(logDesktop).noquote() << "The session bus refuses a monitor:" << error->name << error->message;
-        fail(u"The session bus doesn't let Fendrel see notifications (%1)."_s.arg(QString::fromUtf8(error->message)));
+        fail(QCoreApplication::translate("Notifications", "The session bus doesn't let Fendrel see notifications (%1).")
+                 .arg(QString::fromUtf8(error->message)));
     }
     return 0;
 }
@@ -155,7 +160,9 @@ void NotificationMonitor::read() {
         const int result = sd_bus_process(m_bus.get(), &next);
         const Message message(next);
         if (result < 0 || sd_bus_is_open(m_bus.get()) <= 0)
-            return fail(u"The connection to the session bus was lost. Start Fendrel again to see notifications."_s);
+            return fail(QCoreApplication::translate(
+                "Notifications",
+                "The connection to the session bus was lost. Start Fendrel again to see notifications."));
         if (!m_unavailableReason.isEmpty())
             return;
         if (result == 0)

@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -42,7 +43,9 @@ NotificationRecorder::~NotificationRecorder() {
 QString NotificationRecorder::unavailableReason() const {
     if (!m_monitor.unavailableReason().isEmpty())
         return m_monitor.unavailableReason();
-    return m_storeProblem.isEmpty() ? QString() : u"Notifications can't be kept (%1)."_s.arg(m_storeProblem);
+    return m_storeProblem.isEmpty()
+               ? QString()
+               : QCoreApplication::translate("Notifications", "Notifications can't be kept (%1).").arg(m_storeProblem);
 }
 
 void NotificationRecorder::heard(const NotificationMessage& message) {

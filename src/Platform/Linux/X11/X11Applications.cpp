@@ -65,7 +65,8 @@ std::optional<QString> X11Applications::applicationAt(const QUrl& file) const {
 void X11Applications::start(const QString& bundleID, bool activates, Start start) {
     const auto* entry = m_groups->catalog().entry(bundleID);
     if (entry == nullptr) {
-        qCWarning(logDesktop).noquote() << "Couldn't open" << bundleID + u": it is not installed"_s;
+        // Not which: nobody's lists may name it, so that a report on a problem couldn't leave it out.
+        qCWarning(logDesktop) << "Couldn't open an application: it is not installed";
         return;
     }
     if (!activates) {
