@@ -1,5 +1,4 @@
 import QtQuick
-import Fendrel.Style
 import Fendrel.Types
 
 // What becomes of what is dragged over the dock, from wherever it comes: an application finds a place among those of the
@@ -16,14 +15,6 @@ QtObject {
     required property bool isVertical
     required property int iconSize
     required property real pitch // pixels from one application to the next
-
-    // The row goes on under a pointer that rests at its end.
-    readonly property Connections scrolling: Connections {
-        target: drops.strip
-        enabled: drops.isActive && !Theme.reducesMotion
-        function onCameToRest() { drops.moveTo(drops.pointer.x, drops.pointer.y) }
-    }
-    property point pointer // where it was told last
 
     property var load: null // { app, files, isOurs }; ours was picked up in this dock
     property DockItem target: null
@@ -47,7 +38,6 @@ QtObject {
     function moveTo(x: real, y: real): bool {
         if (!isActive)
             return false
-        pointer = Qt.point(x, y)
         aim(itemAt(items, items.mapFromItem(view, onLine(Qt.point(x, y)))))
         if (load.app === "")
             return target !== null
@@ -130,10 +120,8 @@ QtObject {
         const inStrip = position - strip.position
         if (inStrip < -pitch / 2 || inStrip > strip.length + pitch / 2)
             return elsewhere
-        if (inStrip < pitch / 2 && strip.position > 0)
-            strip.scrollTo(strip.position - pitch)
-        else if (inStrip > strip.length - pitch / 2 && strip.position < strip.fullLength - strip.room)
-            strip.scrollTo(strip.position + pitch)
+        if (strip.isCut && (inStrip < pitch / 2 || inStrip > strip.length - pitch / 2))
+            strip.scrollTo(strip.position + (inStrip < pitch / 2 ? -pitch : pitch))
         const isCounted = place >= 0 || (place === DockAppsModel.AtHome && dock.apps.isInMode(load.app))
         const last = dock.apps.modeCount - (isCounted ? 1 : 0) // the place behind all others
         const wanted = Math.floor(position / pitch)

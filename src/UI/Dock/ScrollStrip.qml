@@ -33,8 +33,6 @@ Item {
     Behavior on width { enabled: strip.isMoving && !strip.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
     Behavior on height { enabled: strip.isMoving && strip.isVertical; NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
 
-    signal cameToRest() // after it glided somewhere
-
     // How visible an item is: those at a cut edge fade, as a hint that there are more.
     function visibility(item: Item): real {
         if (!isCut)
@@ -130,7 +128,6 @@ Item {
         property: strip.isVertical ? "contentY" : "contentX"
         duration: Theme.normal
         easing.type: Easing.OutCubic
-        onFinished: strip.cameToRest()
     }
     WheelHandler {
         enabled: strip.isCut
