@@ -36,7 +36,7 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
       m_dock(dock),
       m_edge(dock.edge()),
       m_keyboard(*this, controller.titles()),
-      m_motion(*controller.platform().clock, [this](QEvent& event) { QQuickView::event(&event); }) {
+      m_motion(*controller.platform().clock, [this](QHoverEvent& event) { QQuickView::event(&event); }) {
     setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint);
     setColor(Qt::transparent);
     setTitle(tr("Fendrel dock"));
@@ -308,7 +308,7 @@ void DockPanel::updateBlur() {
 }
 
 bool DockPanel::event(QEvent* event) {
-    return m_motion.holdsBack(*event) || QQuickView::event(event);
+    return m_motion.takes(*event) || QQuickView::event(event);
 }
 
 bool DockPanel::isButtonDown() const {

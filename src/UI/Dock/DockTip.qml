@@ -41,7 +41,12 @@ Item {
              : Qt.point(bar.x - away, center.y)
         spotText = current.text
     }
-    onCurrentChanged: place()
+    onCurrentChanged: {
+        const before = Qt.point(bubble.restingX, bubble.restingY)
+        place()
+        if (bubble.opacity > 0.5)
+            glide.begin(before)
+    }
     onScrolledChanged: place()
     Connections {
         target: (tip.current?.item ?? null) as DockItem
@@ -66,8 +71,8 @@ Item {
         readonly property real restingX: Math.max(8, Math.min(tip.width - width - 8, wantedX))
         readonly property real restingY: Math.max(2, Math.min(tip.height - height - 2, wantedY))
 
-        x: restingX
-        y: restingY
+        x: restingX + glide.offset.x
+        y: restingY + glide.offset.y
         width: Math.min(label.implicitWidth + 24, 520)
         height: 30
         radius: 9
@@ -78,7 +83,21 @@ Item {
         visible: opacity > 0
 
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
-        Behavior on x { enabled: bubble.opacity > 0.5; NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
+
+        // From the item before. It follows the item itself at once, or each motion of the pointer would start it anew.
+        PropertyAnimation {
+            id: glide
+            property point offset
+            target: glide
+            property: "offset"
+            to: Qt.point(0, 0)
+            duration: Theme.quick
+            easing.type: Easing.OutCubic
+            function begin(before: point) {
+                offset = Qt.point(offset.x + before.x - bubble.restingX, offset.y + before.y - bubble.restingY)
+                restart()
+            }
+        }
 
         Text {
             id: label
