@@ -43,6 +43,10 @@ public:
     using Done = std::function<void(const Result<HttpResponse, HttpError>&)>;
     virtual ~HttpClient() = default;
     virtual Handle send(const HttpRequest& request, Done done) = 0;
+
+    /// Whether the system knows of a network. True where it cannot tell.
+    virtual bool isOnline() const { return true; }
+    virtual Handle onOnlineChanged(std::function<void()>) { return {}; }
 };
 
 } // namespace fendrel

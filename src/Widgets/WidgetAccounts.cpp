@@ -57,6 +57,12 @@ bool WidgetAccounts::isBusy(Service service) const {
     return std::ranges::any_of(m_changes, [=](const auto& entry) { return entry.second.service == service; });
 }
 
+Handle WidgetAccounts::key(Service service, std::function<void(const std::optional<QString>&)> done) const {
+    return m_keychain.read(enumName(service), [done = std::move(done)](const SecretStore::Secret& secret) {
+        done(secret ? *secret : std::nullopt);
+    });
+}
+
 void WidgetAccounts::read() {
     if (!std::exchange(m_isReadAsked, true))
         readFrom(0);

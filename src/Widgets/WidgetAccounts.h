@@ -54,6 +54,9 @@ public:
     bool isRead() const { return m_isRead; } ///< whether all of them were looked at
     bool isBusy(Service service) const;      ///< a change is on its way, perhaps waiting for the user
 
+    /// The key of a service, which is not kept. Nothing where the keyring has none or doesn't give it.
+    Handle key(Service service, std::function<void(const std::optional<QString>&)> done) const;
+
     /// Looks once which services have a key, one after the other.
     void read();
     void readAgain();

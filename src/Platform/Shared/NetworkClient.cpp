@@ -1,8 +1,10 @@
 #include "Platform/Shared/NetworkClient.h"
 
 #include "Platform/Shared/HttpExchange.h"
+#include "Platform/Shared/Listeners.h"
 
 #include <QNetworkAccessManager>
+#include <QNetworkInformation>
 #include <QNetworkProxyFactory>
 
 #include <cstdint>
@@ -32,6 +34,20 @@ struct NetworkClient::State {
     std::unique_ptr<QNetworkAccessManager> manager; // costs milliseconds, so that it waits for the first request
     std::map<std::uint64_t, std::unique_ptr<HttpExchange>> exchanges;
     std::uint64_t nextId = 0;
+    Listeners<std::function<void()>> onlineChanged;
+    std::optional<QMetaObject::Connection> watch; // asks the system's network service, and waits for the first question
+
+    ~State() {
+        if (watch)
+            QObject::disconnect(*watch);
+    }
+
+    QNetworkInformation* information() {
+        if (!watch && QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability))
+            watch = QObject::connect(QNetworkInformation::instance(), &QNetworkInformation::reachabilityChanged,
+                                     [this] { onlineChanged.forEach([](const auto& run) { run(); }); });
+        return watch ? QNetworkInformation::instance() : nullptr;
+    }
 
     QNetworkAccessManager& network() {
         if (!manager) {
@@ -67,6 +83,15 @@ Handle NetworkClient::send(const HttpRequest& request, Done done) {
         if (const auto alive = state.lock())
             alive->exchanges.erase(id);
     });
+}
+
+bool NetworkClient::isOnline() const {
+    const auto* const information = m_state->information();
+    return !information || information->reachability() != QNetworkInformation::Reachability::Disconnected;
+}
+
+Handle NetworkClient::onOnlineChanged(std::function<void()> run) {
+    return m_state->onlineChanged.add(std::move(run));
 }
 
 } // namespace fendrel

@@ -14,6 +14,8 @@ public:
     ~NetworkClient() override; ///< requests under way end without a callback
 
     Handle send(const HttpRequest& request, Done done) override;
+    bool isOnline() const override;
+    Handle onOnlineChanged(std::function<void()> run) override;
 
 private:
     struct State;

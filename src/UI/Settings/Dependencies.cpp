@@ -28,6 +28,7 @@ QList<Dependency> dependencies() {
          u"LGPL-2.1-or-later"_s,
          Texts::tr("the desktop's own settings"),
          {u"libglib2.0-0"_s, u"libglib2.0-dev"_s}},
+        {u"ICU"_s, u"Unicode-3.0"_s, Texts::tr("amounts of money"), {u"libicu-dev"_s}},
         {u"Inter"_s, u"OFL-1.1"_s, Texts::tr("the typeface"), {u"fonts-inter"_s}},
         {u"libcanberra"_s,
          u"LGPL-2.1-or-later"_s,
