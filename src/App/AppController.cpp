@@ -13,8 +13,32 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
 const QString onboardingDoneKey = u"onboardingDone"_s;
+
+/// Runs `done` when no key is on its way to the keyring any more, or after a while: it may wait for its user.
+void whenSaved(WidgetAccounts& accounts, Clock& clock, std::function<void()> done) {
+    const auto isBusy = [&accounts] {
+        return std::ranges::any_of(WidgetAccounts::all(),
+                                   [&](const auto& each) { return accounts.isBusy(each.service); });
+    };
+    if (!isBusy()) {
+        done();
+        return;
+    }
+    const auto once = std::make_shared<std::function<void()>>(std::move(done));
+    const auto finish = [once] {
+        if (const auto run = std::exchange(*once, {}))
+            run();
+    };
+    const auto patience = std::make_shared<Handle>(clock.after(2s, finish));
+    QObject::connect(&accounts, &WidgetAccounts::changed, &accounts, [isBusy, finish, patience] {
+        if (!isBusy())
+            finish();
+    });
 }
+
+} // namespace
 
 AppController::AppController(Platform& platform)
     : m_platform(platform),
@@ -121,7 +145,7 @@ void AppController::installHostManifests() {
 void AppController::quit() {
     if (std::exchange(m_isQuitting, true))
         return;
-    m_replacement.stop([this] { onQuit(); });
+    m_replacement.stop([this] { whenSaved(m_accounts, *m_platform.clock, [this] { onQuit(); }); });
 }
 
 void AppController::askToReplaceDock(bool on) {

@@ -16,6 +16,8 @@ class AppController;
 
 /// Something of this system that Fendrel makes use of.
 struct Capability {
+    Q_GADGET
+public:
     enum class State {
         unknown, ///< cannot be told now
         works,
@@ -23,6 +25,7 @@ struct Capability {
         locked,  ///< is here, and waits for its user
         absent,  ///< this system has nothing of the kind
     };
+    Q_ENUM(State)
     QString id{};
     State state{};
     QString reason{};                     ///< for the user: why it does not work

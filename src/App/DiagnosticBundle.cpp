@@ -3,7 +3,9 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QSaveFile>
 #include <QTemporaryDir>
 
 namespace fendrel {
@@ -13,7 +15,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Nothing when all went well, else why not. Blocks.
-QString writeArchive(const QMap<QString, QByteArray>& files, const QString& path, const QString& name) {
+std::optional<QString> writeArchive(const QMap<QString, QByteArray>& files, const QString& path) {
+    const QString name = u"fendrel-diagnostics"_s;
     const QTemporaryDir work;
     const QString folder = work.filePath(name);
     if (!work.isValid() || !QDir().mkpath(folder))
@@ -24,28 +27,33 @@ QString writeArchive(const QMap<QString, QByteArray>& files, const QString& path
             return out.errorString();
     }
     QProcess tar;
-    tar.start(u"tar"_s, {u"-czf"_s, path, u"-C"_s, work.path(), name});
+    tar.start(u"tar"_s, {u"-cz"_s, u"-C"_s, work.path(), name});
     if (!tar.waitForFinished())
         return tar.errorString();
     if (tar.exitStatus() != QProcess::NormalExit || tar.exitCode() != 0)
         return QString::fromLocal8Bit(tar.readAllStandardError()).trimmed();
-    return {};
+    QSaveFile out(path); // what the user replaces stays until there is something in its place
+    if (!out.open(QIODevice::WriteOnly))
+        return out.errorString();
+    out.write(tar.readAllStandardOutput());
+    return out.commit() ? std::nullopt : std::optional(out.errorString());
 }
 
 } // namespace
 
 DiagnosticBundle::DiagnosticBundle() : m_worker(u"diagnostics"_s) {}
 
-void DiagnosticBundle::write(const QMap<QString, QByteArray>& files, const QString& folder, WallTime now, Done done) {
-    const QString name = u"fendrel-diagnostics-"_s + toDateTime(now).toLocalTime().toString(u"yyyyMMdd-HHmmss"_s);
-    m_worker.post({}, [this, files, folder, name, done = std::move(done)] {
-        const QString path = folder + u'/' + name + u".tar.gz"_s;
-        const QString problem = QDir().mkpath(folder) ? writeArchive(files, path, name)
-                                                      : tr("The folder %1 cannot be written.").arg(folder);
-        const auto result =
-            problem.isEmpty() ? Result<QString, QString>(path) : Result<QString, QString>::failure(problem);
+QString DiagnosticBundle::suggestedName(WallTime now) {
+    return u"fendrel-diagnostics-%1.tar.gz"_s.arg(toDateTime(now).toLocalTime().toString(u"yyyyMMdd-HHmmss"_s));
+}
+
+void DiagnosticBundle::write(const QMap<QString, QByteArray>& files, const QString& path, Done done) {
+    m_worker.post({}, [this, files, path, done = std::move(done)] {
+        const QString folder = QFileInfo(path).path();
+        const auto problem = QDir().mkpath(folder) ? writeArchive(files, path)
+                                                   : std::optional(tr("The folder %1 cannot be written.").arg(folder));
         QMetaObject::invokeMethod(
-            this, [done, result] { done(result); }, Qt::QueuedConnection);
+            this, [done, problem] { done(problem); }, Qt::QueuedConnection);
     });
 }
 

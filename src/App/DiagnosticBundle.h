@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Base/Result.h"
 #include "Base/WallTime.h"
 #include "Base/Worker.h"
 
@@ -9,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace fendrel {
 
@@ -18,10 +18,14 @@ class DiagnosticBundle : public QObject {
 public:
     DiagnosticBundle();
 
-    using Done = std::function<void(const Result<QString, QString>& path)>; ///< or why there is none, for the user
+    /// A name for one that is made now, without its folder.
+    static QString suggestedName(WallTime now);
 
-    /// The folder is made if it isn't there. `done` comes later, and not after this has gone.
-    void write(const QMap<QString, QByteArray>& files, const QString& folder, WallTime now, Done done);
+    using Done = std::function<void(const std::optional<QString>& problem)>; ///< for the user; nothing: it is written
+
+    /// The folder is made if it isn't there, a file that is there replaced. `done` comes later, and not after this has
+    /// gone.
+    void write(const QMap<QString, QByteArray>& files, const QString& path, Done done);
 
 private:
     Worker m_worker; ///< the last: nothing it posts arrives once it has ended

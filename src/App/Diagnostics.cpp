@@ -1,6 +1,7 @@
 #include "App/Diagnostics.h"
 
 #include "App/AppController.h"
+#include "Base/EnumNames.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -19,22 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString hidden = u"<private>"_s;
-
-QString stateName(Capability::State state) {
-    switch (state) {
-    case Capability::State::unknown:
-        return u"unknown"_s;
-    case Capability::State::works:
-        return u"works"_s;
-    case Capability::State::missing:
-        return u"missing"_s;
-    case Capability::State::locked:
-        return u"locked"_s;
-    case Capability::State::absent:
-        break;
-    }
-    return u"absent"_s;
-}
 
 QJsonArray array(const QRect& rect) {
     return {rect.x(), rect.y(), rect.width(), rect.height()};
@@ -96,7 +81,7 @@ QMap<QString, QByteArray> diagnosticFiles(const DiagnosticFacts& facts) {
                                     {u"isFullScreen"_s, display.isFullScreen}});
     QJsonObject capabilities;
     for (const Capability& capability : facts.capabilities)
-        capabilities.insert(capability.id, stateName(capability.state));
+        capabilities.insert(capability.id, enumName(capability.state));
 
     // Many thousands of answers can be private: only what is in the log is looked for in each line. The longest first,
     // or a part of one would leave its rest behind.

@@ -6,6 +6,7 @@
 #include "Ports/Badges.h"
 #include "Ports/Clock.h"
 #include "Ports/Displays.h"
+#include "Ports/FileChooser.h"
 #include "Ports/HotKeys.h"
 #include "Ports/HttpClient.h"
 #include "Ports/IdleTime.h"
@@ -15,6 +16,7 @@
 #include "Ports/NotificationLog.h"
 #include "Ports/Panels.h"
 #include "Ports/PointerGuard.h"
+#include "Ports/Remedies.h"
 #include "Ports/SecretStore.h"
 #include "Ports/SettingsStore.h"
 #include "Ports/Shell.h"
@@ -73,6 +75,8 @@ struct Platform {
     std::unique_ptr<StatusArea> statusArea{};
     std::unique_ptr<IdleTime> idleTime{};
     std::unique_ptr<Shell> shell{};
+    std::unique_ptr<Remedies> remedies{};
+    std::unique_ptr<FileChooser> fileChooser{};
     std::unique_ptr<LanguageModel> languageModel{};
     std::unique_ptr<NotificationLog> notificationLog{};
     std::unique_ptr<NotificationBanners> notificationBanners{};

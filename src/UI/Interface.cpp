@@ -102,6 +102,10 @@ Interface::Interface(AppController& controller)
         if (m_gatePanel) // else its turn comes with the others'
             showTray();
     };
+    controller.platform().loginItem->onChanged = [this] {
+        Q_EMIT m_settings.stateChanged();
+        Q_EMIT m_firstRun.changed();
+    };
     // While something covers the dock, it draws no frame.
     m_hiddenDue = controller.platform().clock->after(std::chrono::seconds(2), [this] { makeHidden(); });
     QObject::connect(&controller.preferences(), &Preferences::changed, &m_settings, [this] { applyLook(); });
@@ -112,6 +116,7 @@ Interface::Interface(AppController& controller)
 Interface::~Interface() {
     m_controller.platform().panels->onTransparencyChanged = [] {};
     m_controller.platform().statusArea->onChanged = [] {};
+    m_controller.platform().loginItem->onChanged = [] {};
 }
 
 /// What is not seen at the start is made when the dock has been drawn, or earlier where it is needed earlier: a user

@@ -1,5 +1,7 @@
 #include "App/ControllerWorld.h"
 #include "Files.h"
+#include "Table.h"
+#include "fakes/FakeSecretStore.h"
 
 #include <QtTest>
 
@@ -251,6 +253,29 @@ private Q_SLOTS:
         QVERIFY(world.shown.contains(u"quit"_s));
         QCOMPARE(dock.settings.autohide, std::nullopt);
         QVERIFY(world.fake.settings->flag(u"replaceDock"_s));
+    }
+
+    void aKeyOnItsWayIsWaitedFor_data() {
+        const Table<bool> row("keyringAnswers");
+        row("a keyring that answers", true);
+        row("one that waits for its user", false);
+    }
+    void aKeyOnItsWayIsWaitedFor() {
+        QFETCH(const bool, keyringAnswers);
+        ControllerWorld world;
+        auto secrets = std::make_unique<FakeSecretStore>();
+        FakeSecretStore* keyring = secrets.get();
+        world.fake.platform.secrets = std::move(secrets);
+        AppController& controller = world.launch();
+        controller.accounts().save(u"ghp_1"_s, WidgetAccounts::Service::github);
+        controller.quit();
+        world.fake.systemDock->answerAll();
+        QVERIFY(!world.shown.contains(u"quit"_s));
+        if (keyringAnswers)
+            keyring->answer();
+        else
+            world.fake.clock->advance(2s);
+        QCOMPARE(world.shown.count(u"quit"_s), 1);
     }
 
     void theDockTimerRunsOnlyWhileNeeded() {

@@ -249,7 +249,7 @@ private Q_SLOTS:
         table("the beginning of a word", u"tid"_s, u"a"_s, u"<b>Tidy</b> &amp; Café"_s);
         table("the middle of one", u"idy"_s, QString(), u"Tidy &amp; Café"_s);
         table("case and accents", u"CAFE"_s, u"a"_s, u"Tidy &amp; <b>Café</b>"_s);
-        table("labels before help", u"dock"_s, u"b a"_s, u"Tidy &amp; Café"_s);
+        table("the very label before labels before help", u"dock"_s, u"c b a"_s, u"Tidy &amp; Café"_s);
         table("other words", u"broom"_s, u"a"_s, u"Tidy &amp; Café"_s);
         table("each of several words", u"tidy broom"_s, u"a"_s, u"<b>Tidy</b> &amp; Café"_s);
         table("not only one of them", u"tidy glow"_s, QString(), u"<b>Tidy</b> &amp; Café"_s);
@@ -261,7 +261,8 @@ private Q_SLOTS:
         QFETCH(const QString, found);
         const QList<SettingEntry> entries{
             {.setting = u"a"_s, .label = u"Tidy & Café"_s, .help = u"Not the dock."_s, .words = u"broom"_s},
-            {.setting = u"b"_s, .label = u"Glowing dock"_s}};
+            {.setting = u"b"_s, .label = u"Glowing dock"_s},
+            {.setting = u"c"_s, .label = u"Dock"_s}};
         QStringList names;
         for (const SettingEntry& entry : findSettings(entries, query))
             names.append(entry.setting);

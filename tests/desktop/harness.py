@@ -129,6 +129,19 @@ class DesktopTest(unittest.TestCase):
         fendrel.do("mode", "add-app", "social", self.chat.id)
         return fendrel
 
+    def program_for(self, name, kind):
+        """The desktop's program for what is of this kind. What it is started with comes out of the pipe."""
+        pipe, program = HOME / f"{name}.pipe", HOME / f"bin/{name}"
+        os.mkfifo(pipe)
+        program.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" > {pipe}\n')
+        program.chmod(0o755)
+        entry = HOME / f".local/share/applications/{name}.desktop"
+        entry.write_text(f"[Desktop Entry]\nType=Application\nName={name}\nExec={program} %u\nMimeType={kind};\n")
+        (HOME / ".config/mimeapps.list").write_text(f"[Default Applications]\n{kind}={entry.name}\n")
+        reader = os.open(pipe, os.O_RDWR | os.O_NONBLOCK)
+        self.addCleanup(os.close, reader)
+        return reader
+
     def open(self, app):
         app.open()
         self.addCleanup(app.end)

@@ -8,7 +8,7 @@ import subprocess
 import unittest
 
 import harness
-from harness import DATA, HOME, IS_SANITIZED, MODES, PROGRAMS, SETTINGS, STATE
+from harness import DATA, IS_SANITIZED, MODES, PROGRAMS, SETTINGS, STATE
 from windows import SECONDS, press, wait_active, xdotool
 
 
@@ -119,7 +119,7 @@ class Crashes(harness.DesktopTest):
         self.assertRegex(text, r"(?m)^ +0 0x[0-9a-f]{16} .*\n +1 0x")
         self.assertNotRegex(text, "secret|Editor|writing")
 
-        mails = self.mail_program()
+        mails = self.program_for("thunderbird", "x-scheme-handler/mailto")
         fendrel = self.start()
         wait_active("Fendrel quit unexpectedly last time")
         press("Return")
@@ -127,21 +127,6 @@ class Crashes(harness.DesktopTest):
         mail = os.read(mails, 65536).decode()
         self.assertIn(str(report), mail)
         self.assertIn("subject=Fendrel%20crash%20report", mail)
-
-    def mail_program(self):
-        """The default mail program: it hands on what it is started with."""
-        pipe = HOME / "mails"
-        os.mkfifo(pipe)
-        program = HOME / "bin/thunderbird"
-        program.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" > {pipe}\n')
-        program.chmod(0o755)
-        entry = HOME / ".local/share/applications/thunderbird.desktop"
-        entry.write_text(f"[Desktop Entry]\nType=Application\nName=Mail\nExec={program} %u\n"
-                         "MimeType=x-scheme-handler/mailto;\n")
-        (HOME / ".config/mimeapps.list").write_text(f"[Default Applications]\nx-scheme-handler/mailto={entry.name}\n")
-        reader = os.open(pipe, os.O_RDONLY | os.O_NONBLOCK)
-        self.addCleanup(os.close, reader)
-        return reader
 
 
 if __name__ == "__main__":

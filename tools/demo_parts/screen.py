@@ -14,11 +14,11 @@ class Screen:
         self.folder = pathlib.Path(folder)
         self.pictures = 0
 
-    def picture(self, name):
+    def picture(self, name, series=""):
         """Keeps a picture of the screen once it stands still; returns its path."""
         self.settle()
         self.pictures += 1
-        file = self.folder / f"{self.pictures:02}-{name}.png"
+        file = self.folder / f"{series and series + '-'}{self.pictures:02}-{name}.png"
         subprocess.run([DESKTOP, "screenshot", str(file)], check=True)
         return file
 

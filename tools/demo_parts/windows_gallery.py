@@ -1,28 +1,91 @@
-"""Takes a picture of every page of the first run, every pane of the settings and the window of the modes, in every look,
-from the running program on the desktop that this runs in."""
+"""Takes a picture of every page of the first run, every pane of the settings, the window of the modes, and what opens in
+them, in every look, from the running program on the desktop that this runs in."""
 
 import argparse
 import contextlib
+import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
+import xml.etree.ElementTree as tree
 
 from demo_parts.screen import DESKTOP, Screen
 from demo_parts.watch import Failed, Watch
 
-PANES = ("general", "dock", "appearance", "widgets", "modes", "accounts", "permissions", "about")
-LONG = ("general", "appearance", "widgets", "about")  # their end is not in sight
-FIRST_RUN, SETTINGS, MODES = "Welcome to Fendrel", "Fendrel Settings", "Modes"
-PAGES = 4
-# What the desktop is told, and the program.
+TRANSLATION = pathlib.Path(__file__).resolve().parents[2] / "src/UI/translations/fendrel_de.ts"
+GERMAN = {"LANGUAGE": "de", "LC_ALL": "de_DE.UTF-8"}
+# What the desktop is told, the program's arguments, and its environment.
 LOOKS = {
-    "light": (("look", "light"), ()),
-    "dark": (("look", "dark"), ()),
-    "contrast": (("look", "contrast"), ()),
-    "large": (("look", "light", "text-scale", "2"), ()),
-    "mirrored": (("look", "light"), ("-reverse",)),
-    "german": (("look", "light"), ()),
+    "light": (("look", "light"), (), {}),
+    "dark": (("look", "dark"), (), {}),
+    "contrast": (("look", "contrast"), (), {}),
+    "large": (("look", "light", "text-scale", "2"), (), {}),
+    "mirrored": (("look", "light"), ("-reverse",), {}),
+    "german": (("look", "light"), (), GERMAN),
+    "hidpi": (("look", "light"), (), {"QT_SCALE_FACTOR": "2"}),
+}
+PAGES = 4  # of the first run
+
+
+class Words(str):
+    """Typed as the settings call it in the user's language."""
+
+
+class Typed(str):
+    """Typed as it is."""
+
+
+def found(label):
+    """Leads the keyboard to a setting's control."""
+    return ("ctrl+f", Words(label), "Return")
+
+ANSWERS = (*found("Learned answers"), "Return")
+GENERAL, DOCK, LOOK, WIDGETS, ACCOUNTS = (("settings", "open", pane)
+                                          for pane in ("general", "dock", "appearance", "widgets", "accounts"))
+WRITING = ("modes", "open", "writing")
+END = object()  # what is not in sight at first
+# By name: what opens the window, what is pressed and typed in it, and what leads back beyond closing it.
+VIEWS = {
+    "general": (GENERAL, (), ()),
+    "general-end": (GENERAL, (END,), ()),
+    "dock": (DOCK, (), ()),
+    "appearance": (LOOK, (), ()),
+    "appearance-end": (LOOK, (END,), ()),
+    "color-picker": (LOOK, (*found("Color"), *["Down"] * 10), ()),
+    "widgets": (WIDGETS, (), ()),
+    "widgets-end": (WIDGETS, (END,), ()),
+    "widgets-none": (WIDGETS, ("Tab",) * 10 + (Typed("xyzzy"),), ()),
+    "modes": (("settings", "open", "modes"), (), ()),
+    "accounts": (ACCOUNTS, (), ()),
+    "permissions": (("settings", "open", "permissions"), (), ()),
+    "permissions-end": (("settings", "open", "permissions"), (END,), ()),
+    "about": (("settings", "open", "about"), (), ()),
+    "about-end": (("settings", "open", "about"), (END,), ()),
+    "search": (GENERAL, ("ctrl+f", Words("Dock")), ("Escape",)),
+    "search-none": (GENERAL, ("ctrl+f", Typed("xyzzy")), ("Escape",)),
+    "search-led": (GENERAL, found("Magnification"), ()),
+    "hot-key": (GENERAL, (*found("Start or stop focus"), "Return"), ("Escape",)),
+    "hot-key-refused": (GENERAL, (*found("Start or stop focus"), "Return", "a"), ("Escape",)),
+    "hot-key-taken": (GENERAL, (*found("Start or stop focus"), "Return", "alt+1"), ()),
+    "import": (GENERAL, (*found("Import"), "Return"), ("Escape",)),
+    "import-failed": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("nowhere.json"), "Return"), ()),
+    "import-asked": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("~/backup.json"), "Return"), ("Escape",)),
+    "reset": (DOCK, ("shift+Tab", "Return"), ("Escape",)),
+    "answers": (GENERAL, ANSWERS, ("Escape",)),
+    "answers-found": (GENERAL, (*ANSWERS, Typed("chat")), ("Escape",)),
+    "answers-none": (GENERAL, (*ANSWERS, Typed("xyzzy")), ("Escape",)),
+    "answers-menu": (GENERAL, (*ANSWERS, "Down", "Down", "Return"), ("Escape", "Escape")),
+    "answers-forget": (GENERAL, (*ANSWERS, "shift+Tab", "shift+Tab", "Return"), ("Escape", "Escape")),
+    "modes-window": (WRITING, (), ()),
+    "modes-window-end": (WRITING, (END,), ()),
+    "mode-templates": (WRITING, ("ctrl+n",), ("Escape",)),
+    "mode-symbols": (WRITING, ("Tab",) * 4 + ("Return",), ("Escape",)),
+    "mode-symbols-none": (WRITING, ("Tab",) * 4 + ("Return", Typed("xyzzy")), ("Escape",)),
+    "mode-apps": (WRITING, ("Tab",) * 5 + ("Return",), ("Escape",)),
+    "mode-deleted": (WRITING, ("Delete",), ("ctrl+z",)),
+    "menu": (("dock", "focus"), ("End", "Menu"), ("Escape",)),
 }
 
 
@@ -32,17 +95,21 @@ class WindowsGallery:
         self.log = open(screen.folder / "fendrel.log", "w+")
         self.home = pathlib.Path.home()
 
-    def play(self, looks):
+    def play(self, looks, views):
         for look in looks:
-            settings, arguments = LOOKS[look]
+            settings, arguments, environment = LOOKS[look]
             for name, value in zip(settings[::2], settings[1::2]):
                 subprocess.run([DESKTOP, name, value], check=True)
+            self.look, self.screen.pictures = look, 0
+            self.texts = translated() if environment is GERMAN else {}
             self.forget()
-            environment = {"LANGUAGE": "de", "LC_ALL": "de_DE.UTF-8"} if look == "german" else {}
             with self.running(arguments, environment) as watch:
-                self.first_run(look, watch)
-                self.settings(look, watch)
-                self.modes(look, watch)
+                self.first_run(watch)
+                self.teach(watch)
+                for view in views:
+                    self.view(view, watch, *VIEWS[view])
+                if "accounts" in views:
+                    self.accounts(watch)
             if "text-scale" in settings:
                 subprocess.run([DESKTOP, "text-scale", "1"], check=True)
 
@@ -61,41 +128,76 @@ class WindowsGallery:
         if process.wait(timeout=10):
             raise Failed(f"fendrel ended with status {process.returncode}")
 
-    def picture(self, look, name):
-        print(f"gallery: {self.screen.picture(f'{look}-{name}').name}", flush=True)
+    def picture(self, name):
+        print(f"gallery: {self.screen.picture(name, self.look).name}", flush=True)
 
-    def end(self, look, name):
-        self.screen.scroll_down()
-        self.picture(look, f"{name}-end")
-
-    def first_run(self, look, watch):
+    def first_run(self, watch):
         for page in range(1, PAGES + 1):
-            self.picture(look, f"first-run-{page}")
+            self.picture(f"first-run-{page}")
             self.screen.press("Return")
         watch.expect("the first run over", lambda state: state["onboarding"]["done"])
 
-    def settings(self, look, watch):
-        for pane in PANES:
-            watch.do("settings", "open", pane)
-            self.picture(look, pane)
-            if pane in LONG:
-                self.end(look, pane)
-        self.learned_answers(look)
-        self.screen.press("Escape")
+    def teach(self, watch):
+        """Answers as the language model and the user give them."""
+        file = self.home / "backup.json"
+        watch.do("export", str(file))
+        backup = json.loads(file.read_text())
+        backup["answers"] = {
+            key: {"modeID": mode, "certainty": certainty, "what": what, "source": source, "date": "2026-03-14T09:26:53.000Z"}
+            for key, mode, certainty, what, source in (
+                ("org.xfce.mousepad", "writing", "certain", "text editor", "you"),
+                ("io.github.Hexchat", "social", "likely", "group chat", "model"),
+                ("news.ycombinator.com", None, "unsure", "news about technology", "model"),
+                ("a-very-long-host-name-of-a-chat.for-communities.example.org", "social", "certain", "chat", "model"),
+                ("lxterminal", "building", "certain", "terminal", "you"))}
+        file.write_text(json.dumps(backup))
+        watch.do("import", str(file))
 
-    def learned_answers(self, look):
-        self.screen.press("ctrl+f")
-        self.screen.type("gelernte antworten\n" if look == "german" else "learned answers\n")
-        self.screen.settle()  # its button has the keyboard then
-        self.screen.press("Return")
-        self.picture(look, "answers")
-        self.screen.press("Escape")
+    def view(self, name, watch, opening, steps, ways_back):
+        watch.do(*opening)
+        self.screen.settle()
+        for step in steps:
+            self.take(step)
+        self.picture(name)
+        for key in (*ways_back, "Escape"):
+            self.screen.press(key)
+        self.screen.settle()
+        if opening == LOOK:
+            watch.do("settings", "reset", "appearance")
 
-    def modes(self, look, watch):
-        watch.do("modes", "open", "writing")
-        self.picture(look, "modes-window")
-        self.end(look, "modes-window")
-        self.screen.press("Escape")
+    def take(self, step):
+        if step is END:
+            self.screen.scroll_down()
+        elif isinstance(step, (Words, Typed)):
+            self.screen.type(self.texts.get(step, step) if isinstance(step, Words) else step)
+        else:
+            self.screen.press(step)
+        if step == "Return":
+            self.screen.settle()  # what it opens takes the keyboard
+
+    def accounts(self, watch):
+        """What stands at an account, with a keyring that works, hangs, or is locked."""
+        keyring = subprocess.Popen(["gnome-keyring-daemon", "--foreground", "--unlock", "--components=secrets"],
+                                   stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        keyring.stdin.write(b"password")
+        keyring.stdin.close()
+        secrets = ["gdbus", "call", "--session", "--dest", "org.freedesktop.secrets", "--object-path",
+                   "/org/freedesktop/secrets", "--method"]
+        subprocess.run(["gdbus", "wait", "--session", "--timeout", "10", "org.freedesktop.secrets"], check=True)
+        subprocess.run([str(self.programs / "fendrelctl"), "account", "set", "github"], input="a key", text=True, check=True)
+        self.view("accounts-field", watch, ACCOUNTS, ("Tab",) * 11 + ("Return",), ("Escape",))
+        keyring.send_signal(signal.SIGSTOP)
+        self.view("accounts-asked", watch, ACCOUNTS, ("Tab",) * 11 + ("Return", Typed("another"), "Return"), ())
+        keyring.send_signal(signal.SIGCONT)
+        subprocess.run([*secrets, "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']"],
+                       check=True, stdout=subprocess.DEVNULL)
+        self.view("accounts-locked", watch, ACCOUNTS, (), ())
+        keyring.terminate()
+        keyring.wait()
+
+
+def translated():
+    return {message.findtext("source"): message.findtext("translation") for message in tree.parse(TRANSLATION).iter("message")}
 
 
 def main():
@@ -103,19 +205,22 @@ def main():
     parser.add_argument("programs", type=pathlib.Path, help="the folder that fendrel and fendrelctl are in")
     parser.add_argument("pictures", type=pathlib.Path, help="the folder for the pictures and the log")
     parser.add_argument("looks", nargs="*", choices=[[], *LOOKS], help="default: all of them")
+    parser.add_argument("--only", nargs="+", choices=VIEWS, default=VIEWS, help="these views, after the first run")
     options = parser.parse_args()
     if "FENDREL_DESKTOP" not in os.environ:
         sys.exit("gallery: this types and clicks; it runs only inside `tools/desktop run`")
     options.pictures.mkdir(parents=True, exist_ok=True)
-    for old in options.pictures.glob("*.png"):
-        old.unlink()
+    looks = options.looks or list(LOOKS)
+    for look in looks:
+        for old in options.pictures.glob(f"{look}-*.png"):
+            old.unlink()
     gallery = WindowsGallery(options.programs.resolve(), Screen(options.pictures))
     try:
-        gallery.play(options.looks or LOOKS)
+        gallery.play(looks, options.only)
     except (Failed, subprocess.SubprocessError, OSError) as trouble:
         gallery.screen.picture("failure")
         sys.exit(f"gallery: FAILED: {trouble}; see {gallery.log.name}")
-    print(f"gallery: {gallery.screen.pictures} pictures are in {options.pictures}")
+    print(f"gallery: the pictures are in {options.pictures}")
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@
 #include "Platform/Linux/Banners/DesktopBanners.h"
 #include "Platform/Linux/Desktop/AutostartEntry.h"
 #include "Platform/Linux/Desktop/CanberraSounds.h"
+#include "Platform/Linux/Desktop/DesktopRemedies.h"
 #include "Platform/Linux/Desktop/DesktopShell.h"
 #include "Platform/Linux/Desktop/GSettingsConfiguration.h"
 #include "Platform/Linux/Desktop/LauncherEntries.h"
@@ -16,6 +17,7 @@
 #include "Platform/Linux/ModelServer/ModelServer.h"
 #include "Platform/Linux/Notifications/NotificationRecorder.h"
 #include "Platform/Linux/PeerCredentials.h"
+#include "Platform/Linux/Portal/PortalFileChooser.h"
 #include "Platform/Linux/X11/X11Accessibility.h"
 #include "Platform/Linux/X11/X11Applications.h"
 #include "Platform/Linux/X11/X11Displays.h"
@@ -103,6 +105,8 @@ Platform makePlatform() {
     platform.statusArea = std::make_unique<StatusNotifierArea>();
     platform.idleTime = std::make_unique<X11IdleTime>(connection);
     platform.shell = std::make_unique<DesktopShell>(catalog, clock);
+    platform.remedies = std::make_unique<DesktopRemedies>(DesktopRemedies::ofThisSession(platform.extension));
+    platform.fileChooser = std::make_unique<PortalFileChooser>();
     platform.languageModel = std::make_unique<ModelServer>(clock);
     platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
     platform.secrets = std::make_unique<KeyringStore>();

@@ -5,6 +5,7 @@
 #include "Platform/Null/NullBadges.h"
 #include "Platform/Null/NullClock.h"
 #include "Platform/Null/NullDisplays.h"
+#include "Platform/Null/NullFileChooser.h"
 #include "Platform/Null/NullHotKeys.h"
 #include "Platform/Null/NullHttpClient.h"
 #include "Platform/Null/NullIdleTime.h"
@@ -14,6 +15,7 @@
 #include "Platform/Null/NullNotificationLog.h"
 #include "Platform/Null/NullPanels.h"
 #include "Platform/Null/NullPointerGuard.h"
+#include "Platform/Null/NullRemedies.h"
 #include "Platform/Null/NullSecretStore.h"
 #include "Platform/Null/NullSettingsStore.h"
 #include "Platform/Null/NullShell.h"
@@ -49,6 +51,8 @@ inline Platform nullPlatform() {
         .statusArea = std::make_unique<NullStatusArea>(),
         .idleTime = std::make_unique<NullIdleTime>(),
         .shell = std::make_unique<NullShell>(),
+        .remedies = std::make_unique<NullRemedies>(),
+        .fileChooser = std::make_unique<NullFileChooser>(),
         .languageModel = std::make_unique<NullLanguageModel>(),
         .notificationLog = std::make_unique<NullNotificationLog>(),
         .notificationBanners = std::make_unique<NullNotificationBanners>(),

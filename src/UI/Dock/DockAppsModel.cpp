@@ -8,25 +8,6 @@
 
 namespace fendrel {
 
-namespace {
-enum Role {
-    bundleIDRole = Qt::UserRole + 1,
-    nameRole,
-    iconRole,
-    isRunningRole,
-    isFrontRole,
-    isInModeRole,
-    startsOthersRole,
-    isCarriedRole,
-    isUrgentRole,
-    isHiddenRole,
-    windowCountRole,
-    badgeCountRole,
-    badgeTextRole,
-    progressRole,
-};
-}
-
 DockAppsModel::DockAppsModel(AppController& controller, AppIcons& icons) : m_controller(controller), m_icons(icons) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockAppsModel::refresh);
     connect(&controller.workspace(), &Workspace::runningChanged, this, &DockAppsModel::refresh);
@@ -39,62 +20,6 @@ DockAppsModel::DockAppsModel(AppController& controller, AppIcons& icons) : m_con
 
 int DockAppsModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant DockAppsModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row& row = m_rows[index.row()];
-    switch (role) {
-    case bundleIDRole:
-        return row.id;
-    case Qt::DisplayRole:
-    case nameRole:
-        return row.name;
-    case iconRole:
-        return row.icon;
-    case isRunningRole:
-        return row.isRunning;
-    case isFrontRole:
-        return row.isFront;
-    case isInModeRole:
-        return row.isInMode;
-    case startsOthersRole:
-        return row.startsOthers;
-    case isCarriedRole:
-        return row.isCarried;
-    case isUrgentRole:
-        return row.isUrgent;
-    case isHiddenRole:
-        return row.isHidden;
-    case windowCountRole:
-        return row.windowCount;
-    case badgeCountRole:
-        return row.badgeCount;
-    case badgeTextRole:
-        return badgeText(row.badgeCount);
-    case progressRole:
-        return row.progress;
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> DockAppsModel::roleNames() const {
-    return {{bundleIDRole, "bundleID"},
-            {nameRole, "name"},
-            {iconRole, "icon"},
-            {isRunningRole, "isRunning"},
-            {isFrontRole, "isFront"},
-            {isInModeRole, "isInMode"},
-            {startsOthersRole, "startsOthers"},
-            {isCarriedRole, "isCarried"},
-            {isUrgentRole, "isUrgent"},
-            {isHiddenRole, "isHidden"},
-            {windowCountRole, "windowCount"},
-            {badgeCountRole, "badgeCount"},
-            {badgeTextRole, "badgeText"},
-            {progressRole, "progress"}};
 }
 
 QString DockAppsModel::badgeText(qint64 count) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/RowRoles.h"
+
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
@@ -24,8 +26,8 @@ public:
     DockAppsModel(AppController& controller, AppIcons& icons);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
     int modeCount() const { return m_modeCount; } ///< how many of the rows are the mode's
 
@@ -72,6 +74,20 @@ private:
 
     AppController& m_controller;
     AppIcons& m_icons;
+    const RowRoles<Row> m_roles{{"bundleID", &Row::id},
+                                {"name", &Row::name},
+                                {"icon", &Row::icon},
+                                {"isRunning", &Row::isRunning},
+                                {"isFront", &Row::isFront},
+                                {"isInMode", &Row::isInMode},
+                                {"startsOthers", &Row::startsOthers},
+                                {"isCarried", &Row::isCarried},
+                                {"isUrgent", &Row::isUrgent},
+                                {"isHidden", &Row::isHidden},
+                                {"windowCount", &Row::windowCount},
+                                {"badgeCount", &Row::badgeCount},
+                                {"badgeText", [](const Row& row) { return badgeText(row.badgeCount); }},
+                                {"progress", &Row::progress}};
     QList<Row> m_rows;
     int m_modeCount = 0;
     QString m_carried; ///< empty: nothing is

@@ -29,9 +29,6 @@ DockController::DockController(AppController& controller, AppIcons& icons, Messa
     });
     connect(&controller.gate(), &Gate::changed, this, &DockController::gateChanged);
     connect(&controller.hotKeys(), &HotKeyRegistry::changed, this, &DockController::hotKeysChanged);
-    connect(&controller.engine(), &ModeEngine::changed, this, &DockController::menuModesChanged);
-    connect(&controller.messages(), &HeldMessages::changed, this, &DockController::menuModesChanged);
-    connect(this, &DockController::hotKeysChanged, this, &DockController::menuModesChanged);
     const auto count = [this] { m_controller.dockAppsChanged(m_apps.rowCount()); };
     connect(&m_apps, &QAbstractItemModel::rowsInserted, this, count);
     connect(&m_apps, &QAbstractItemModel::rowsRemoved, this, count);
@@ -83,30 +80,6 @@ double DockController::magnification() const {
 
 const DockAppearance& DockController::look() const {
     return m_controller.preferences().appearance();
-}
-
-QVariantList DockController::menuModes() const {
-    const ModeEngine& engine = m_controller.engine();
-    const QStringList hotKeys = modeHotKeys();
-    QVariantList list;
-    for (const Mode& mode : engine.modes()) {
-        list.append(QVariantMap{{u"id"_s, mode.id},
-                                {u"name"_s, mode.name},
-                                {u"symbol"_s, mode.symbol},
-                                {u"tint"_s, color(mode.tint)},
-                                {u"isCurrent"_s, mode.id == engine.current().id},
-                                {u"isPending"_s, engine.pending() && engine.pending()->target.id == mode.id},
-                                {u"heldCount"_s, m_controller.messages().count(mode)},
-                                {u"hotKey"_s, hotKeys.value(list.size())}});
-    }
-    return list;
-}
-
-QStringList DockController::modeHotKeys() const {
-    QStringList labels;
-    for (int index = 0; const auto label = m_controller.preferences().modeShortcut(index); ++index)
-        labels.append(m_controller.hotKeys().works({HotKeyAction::Kind::switchMode, index}) ? *label : QString());
-    return labels;
 }
 
 QStringList DockController::appHotKeys() const {

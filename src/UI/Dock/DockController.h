@@ -5,12 +5,12 @@
 #include "UI/Dock/AppActions.h"
 #include "UI/Dock/DockAppsModel.h"
 #include "UI/Dock/MinimizedModel.h"
-#include "UI/Dock/ModesModel.h"
 #include "UI/Dock/PreviewSource.h"
 #include "UI/Dock/RestingPointer.h"
 #include "UI/Dock/TrashController.h"
 #include "UI/Dock/UndoController.h"
 #include "UI/Dock/WindowsModel.h"
+#include "UI/Modes/ModesModel.h"
 
 #include <QColor>
 #include <QObject>
@@ -51,10 +51,7 @@ class DockController : public QObject {
     Q_PROPERTY(double magnification READ magnification NOTIFY lookChanged)
     Q_PROPERTY(double shadow READ shadow NOTIFY lookChanged)
     Q_PROPERTY(double border READ border NOTIFY lookChanged)
-    /// The modes for menus: { id, name, symbol, tint, isCurrent, isPending, heldCount, hotKey }.
-    Q_PROPERTY(QVariantList menuModes READ menuModes NOTIFY menuModesChanged)
     /// The labels of hot keys that work, by position; empty where there is none.
-    Q_PROPERTY(QStringList modeHotKeys READ modeHotKeys NOTIFY hotKeysChanged)
     Q_PROPERTY(QStringList appHotKeys READ appHotKeys NOTIFY hotKeysChanged)
     Q_PROPERTY(bool isGateOpen READ isGateOpen NOTIFY gateChanged)
 
@@ -86,8 +83,6 @@ public:
     double magnification() const; ///< factor under the pointer; 1 when the user wants none
     double shadow() const { return look().shadow; }
     double border() const { return look().border; }
-    QVariantList menuModes() const;
-    QStringList modeHotKeys() const;
     QStringList appHotKeys() const;
     bool isGateOpen() const;
 
@@ -107,7 +102,6 @@ Q_SIGNALS:
     void lookChanged();
     void gateChanged();
     void hotKeysChanged();
-    void menuModesChanged();
 
 private:
     const DockAppearance& look() const;

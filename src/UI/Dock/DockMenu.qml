@@ -192,9 +192,11 @@ PopupWindow {
                         readonly property bool hasSymbols: menu.entries.some(other => other.symbol || other.isChecked !== undefined)
 
                         width: column.width
-                        readonly property int start: hasSymbols && !modelData.header ? 36 : 10
+                        readonly property int symbolSize: Math.round(17 * Math.max(1, Theme.textScale))
+                        readonly property int markSize: Math.round(15 * Math.max(1, Theme.textScale))
+                        readonly property int start: hasSymbols && !modelData.header ? symbolSize + 19 : 10
                         readonly property real hintRoom: hint.text === "" ? 0 : hint.implicitWidth + 22
-                        implicitWidth: start + Math.min(label.implicitWidth, 300 * Theme.textScale) + hintRoom + (hasMark ? 44 : 20)
+                        implicitWidth: start + Math.min(label.implicitWidth, 300 * Theme.textScale) + hintRoom + (hasMark ? markSize + 29 : 20)
                         implicitHeight: modelData.separator ? 9 : label.implicitHeight + (modelData.header ? 12 : 16)
 
                         onIsCurrentChanged: if (isCurrent) forceActiveFocus()
@@ -203,6 +205,7 @@ PopupWindow {
                         Accessible.role: isEntry ? Accessible.MenuItem : Accessible.StaticText
                         Accessible.name: (modelData.text ?? modelData.header ?? "") + (hint.text === "" ? "" : ", " + hint.text)
                         Accessible.ignored: modelData.separator ?? false
+                        Accessible.checkable: modelData.isChecked !== undefined
                         Accessible.checked: modelData.isChecked ?? false
                         Accessible.onPressAction: column.run(index, true)
 
@@ -223,7 +226,7 @@ PopupWindow {
                         Symbol {
                             visible: (entry.modelData.symbol ?? "") !== ""
                             name: entry.modelData.symbol ?? ""
-                            size: 17
+                            size: entry.symbolSize
                             color: entry.modelData.tint ? menu.colors.tintText(entry.modelData.tint) : menu.colors.secondaryText
                             anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
                         }
@@ -233,6 +236,7 @@ PopupWindow {
                             color: entry.modelData.isGrave ? menu.colors.grave
                                  : entry.isEntry && !entry.modelData.isQuiet ? menu.colors.text : menu.colors.secondaryText
                             text: entry.modelData.text ?? entry.modelData.header ?? ""
+                            Accessible.ignored: true
                             font.pixelSize: entry.modelData.header ? Theme.textSmall : Theme.text
                             font.weight: entry.modelData.header ? Font.DemiBold : Font.Normal
                             anchors { left: parent.left; leftMargin: entry.start; verticalCenter: parent.verticalCenter }
@@ -240,7 +244,7 @@ PopupWindow {
                         }
                         Label {
                             id: hint
-                            anchors { right: parent.right; rightMargin: entry.hasMark ? 34 : 10; verticalCenter: parent.verticalCenter }
+                            anchors { right: parent.right; rightMargin: entry.hasMark ? entry.markSize + 19 : 10; verticalCenter: parent.verticalCenter }
                             colors: menu.colors
                             color: menu.colors.secondaryText
                             text: entry.modelData.hint ?? ""
@@ -248,8 +252,8 @@ PopupWindow {
                         }
                         Symbol {
                             visible: entry.hasMark
-                            name: !entry.modelData.page ? "checkmark" : entry.LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
-                            size: 15
+                            name: entry.modelData.page ? "chevron.right" : "checkmark"
+                            size: entry.markSize
                             color: menu.colors.text
                             anchors.right: parent.right
                             anchors.rightMargin: 10

@@ -30,7 +30,8 @@ QtObject {
 
     function correct(item: Item) {
         const entries = [{ header: qsTr("%1 belongs to").arg(verdict.what) },
-                         ...dock.modes.menuEntries(verdict.modeID),
+                         ...dock.modes.entries.map(mode => ({ text: mode.name, value: mode.modeID, symbol: mode.symbol, tint: mode.tint,
+                                                              isChecked: mode.modeID === verdict.modeID })),
                          { separator: true },
                          { text: qsTr("None of them"), value: "", symbol: "xmark", isChecked: verdict.modeID === "" }]
         verdict.holdSubject()

@@ -9,7 +9,7 @@ QtObject {
     required property DockController dock
     required property FocusController focusState
 
-    readonly property var allModes: dock.menuModes
+    readonly property var allModes: dock.modes.entries
     readonly property var allEnds: focusState.ends
     readonly property var lengths: [25, 50, 90] // minutes
 
@@ -28,12 +28,12 @@ QtObject {
         const target = allModes.find(mode => mode.isPending)
         return target === undefined ? []
             : [{ text: qsTr("Switching to %1 in %2 s").arg(target.name).arg(focusState.pendingSeconds), symbol: "hourglass" },
-               { text: qsTr("Shorten the Wait"), value: () => menu.dock.requestMode(target.id), symbol: "bolt" },
+               { text: qsTr("Shorten the Wait"), value: () => menu.dock.requestMode(target.modeID), symbol: "bolt" },
                { text: qsTr("Stay in %1").arg(dock.modeName), value: () => menu.dock.requestMode(menu.dock.modeID), symbol: "xmark" }]
     }
     function modes(): var {
         return allModes.map(mode => ({ text: mode.name, hint: mode.hotKey, symbol: mode.symbol, tint: mode.tint, isChecked: mode.isCurrent,
-                                             value: () => menu.dock.requestMode(mode.id) }))
+                                             value: () => menu.dock.requestMode(mode.modeID) }))
     }
     function focus(): var {
         const minutes = lengths.map(length => ({ text: qsTr("Focus for %1 Minutes").arg(length), value: () => menu.focusState.start(length), symbol: "timer" }))
@@ -48,7 +48,7 @@ QtObject {
     function today(isByKeyboard: bool): var {
         const holding = allModes.filter(mode => mode.heldCount > 0)
         const count = holding.reduce((sum, mode) => sum + mode.heldCount, 0)
-        const show = mode => () => menu.dock.showHeld(mode.id, isByKeyboard)
+        const show = mode => () => menu.dock.showHeld(mode.modeID, isByKeyboard)
         const held = holding.length === 0 ? []
             : holding.length === 1 ? [{ text: qsTr("Held Messages (%1)…").arg(count), value: show(holding[0]), symbol: "bell.badge" }]
             : [{ text: qsTr("Held Messages (%1)").arg(count), symbol: "bell.badge",

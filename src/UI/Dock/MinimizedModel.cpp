@@ -6,10 +6,6 @@
 
 namespace fendrel {
 
-namespace {
-enum Role { windowRole = Qt::UserRole + 1, titleRole, appRole, iconRole };
-}
-
 MinimizedModel::MinimizedModel(AppController& controller, AppIcons& icons) : m_controller(controller), m_icons(icons) {
     connect(&controller.minimized(), &MinimizedWindows::changed, this, &MinimizedModel::refresh);
     refresh();
@@ -17,29 +13,6 @@ MinimizedModel::MinimizedModel(AppController& controller, AppIcons& icons) : m_c
 
 int MinimizedModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant MinimizedModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row& row = m_rows[index.row()];
-    switch (role) {
-    case windowRole:
-        return row.window;
-    case Qt::DisplayRole:
-    case titleRole:
-        return row.title;
-    case appRole:
-        return row.app;
-    case iconRole:
-        return row.icon;
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> MinimizedModel::roleNames() const {
-    return {{windowRole, "windowID"}, {titleRole, "title"}, {appRole, "app"}, {iconRole, "icon"}};
 }
 
 void MinimizedModel::refresh() {

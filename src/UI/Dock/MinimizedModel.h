@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/RowRoles.h"
+
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
@@ -17,8 +19,8 @@ public:
     MinimizedModel(AppController& controller, AppIcons& icons);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
 private:
     struct Row {
@@ -35,6 +37,8 @@ private:
 
     AppController& m_controller;
     AppIcons& m_icons;
+    const RowRoles<Row> m_roles{
+        {"windowID", &Row::window}, {"title", &Row::title}, {"app", &Row::app}, {"icon", &Row::icon}};
     QList<Row> m_rows;
 };
 

@@ -16,7 +16,7 @@ DockItem {
 
     property color background: colors.card // of the bar
     property int pendingSeconds: 0
-    property string hotKey: ""
+    required property string hotKey
 
     signal appDropped(bundleID: string)
 

@@ -47,11 +47,9 @@ ScrollStrip {
         onItemRemoved: section.measure()
         ModePill {
             id: pill
-            required property int index
             readonly property bool isSought: isCurrent || isPending || activeFocus
             colors: section.colors
             tip: section.tip
-            hotKey: section.dock.modeHotKeys[index] ?? ""
             isVertical: section.isVertical
             pendingSeconds: section.focusState.pendingSeconds
             size: section.layout.pillSize

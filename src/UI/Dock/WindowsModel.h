@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/RowRoles.h"
+
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
@@ -18,8 +20,8 @@ public:
     explicit WindowsModel(AppController& controller);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
     const QString& bundleID() const { return m_bundleID; }
     void setBundleID(const QString& bundleID);
@@ -42,6 +44,10 @@ private:
 
     AppController& m_controller;
     QString m_bundleID;
+    const RowRoles<Row> m_roles{{"windowID", &Row::window},
+                                {"title", &Row::title},
+                                {"isMinimized", &Row::isMinimized},
+                                {"isFront", &Row::isFront}};
     QList<Row> m_rows;
 };
 

@@ -38,14 +38,14 @@ QImage TrayImages::requestImage(const QString& id, QSize* size, const QSize&) {
     painter.setBrush(tint);
     painter.drawRoundedRect(QRectF(4, 4, side - 8, side - 8), 22, 22);
 
-    constexpr int glyph = 56;
+    constexpr int glyph = 62; // lines of a whole pixel in the smallest panels
     const QString shade = luminance(tint) > 0.3 ? u"ff1c1d21"_s : u"ffffffff"_s;
     QSize glyphSize;
     const QImage picture = SymbolImages().requestImage(symbol + u'/' + shade, &glyphSize, QSize(glyph, glyph));
     painter.drawImage(QPoint((side - glyph) / 2, (side - glyph) / 2), picture);
 
     if (isFocused) {
-        const QRectF dot(side - 40, side - 40, 38, 38);
+        const QRectF dot(side - 34, side - 34, 32, 32);
         painter.setCompositionMode(QPainter::CompositionMode_Clear);
         painter.drawEllipse(dot.adjusted(-6, -6, 6, 6));
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);

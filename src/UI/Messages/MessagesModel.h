@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Messages/HeldMessage.h"
+#include "UI/RowRoles.h"
 
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
 namespace fendrel {
-
 
 /// Messages as a card shows them: plain text that fits, whatever was in them.
 class MessagesModel : public QAbstractListModel {
@@ -26,14 +26,16 @@ public:
     };
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
     void show(const QList<Row>& rows);
 
 private:
     template<class, class>
     friend class RowSync;
+    const RowRoles<Row> m_roles{{"icon", &Row::icon}, {"appName", &Row::appName}, {"title", &Row::title},
+                                {"body", &Row::text}, {"time", &Row::time},       {"why", &Row::why}};
     QList<Row> m_rows;
 };
 

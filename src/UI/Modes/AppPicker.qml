@@ -27,6 +27,7 @@ FocusScope {
         focus: true
         name: qsTr("Search applications")
         placeholder: name
+        symbol: "magnifyingglass"
         onEdited: text => picker.searched(text)
         Keys.onDownPressed: results.forceActiveFocus(Qt.TabFocusReason)
         onAccepted: (results.itemAtIndex(0) as Candidate)?.take()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Base/WallTime.h"
+#include "UI/Images/AppIcons.h"
+#include "UI/RowRoles.h"
 
 #include <QAbstractListModel>
 #include <QColor>
@@ -9,7 +10,6 @@
 namespace fendrel {
 
 class AppController;
-class AppIcons;
 struct SeenApp;
 
 /// The applications of the last day, and where each would go as the modes are now.
@@ -21,8 +21,8 @@ public:
     DryRunModel(AppController& controller, AppIcons& icons);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
     void refresh();
 
@@ -41,10 +41,18 @@ private:
     template<class, class>
     friend class RowSync;
     Row row(const SeenApp& app) const;
-    QString momentText(WallTime moment) const;
 
     AppController& m_controller;
     AppIcons& m_icons;
+    const RowRoles<Row> m_roles{{"bundleID", &Row::id},
+                                {"name", &Row::name},
+                                {"icon", [this](const Row& row) { return m_icons.source(row.id); }},
+                                {"seen", &Row::seen},
+                                {"place", &Row::place},
+                                {"reason", &Row::reason},
+                                {"symbol", &Row::symbol},
+                                {"tint", &Row::tint},
+                                {"isUndecided", &Row::isUndecided}};
     QList<Row> m_rows;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/RowRoles.h"
+
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
@@ -24,8 +26,8 @@ public:
     explicit EntriesModel(std::function<QString(const QString& id)> icon = [](const QString&) { return QString(); });
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
 
     void show(const QList<Row>& rows);
     void refreshIcons();
@@ -35,6 +37,10 @@ private:
     friend class RowSync;
 
     std::function<QString(const QString& id)> m_icon;
+    const RowRoles<Row> m_roles{{"entryID", &Row::id},
+                                {"name", &Row::name},
+                                {"note", &Row::note},
+                                {"icon", [this](const Row& row) { return m_icon(row.id); }}};
     QList<Row> m_rows;
 };
 

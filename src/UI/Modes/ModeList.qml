@@ -18,7 +18,7 @@ FocusScope {
         required property string name
         required property string symbol
         required property color tint
-        required property string shortcut
+        required property string hotKey
         required property bool isCurrent
         readonly property bool isChosen: root.modes.editor.modeID === modeID
         readonly property color foreground: isChosen ? "white" : root.colors.text
@@ -29,7 +29,7 @@ FocusScope {
         activeFocusOnTab: isChosen || activeFocus
         Accessible.role: Accessible.ListItem
         Accessible.name: name
-        Accessible.description: isCurrent ? qsTr("Current mode") : shortcut
+        Accessible.description: isCurrent ? qsTr("Current mode") : hotKey
         Accessible.selected: isChosen
         Accessible.focusable: true
         Accessible.onPressAction: choose()
@@ -96,7 +96,7 @@ FocusScope {
             }
             Rectangle {
                 id: mark
-                anchors { right: key.left; rightMargin: row.shortcut === "" ? 0 : 8; verticalCenter: parent.verticalCenter }
+                anchors { right: key.left; rightMargin: row.hotKey === "" ? 0 : 8; verticalCenter: parent.verticalCenter }
                 visible: row.isCurrent
                 width: 7
                 height: 7
@@ -108,7 +108,7 @@ FocusScope {
                 anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
                 colors: root.colors
                 color: row.isChosen ? "white" : root.colors.secondaryText
-                text: row.shortcut
+                text: row.hotKey
                 font.pixelSize: Theme.textHelp
                 Accessible.ignored: true
             }

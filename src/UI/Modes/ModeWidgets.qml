@@ -74,7 +74,7 @@ SettingsGroup {
             radius: width / 2
             color: kind.isChosen ? group.colors.accent : "transparent"
             border.width: kind.isChosen ? 0 : 2
-            border.color: group.colors.secondaryText
+            border.color: group.colors.control
             Symbol {
                 anchors.centerIn: parent
                 visible: kind.isChosen
@@ -122,6 +122,7 @@ SettingsGroup {
                     focus: true
                     name: qsTr("Search widgets")
                     placeholder: name
+                    symbol: "magnifyingglass"
                     onEdited: text => group.editor.searchWidgets(text)
                     Keys.onDownPressed: kinds.forceActiveFocus(Qt.TabFocusReason)
                 }

@@ -3,7 +3,7 @@
 #include "Modes/ModeRemoval.h"
 #include "UI/Modes/DryRunModel.h"
 #include "UI/Modes/ModeEditor.h"
-#include "UI/Modes/ModeListModel.h"
+#include "UI/Modes/ModesModel.h"
 
 #include <QObject>
 #include <QVariantList>
@@ -16,7 +16,7 @@ class ModesController : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(fendrel::ModeListModel* list READ list CONSTANT)
+    Q_PROPERTY(fendrel::ModesModel* list READ list CONSTANT)
     Q_PROPERTY(fendrel::ModeEditor* editor READ editor CONSTANT)
     Q_PROPERTY(fendrel::DryRunModel* dryRun READ dryRun CONSTANT)
     /// The built-in modes that are not in the list: id, name, symbol and tint.
@@ -28,7 +28,7 @@ class ModesController : public QObject {
 public:
     ModesController(AppController& controller, AppIcons& icons);
 
-    ModeListModel* list() { return &m_list; }
+    ModesModel* list() { return &m_list; }
     ModeEditor* editor() { return &m_editor; }
     DryRunModel* dryRun() { return &m_dryRun; }
     QVariantList templates() const;
@@ -54,7 +54,7 @@ private:
     void addBehind(Mode mode, qsizetype position);
 
     AppController& m_controller;
-    ModeListModel m_list;
+    ModesModel m_list;
     ModeEditor m_editor;
     DryRunModel m_dryRun;
     ModeRemoval m_removal;

@@ -1,8 +1,9 @@
 #include "UI/Modes/SymbolCatalog.h"
 
+#include "UI/WordSearch.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -95,7 +96,7 @@ constexpr Named named[] = {
     {"film", QT_TRANSLATE_NOOP("SymbolCatalog", "Film, movie, cinema, edit")},
     {"tv", QT_TRANSLATE_NOOP("SymbolCatalog", "Television, watch, series, stream")},
     {"theatermasks", QT_TRANSLATE_NOOP("SymbolCatalog", "Masks, theater, drama, acting")},
-    {"music.note", QT_TRANSLATE_NOOP("SymbolCatalog", "Note, music, song, compose")},
+    {"music.note", QT_TRANSLATE_NOOP("SymbolCatalog", "Musical note, music, song, compose")},
     {"headphones", QT_TRANSLATE_NOOP("SymbolCatalog", "Headphones, listen, music, podcast, audio")},
     {"piano", QT_TRANSLATE_NOOP("SymbolCatalog", "Piano, keyboard, music, practice")},
     {"guitar", QT_TRANSLATE_NOOP("SymbolCatalog", "Guitar, music, band, practice")},
@@ -152,11 +153,6 @@ struct Searched {
     QStringList words;
 };
 
-QStringList wordsOf(const QString& text) {
-    static const QRegularExpression gap(u"[\\s,.]+"_s);
-    return text.toCaseFolded().split(gap, Qt::SkipEmptyParts);
-}
-
 /// Symbols of controls and of things to come have no words of their own: their names are made of such.
 QString plainLabel(const QString& name) {
     QString label = QString(name).replace(u'.', u' ');
@@ -174,12 +170,12 @@ QList<Searched> allSymbols() {
         const QString name = QString::fromLatin1(symbol.name);
         const QString words = translatedWords(symbol);
         known.insert(name);
-        all.append({{.name = name, .label = words.section(u',', 0, 0)}, wordsOf(words) + wordsOf(name)});
+        all.append({{.name = name, .label = words.section(u',', 0, 0)}, foldedWords(words) + foldedWords(name)});
     }
     for (const QString& file : QDir(u":/symbols"_s).entryList({u"*.svg"_s}, QDir::Files, QDir::Name)) {
         const QString name = file.chopped(4);
         if (!known.contains(name))
-            all.append({{.name = name, .label = plainLabel(name)}, wordsOf(name)});
+            all.append({{.name = name, .label = plainLabel(name)}, foldedWords(name)});
     }
     return all;
 }
@@ -187,13 +183,10 @@ QList<Searched> allSymbols() {
 } // namespace
 
 QList<SymbolChoice> findSymbols(const QString& words) {
-    const QStringList wanted = wordsOf(words);
+    const QStringList wanted = foldedWords(words);
     QList<SymbolChoice> found;
     for (const Searched& symbol : allSymbols()) {
-        const bool isMeant = std::ranges::all_of(wanted, [&](const QString& word) {
-            return std::ranges::any_of(symbol.words, [&](const QString& own) { return own.startsWith(word); });
-        });
-        if (isMeant)
+        if (eachBeginsOne(wanted, symbol.words))
             found.append(symbol.choice);
     }
     return found;

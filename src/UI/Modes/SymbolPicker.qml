@@ -13,7 +13,9 @@ FocusScope {
 
     signal closed()
 
-    readonly property int cell: Math.round(44 * Math.max(1, Theme.textScale))
+    readonly property int least: Math.round(44 * Math.max(1, Theme.textScale))
+    readonly property int columns: Math.max(1, Math.floor(width / least))
+    readonly property int cell: Math.floor(width / columns) // no gap at the end of a line
     implicitHeight: field.height + 10 + grid.height
 
     Keys.onEscapePressed: closed()
@@ -25,6 +27,7 @@ FocusScope {
         focus: true
         name: qsTr("Search symbols")
         placeholder: name
+        symbol: "magnifyingglass"
         onEdited: text => picker.words = text
         onAccepted: if (picker.symbols.length > 0) picker.take(picker.symbols[0].name)
         Keys.onDownPressed: grid.forceActiveFocus(Qt.TabFocusReason)
@@ -34,7 +37,7 @@ FocusScope {
     GridView {
         id: grid
         anchors { top: field.bottom; topMargin: 10; left: parent.left; right: parent.right }
-        height: picker.cell * Math.max(1, Math.min(4.5, Math.ceil(count / Math.max(1, Math.floor(width / picker.cell)))))
+        height: picker.cell * Math.max(1, Math.min(4.5, Math.ceil(count / picker.columns)))
         cellWidth: picker.cell
         cellHeight: picker.cell
         model: picker.symbols
@@ -46,7 +49,7 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Symbols")
         Keys.onUpPressed: event => {
-            if (currentIndex < Math.floor(width / cellWidth))
+            if (currentIndex < picker.columns)
                 field.forceActiveFocus(Qt.BacktabFocusReason)
             else
                 event.accepted = false
@@ -76,7 +79,7 @@ FocusScope {
             Symbol {
                 anchors.centerIn: parent
                 name: entry.modelData.name
-                size: Math.round(picker.cell * 0.5)
+                size: Math.round(picker.least * 0.5)
                 color: entry.isChosen ? "white" : picker.colors.text
             }
             FocusRing { target: entry; targetRadius: 9; gap: -2; ringColor: entry.isChosen ? picker.colors.text : picker.colors.accent }

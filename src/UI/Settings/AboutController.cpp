@@ -4,6 +4,7 @@
 #include "App/Diagnostics.h"
 #include "Base/JsonFile.h"
 #include "UI/Settings/Dependencies.h"
+#include "UI/Settings/FileAsking.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -13,8 +14,8 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-AboutController::AboutController(AppController& controller, Capabilities& capabilities)
-    : m_controller(controller), m_capabilities(capabilities), m_worker(u"about"_s) {
+AboutController::AboutController(AppController& controller, Capabilities& capabilities, FileAsking& files)
+    : m_controller(controller), m_capabilities(capabilities), m_files(files), m_worker(u"about"_s) {
     m_capabilities.refresh(); // by the time that a report is wanted, the answers are there
     m_worker.post({}, [this, all = fendrel::dependencies(), extension = controller.platform().extension] {
         QVariantList rows;
@@ -56,21 +57,37 @@ void AboutController::openAddress(const QString& address) {
     m_controller.platform().shell->openAddress(QUrl(address));
 }
 
-void AboutController::writeReport() {
+void AboutController::writeReportFor(QQuickItem* button) {
+    using NoFile = FileChooser::NoFile;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString name = DiagnosticBundle::suggestedName(m_controller.platform().clock->now());
+    const FileQuestion question{.title = tr("Save the Diagnostic Bundle"), .suggestedName = name, .folder = folder};
+    m_files.save(*button, question, [this, folder, name](const FileChooser::Choice& choice) {
+        if (choice) {
+            writeReport(*choice, false);
+        } else if (choice.error() == NoFile::failed) {
+            writeReport(folder + u'/' + name, true);
+        } else if (choice.error() == NoFile::unusable) {
+            m_problem = tr("It isn't on this computer, or its name can't be read.");
+            Q_EMIT changed();
+        }
+    });
+}
+
+void AboutController::writeReport(const QString& path, bool reveals) {
     if (std::exchange(m_isWriting, true))
         return;
     m_report.clear();
     m_problem.clear();
     Q_EMIT changed();
     const auto files = diagnosticFiles(diagnosticFacts(m_controller, m_capabilities.all()));
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    m_bundle.write(files, folder, m_controller.platform().clock->now(), [this](const auto& result) {
+    m_bundle.write(files, path, [this, path, reveals](const std::optional<QString>& problem) {
         m_isWriting = false;
-        if (result) {
-            m_report = *result;
-            m_controller.platform().shell->reveal({m_report});
-        } else {
-            m_problem = result.error();
+        m_problem = problem.value_or(QString());
+        if (!problem) {
+            m_report = path;
+            if (reveals)
+                m_controller.platform().shell->reveal({path});
         }
         Q_EMIT changed();
     });

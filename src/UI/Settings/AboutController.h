@@ -4,6 +4,7 @@
 #include "Base/Worker.h"
 
 #include <QObject>
+#include <QQuickItem>
 #include <QVariantList>
 #include <QtQmlIntegration>
 
@@ -13,6 +14,7 @@ namespace fendrel {
 
 class AppController;
 class Capabilities;
+class FileAsking;
 
 /// What this program is: its version, its folders, what it is built on, and a report for when something is wrong.
 class AboutController : public QObject {
@@ -30,7 +32,7 @@ class AboutController : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
-    AboutController(AppController& controller, Capabilities& capabilities);
+    AboutController(AppController& controller, Capabilities& capabilities, FileAsking& files);
 
     QString version() const { return QStringLiteral(FENDREL_VERSION); }
     const QString& extensionVersion() const { return m_extensionVersion; } ///< empty while it is not known
@@ -42,14 +44,18 @@ public:
 
     Q_INVOKABLE void openFolder(const QString& path);
     Q_INVOKABLE void openAddress(const QString& address);
-    Q_INVOKABLE void writeReport(); ///< into the folder of documents, which is shown then
+    /// To a file that the user is asked for; where that cannot be, into the folder of documents, which is shown then.
+    Q_INVOKABLE void writeReportFor(QQuickItem* button);
 
 Q_SIGNALS:
     void changed();
 
 private:
+    void writeReport(const QString& path, bool reveals);
+
     AppController& m_controller;
     Capabilities& m_capabilities;
+    FileAsking& m_files;
     QString m_extensionVersion;
     QVariantList m_dependencies;
     bool m_isWriting = false;

@@ -41,12 +41,12 @@ Column {
             label: qsTr("Diagnostic bundle")
             help: page.about.problem !== "" ? qsTr("It couldn't be written: %1").arg(page.about.problem)
                 : page.about.report !== "" ? qsTr("Written to %1").arg(page.about.report)
-                : qsTr("A file for whoever helps you, in your documents. It has versions, settings and the log, but no titles, sites, applications, modes, words, addresses or keys.")
+                : qsTr("A file for whoever helps you. It has versions, settings and the log, but no titles, sites, applications, modes, words, addresses or keys.")
             PushButton {
                 colors: page.colors
                 text: qsTr("Make a Bundle…")
-                isEnabled: !page.about.isWriting
-                onClicked: page.about.writeReport()
+                isEnabled: !page.about.isWriting && !page.settings.files.isOpen
+                onClicked: page.about.writeReportFor(this)
             }
         }
     }

@@ -61,12 +61,14 @@ FocusScope {
 
         Item {
             width: parent.width
+            id: head
             readonly property real headHeight: Math.max(mark.height, words.height)
             height: row.isNarrow ? headHeight + 10 + buttons.height : Math.max(headHeight, buttons.height)
 
             Rectangle {
                 id: mark
-                anchors { left: parent.left; top: parent.top }
+                anchors.left: parent.left
+                y: (head.headHeight - height) / 2
                 width: Math.round(36 * row.scaling)
                 height: width
                 radius: width / 2
@@ -83,6 +85,7 @@ FocusScope {
             Column {
                 id: words
                 anchors { left: mark.right; leftMargin: 14; right: row.isNarrow ? parent.right : buttons.left; rightMargin: row.isNarrow ? 0 : 14 }
+                y: (head.headHeight - height) / 2
                 spacing: 2
                 Label {
                     colors: row.colors
@@ -105,7 +108,7 @@ FocusScope {
                 Row {
                     anchors.left: parent.left
                     spacing: 5
-                    visible: row.standing !== ""
+                    visible: row.standing !== "" && (row.busy || row.accounts.problem === "") // the pane says what is wrong with all
                     Symbol {
                         anchors.verticalCenter: parent.verticalCenter
                         visible: row.isConnected && !row.busy
@@ -115,7 +118,7 @@ FocusScope {
                     }
                     Label {
                         colors: row.colors
-                        color: row.isConnected ? row.colors.well : row.colors.secondaryText
+                        color: row.isConnected && !row.busy ? row.colors.well : row.colors.secondaryText
                         text: row.standing
                         font.pixelSize: Theme.textHelp
                         font.weight: row.isConnected ? Font.Medium : Font.Normal

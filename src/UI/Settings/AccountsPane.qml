@@ -16,6 +16,7 @@ Column {
 
     StateLine {
         colors: page.colors
+        margin: 0
         problem: qsTr("The dock doesn't draw widgets yet. Keys that you enter here are kept for then.")
         well: ""
     }

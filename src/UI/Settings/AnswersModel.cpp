@@ -2,8 +2,9 @@
 
 #include "App/AppController.h"
 #include "UI/Images/AppIcons.h"
+#include "UI/MomentText.h"
+#include "UI/WordSearch.h"
 
-#include <QLocale>
 #include <QUrl>
 
 #include <algorithm>
@@ -30,15 +31,6 @@ QString judgedText(const Verdict& verdict) {
         break;
     }
     return AnswersModel::tr("Fendrel is unsure");
-}
-
-QString dateText(const std::optional<WallTime>& date, WallTime now) {
-    if (!date)
-        return {};
-    const QDateTime local = toDateTime(*date).toLocalTime();
-    if (local.date() == toDateTime(now).toLocalTime().date())
-        return AnswersModel::tr("Today, %1").arg(QLocale().toString(local.time(), QLocale::ShortFormat));
-    return QLocale().toString(local.date(), QLocale::ShortFormat);
 }
 
 } // namespace
@@ -85,7 +77,7 @@ QVariant AnswersModel::data(const QModelIndex& index, int role) const {
     case judgedRole:
         return judgedText(answer.verdict);
     case dateRole:
-        return dateText(answer.date, m_controller.platform().clock->now());
+        return answer.date ? momentText(*answer.date, m_controller.platform().clock->now()) : QString();
     default:
         return {};
     }
@@ -134,9 +126,7 @@ bool AnswersModel::isShown(const QString& key) const {
         return false;
     if (m_filter.words.isEmpty())
         return true;
-    const QString text = nameOf(key) + u'\n' + key + u'\n' + verdict.what;
-    return std::ranges::all_of(m_filter.words,
-                               [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+    return eachIsIn(m_filter.words, nameOf(key) + u'\n' + key + u'\n' + verdict.what);
 }
 
 AnswersModel::Row AnswersModel::rowOf(const QString& key) const {

@@ -43,7 +43,7 @@ FocusScope {
         anchors { left: parent.left; leftMargin: page.margin; verticalCenter: title.verticalCenter }
         colors: page.colors
         text: qsTr("Back")
-        symbol: page.LayoutMirroring.enabled ? "chevron.right" : "chevron.left"
+        symbol: "chevron.left"
         onClicked: page.closed()
     }
     Label {
@@ -153,18 +153,14 @@ FocusScope {
                 opacity: list.visibleArea.heightRatio >= 1 ? 0 : list.moving ? 0.6 : 0.25
             }
         }
-        Label {
-            anchors { centerIn: parent }
-            width: parent.width - 48
+        Nothing {
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 48, 420 * Theme.textScale)
             colors: page.colors
-            color: page.colors.secondaryText
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
             visible: list.count === 0
+            symbol: page.controller.total === 0 ? "lightbulb" : "magnifyingglass"
             text: page.controller.total === 0 ? qsTr("Nothing is learned yet. What you tell Fendrel in the dock, and what the language model answers, is listed here.")
                                               : qsTr("No answer fits.")
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
     Item {

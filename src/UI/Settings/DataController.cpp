@@ -1,6 +1,7 @@
 #include "UI/Settings/DataController.h"
 
 #include "App/AppController.h"
+#include "UI/Settings/FileAsking.h"
 
 #include <QDir>
 #include <QPointer>
@@ -10,6 +11,7 @@
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
+using NoFile = FileChooser::NoFile;
 
 namespace {
 
@@ -26,9 +28,18 @@ QString shownPath(const QString& path) {
     return path.startsWith(home) ? u"~/"_s + path.mid(home.size()) : path;
 }
 
+FileQuestion::Filter backups() {
+    return {.name = DataController::tr("Fendrel backups"), .globs = {u"*.json"_s}};
+}
+
+QString unusable() {
+    return DataController::tr("This file can't be used: it isn't on this computer, or its name can't be read.");
+}
+
 } // namespace
 
-DataController::DataController(AppController& controller) : m_controller(controller) {
+DataController::DataController(AppController& controller, FileAsking& files)
+    : m_controller(controller), m_files(files) {
     connect(&controller.backup(), &Backup::changed, this, &DataController::changed);
 }
 
@@ -36,9 +47,24 @@ bool DataController::canUndo() const {
     return m_controller.backup().canUndo();
 }
 
-void DataController::exportNow() {
+void DataController::exportFor(QQuickItem* button) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString path = folder + u'/' + m_controller.backup().suggestedName();
+    const QString name = m_controller.backup().suggestedName();
+    const FileQuestion question{.title = tr("Export Modes, Settings and Answers"),
+                                .filters = {backups()},
+                                .suggestedName = name,
+                                .folder = folder};
+    m_files.save(*button, question, [this, folder, name](const FileChooser::Choice& choice) {
+        if (choice)
+            exportTo(*choice);
+        else if (choice.error() == NoFile::failed)
+            exportTo(folder + u'/' + name);
+        else if (choice.error() == NoFile::unusable)
+            tell(unusable(), true);
+    });
+}
+
+void DataController::exportTo(const QString& path) {
     m_underWay = m_controller.backup().write(path, [this, path](const std::optional<QString>& problem) {
         m_exported = problem ? QString() : path;
         tell(problem ? *problem : tr("Saved as %1.").arg(shownPath(path)), problem.has_value());
@@ -49,8 +75,25 @@ void DataController::reveal() {
     m_controller.platform().shell->reveal({m_exported});
 }
 
+void DataController::importFor(QQuickItem* button) {
+    const FileQuestion question{.title = tr("Import a Backup"),
+                                .filters = {backups(), {.name = tr("All files"), .globs = {u"*"_s}}}};
+    m_files.open(*button, question, [this](const FileChooser::Choice& choice) {
+        if (choice)
+            importPath(*choice);
+        else if (choice.error() == NoFile::failed)
+            Q_EMIT pathWanted();
+        else if (choice.error() == NoFile::unusable)
+            tell(unusable(), true);
+    });
+}
+
 void DataController::importFrom(const QString& typed) {
-    m_underWay = m_controller.backup().read(typedPath(typed.trimmed()), [this](const Result<Archive, QString>& read) {
+    importPath(typedPath(typed.trimmed()));
+}
+
+void DataController::importPath(const QString& path) {
+    m_underWay = m_controller.backup().read(path, [this](const Result<Archive, QString>& read) {
         if (read)
             askToUse(*read);
         else

@@ -44,7 +44,12 @@ Item {
                 colors: page.colors
                 settings: page.settings
                 setting: "export"
-                PushButton { colors: page.colors; text: qsTr("Export"); onClicked: page.controller.exportNow() }
+                PushButton {
+                    colors: page.colors
+                    text: page.settings.files.isAvailable ? qsTr("Export…") : qsTr("Export")
+                    isEnabled: !page.settings.files.isOpen
+                    onClicked: page.controller.exportFor(this)
+                }
             }
             CatalogRow {
                 colors: page.colors
@@ -53,10 +58,8 @@ Item {
                 PushButton {
                     colors: page.colors
                     text: qsTr("Import…")
-                    onClicked: {
-                        page.isImporting = true
-                        path.forceActiveFocus(Qt.TabFocusReason)
-                    }
+                    isEnabled: !page.settings.files.isOpen
+                    onClicked: page.controller.importFor(this)
                 }
             }
         }
@@ -111,6 +114,13 @@ Item {
         onDropped: drop => {
             if (drop.urls.length === 1)
                 page.importFrom(drop.urls[0].toString())
+        }
+    }
+    Connections {
+        target: page.controller
+        function onPathWanted() {
+            page.isImporting = true
+            path.forceActiveFocus(Qt.TabFocusReason)
         }
     }
     Connections {

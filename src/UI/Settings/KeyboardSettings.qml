@@ -15,16 +15,17 @@ Column {
 
     Component.onCompleted: keyboard.retry() // another program may have let go of one
 
-    component ShortcutRow: CatalogRow {
-        id: shortcutRow
+    component KeysRow: CatalogRow {
         colors: page.colors
         settings: page.settings
+        problem: page.keyboard.states[setting].problem
+    }
+    component ShortcutRow: KeysRow {
+        id: shortcutRow
         ShortcutField { colors: page.colors; name: shortcutRow.label; setting: shortcutRow.setting; keyboard: page.keyboard }
     }
-    component DigitsRow: CatalogRow {
+    component DigitsRow: KeysRow {
         id: digitsRow
-        colors: page.colors
-        settings: page.settings
         Choice {
             readonly property var choices: page.keyboard.choices
             colors: page.colors
@@ -33,13 +34,6 @@ Column {
             current: choices.findIndex(choice => choice.modifiers === page.settings.preferences[digitsRow.setting])
             onChosen: index => page.settings.preferences[digitsRow.setting] = choices[index].modifiers
         }
-    }
-    component Problem: StateLine {
-        property string setting
-        colors: page.colors
-        problem: page.keyboard.states[setting].problem
-        well: ""
-        visible: problem !== ""
     }
 
     SettingsGroup {
@@ -50,10 +44,6 @@ Column {
         DigitsRow { setting: "modeModifiers" }
         DigitsRow { setting: "appModifiers" }
     }
-    Problem { setting: "focusShortcut" }
-    Problem { setting: "dockShortcut" }
-    Problem { setting: "modeModifiers" }
-    Problem { setting: "appModifiers" }
     Label {
         anchors { left: parent.left; leftMargin: 18 }
         width: parent.width - 36

@@ -21,7 +21,7 @@ Column {
         required property string name
         required property string symbol
         required property color tint
-        required property string shortcut
+        required property string hotKey
         required property int appCount
         required property int siteCount
         readonly property string counts: qsTr("%n application(s)", "", appCount) + ", " + qsTr("%n web site(s)", "", siteCount)
@@ -77,13 +77,13 @@ Column {
             anchors { right: arrow.left; rightMargin: 10; verticalCenter: parent.verticalCenter }
             colors: pane.colors
             color: pane.colors.secondaryText
-            text: row.shortcut
+            text: row.hotKey
             Accessible.ignored: true
         }
         Symbol {
             id: arrow
             anchors { right: parent.right; rightMargin: 18; verticalCenter: parent.verticalCenter }
-            name: LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
+            name: "chevron.right"
             size: Math.round(14 * pane.scaling)
             color: pane.colors.secondaryText
         }

@@ -69,7 +69,7 @@ FocusScope {
         onPressed: menu.close()
         onWheel: menu.close()
     }
-    Shadow { caster: frame; casterRadius: 12 }
+    Shadow { caster: frame; casterRadius: 12; opacity: 0.35 }
     Rectangle {
         id: frame
         radius: 12

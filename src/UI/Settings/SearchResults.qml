@@ -19,15 +19,11 @@ Column {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Search results")
 
-    Label {
+    Nothing {
         colors: page.colors
-        color: page.colors.secondaryText
-        width: parent.width
+        topPadding: 80
         visible: repeater.count === 0
         text: qsTr("Nothing here is called “%1”. Perhaps in other words?").arg(page.query.trim())
-        wrapMode: Text.Wrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
     SettingsGroup {
         colors: page.colors
@@ -99,7 +95,12 @@ Column {
                     name: "chevron.right"
                     size: Math.round(16 * Theme.textScale)
                     color: page.colors.secondaryText
-                    mirror: found.LayoutMirroring.enabled
+                }
+                Rectangle {
+                    anchors { left: words.left; right: parent.right; top: parent.top }
+                    height: 1
+                    color: page.colors.line
+                    visible: found.index > 0
                 }
                 FocusRing { target: found; targetRadius: Theme.radius; gap: -3 }
                 HoverHandler { id: hover; cursorShape: Qt.PointingHandCursor }

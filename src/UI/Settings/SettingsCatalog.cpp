@@ -82,9 +82,8 @@ constexpr auto rows = std::to_array<Row>({
      QT_TRANSLATE_NOOP("SettingsCatalog", "What Fendrel remembers of applications and sites, for you to correct."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "judgement verdict forget memory correction")},
     {"export", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Export"),
-     QT_TRANSLATE_NOOP(
-         "SettingsCatalog",
-         "Writes modes, settings and learned answers to a file in your documents, without keys of accounts."),
+     QT_TRANSLATE_NOOP("SettingsCatalog",
+                       "Writes modes, settings and learned answers to a file, without keys of accounts."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "backup save file move computer")},
     {"import", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Import"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Replaces yours by those of such a file. You are asked first."),

@@ -11,17 +11,17 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 SettingsController::SettingsController(AppController& controller, AppIcons& icons, Capabilities& capabilities)
-    : m_controller(controller), m_icons(icons), m_capabilities(capabilities) {
+    : m_controller(controller),
+      m_icons(icons),
+      m_capabilities(capabilities),
+      m_files(*controller.platform().fileChooser) {
     connect(&controller.preferences(), &Preferences::changed, this, &SettingsController::looksChanged);
     connect(&controller.classifier(), &Classifier::changed, this, &SettingsController::stateChanged);
     connect(&controller.messages(), &HeldMessages::changed, this, &SettingsController::stateChanged);
     connect(&controller.replacement(), &DockReplacement::changed, this, &SettingsController::dockChanged);
-    controller.platform().loginItem->onChanged = [this] { Q_EMIT stateChanged(); };
 }
 
-SettingsController::~SettingsController() {
-    m_controller.platform().loginItem->onChanged = [] {};
-}
+SettingsController::~SettingsController() = default;
 
 Preferences* SettingsController::preferences() {
     return &m_controller.preferences();
@@ -61,7 +61,7 @@ PermissionsModel* SettingsController::permissions() {
 
 AboutController* SettingsController::about() {
     if (!m_about)
-        m_about = std::make_unique<AboutController>(m_controller, m_capabilities);
+        m_about = std::make_unique<AboutController>(m_controller, m_capabilities, m_files);
     return m_about.get();
 }
 
@@ -73,7 +73,7 @@ AnswersController* SettingsController::answers() {
 
 DataController* SettingsController::backup() {
     if (!m_backup)
-        m_backup = std::make_unique<DataController>(m_controller);
+        m_backup = std::make_unique<DataController>(m_controller, m_files);
     return m_backup.get();
 }
 

@@ -6,6 +6,7 @@
 #include "UI/Settings/AccountsController.h"
 #include "UI/Settings/AnswersController.h"
 #include "UI/Settings/DataController.h"
+#include "UI/Settings/FileAsking.h"
 #include "UI/Settings/KeyboardController.h"
 #include "UI/Settings/LookEditor.h"
 #include "UI/Settings/WidgetsController.h"
@@ -38,6 +39,7 @@ class SettingsController : public QObject {
     Q_PROPERTY(fendrel::AboutController* about READ about CONSTANT)
     Q_PROPERTY(fendrel::AnswersController* answers READ answers CONSTANT)
     Q_PROPERTY(fendrel::DataController* backup READ backup CONSTANT)
+    Q_PROPERTY(fendrel::FileAsking* files READ files CONSTANT)
     Q_PROPERTY(fendrel::AccountsController* accounts READ accounts CONSTANT)
     Q_PROPERTY(fendrel::WidgetsController* widgets READ widgets CONSTANT)
     Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
@@ -62,6 +64,7 @@ public:
     AboutController* about();
     AnswersController* answers();
     DataController* backup();
+    FileAsking* files() { return &m_files; }
     AccountsController* accounts();
     WidgetsController* widgets();
     bool isDark() const;
@@ -92,6 +95,7 @@ private:
     AppController& m_controller;
     AppIcons& m_icons;
     Capabilities& m_capabilities;
+    FileAsking m_files;
     QString m_pane{QStringLiteral("general")};
     bool m_isShowingAnswers{false};
     std::unique_ptr<ModesController> m_modes; ///< made when it is asked for first

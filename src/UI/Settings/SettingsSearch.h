@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/Settings/SettingsCatalog.h"
+#include "UI/WordSearch.h"
 
 #include <QObject>
 #include <QVariantList>
@@ -8,12 +9,9 @@
 
 namespace fendrel {
 
-/// The entries in which every word of the query begins some word, whatever its case and accents; those with it in
-/// their labels first. A query without words finds nothing.
+/// The entries in which every word of the query begins some word, whatever its case and accents; those that are called
+/// so first, then those with it in their labels. A query without words finds nothing.
 QList<SettingEntry> findSettings(const QList<SettingEntry>& entries, const QString& query);
-
-/// The text for a view that shows styled text, with the words that the query finds in bold.
-QString markedText(const QString& text, const QString& query);
 
 /// A search over all settings, for the settings window.
 class SettingsSearch : public QObject {

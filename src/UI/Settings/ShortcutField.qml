@@ -15,12 +15,14 @@ FocusScope {
     readonly property var current: keyboard.states[setting]
     property bool isRecording: false
     property var heldCaps: []
-    property bool isRefused: false // what was pressed can be no hot key
+    property string remark: "" // what was wrong with what was pressed
+    readonly property string words: isRecording ? remark === "" ? qsTr("Press the keys…") : remark
+                                                : current.words === "" ? qsTr("None") : current.words
 
     function begin() {
         forceActiveFocus(Qt.TabFocusReason)
         heldCaps = []
-        isRefused = false
+        remark = ""
         isRecording = true
         keyboard.startRecording()
     }
@@ -32,6 +34,7 @@ FocusScope {
     }
     function take(event: var) {
         event.accepted = true
+        remark = ""
         heldCaps = keyboard.heldCaps(event.modifiers | modifierOf(event.key))
         const isBare = (event.modifiers & ~Qt.KeypadModifier) === 0
         if (event.key === Qt.Key_Escape && isBare) {
@@ -40,9 +43,10 @@ FocusScope {
             keyboard.clear(setting)
             end()
         } else if (modifierOf(event.key) === 0) {
-            isRefused = !keyboard.record(setting, event.modifiers, event.nativeScanCode)
-            if (!isRefused)
+            if (keyboard.record(setting, event.modifiers, event.nativeScanCode))
                 end()
+            else
+                remark = qsTr("Hold Control, Alt or Super with it")
         }
     }
     // Events tell of the modifiers from before.
@@ -52,13 +56,13 @@ FocusScope {
     }
 
     implicitWidth: Math.max(170 * Theme.textScale, content.implicitWidth + 24 + (clearButton.visible ? clearButton.width + 6 : 0))
-    implicitHeight: Math.max(40, Math.ceil(hint.implicitHeight) + 20)
+    implicitHeight: Theme.controlHeight(hint.implicitHeight)
     activeFocusOnTab: true
     onActiveFocusChanged: if (!activeFocus) end()
     Component.onDestruction: end()
 
     Accessible.role: Accessible.Button
-    Accessible.name: name + ": " + (isRecording ? qsTr("Press the keys") : current.words === "" ? qsTr("none") : current.words)
+    Accessible.name: name + ": " + words
     Accessible.description: isRecording ? qsTr("Escape leaves it as it was, Backspace turns it off.") : qsTr("Press to choose other keys.")
     Accessible.focusable: true
     Accessible.onPressAction: begin()
@@ -77,7 +81,12 @@ FocusScope {
     }
     Keys.onReleased: event => {
         event.accepted = isRecording
-        heldCaps = isRecording ? keyboard.heldCaps(event.modifiers & ~modifierOf(event.key)) : []
+        if (!isRecording)
+            return
+        heldCaps = keyboard.heldCaps(event.modifiers & ~modifierOf(event.key))
+        // A combination that another program holds goes to that one alone: we see no more than its modifiers.
+        if (heldCaps.length === 0 && modifierOf(event.key) !== 0 && remark === "")
+            remark = qsTr("Another program may have these keys")
     }
 
     Rectangle {
@@ -103,7 +112,7 @@ FocusScope {
                     id: cap
                     required property string modelData
                     width: Math.max(height, Math.ceil(label.implicitWidth) + 12)
-                    height: Math.ceil(label.implicitHeight) + 8
+                    height: Math.ceil(label.implicitHeight) + 6
                     radius: Theme.radiusSmall
                     color: field.colors.card
                     border.width: 1
@@ -123,8 +132,8 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: content.caps.length === 0
                 colors: field.colors
-                color: field.isRefused && field.isRecording ? field.colors.warning : field.colors.secondaryText
-                text: !field.isRecording ? qsTr("None") : field.isRefused ? qsTr("Hold Control, Alt or Super with it") : qsTr("Press the keys…")
+                color: field.isRecording && field.remark !== "" ? field.colors.warning : field.colors.secondaryText
+                text: field.words
                 Accessible.ignored: true
             }
         }
@@ -134,9 +143,9 @@ FocusScope {
 
     Item {
         id: clearButton
-        anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
-        width: 28
-        height: 28
+        anchors { right: parent.right; rightMargin: 5; verticalCenter: parent.verticalCenter }
+        width: Math.round(26 * Math.max(1, Theme.textScale))
+        height: width
         visible: !field.isRecording && field.current.caps.length > 0
         Accessible.role: Accessible.Button
         Accessible.name: qsTr("Turn off: %1").arg(field.name)
@@ -146,7 +155,7 @@ FocusScope {
             radius: width / 2
             color: clearHover.hovered ? field.colors.pressed : "transparent"
         }
-        Symbol { anchors.centerIn: parent; name: "xmark"; size: 14; color: field.colors.secondaryText }
+        Symbol { anchors.centerIn: parent; name: "xmark"; size: Math.round(14 * Theme.textScale); color: field.colors.secondaryText }
         HoverHandler { id: clearHover }
         TapHandler {
             gesturePolicy: TapHandler.WithinBounds

@@ -2,8 +2,6 @@
 
 #include "App/AppController.h"
 
-#include <algorithm>
-
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
@@ -11,7 +9,7 @@ using namespace Qt::StringLiterals;
 WidgetsController::WidgetsController(AppController& controller) : m_controller(controller) {
     const QMetaEnum categories = QMetaEnum::fromType<WidgetCategory>();
     for (int index = 0; index < categories.keyCount(); ++index)
-        m_groups.push_back(std::make_unique<WidgetGroup>(static_cast<WidgetCategory>(categories.value(index))));
+        m_groups.push_back(std::make_unique<WidgetsModel>(static_cast<WidgetCategory>(categories.value(index))));
     for (const auto& group : m_groups)
         group->setParent(this); // else views would think that they own it
     connect(&controller.engine(), &ModeEngine::changed, this, &WidgetsController::refresh);
@@ -43,7 +41,7 @@ QColor WidgetsController::modeTint() const {
 }
 
 void WidgetsController::search(const QString& words) {
-    m_words = words.split(u' ', Qt::SkipEmptyParts);
+    m_words = words;
     refresh();
 }
 
@@ -56,43 +54,24 @@ void WidgetsController::choose(const QString& widgetID, bool on) {
 }
 
 void WidgetsController::refresh() {
-    for (const auto& group : m_groups) {
-        QList<WidgetGroup::Row> rows;
-        for (const DockWidgetKind& kind : dockWidgetKinds()) {
-            if (kind.category != group->category())
-                continue;
-            const WidgetGroup::Row wanted = row(kind);
-            const QString text =
-                QStringList{wanted.title, wanted.detail, group->title(), wanted.modeNames, wanted.account}.join(u' ');
-            if (std::ranges::all_of(m_words,
-                                    [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }))
-                rows.append(wanted);
-        }
-        group->show(rows);
-    }
+    for (const auto& group : m_groups)
+        group->show(m_controller.engine().current().widgets, m_words, [this](auto& row) { complete(row); });
     Q_EMIT changed();
 }
 
-WidgetGroup::Row WidgetsController::row(const DockWidgetKind& kind) const {
-    WidgetGroup::Row row{.id = kind.id(),
-                         .title = kind.title(),
-                         .detail = kind.detail(),
-                         .symbol = kind.symbol,
-                         .accent = QColor::fromRgb(kind.accent)};
-    const ModeEngine& engine = m_controller.engine();
+void WidgetsController::complete(WidgetsModel::Row& row) const {
     QStringList names;
-    for (const Mode& mode : engine.modes()) {
+    for (const Mode& mode : m_controller.engine().modes()) {
         if (!mode.widgets.contains(row.id))
             continue;
         names.append(mode.name);
         row.modes.append(QVariantMap{{u"name"_s, mode.name}, {u"tint"_s, color(mode.tint)}});
     }
     row.modeNames = names.join(QStringLiteral(", "));
-    row.isChosen = engine.current().widgets.contains(row.id);
 
     QStringList connected;
     QStringList possible;
-    for (const auto service : WidgetAccounts::usedBy(kind.widget)) {
+    for (const auto service : WidgetAccounts::usedBy(*enumValue<DockWidget>(row.id))) {
         const QString& name = WidgetAccounts::description(service).name;
         possible.append(name);
         if (m_controller.accounts().connected().contains(service))
@@ -106,7 +85,6 @@ WidgetGroup::Row WidgetsController::row(const DockWidgetKind& kind) const {
         row.account = possible.size() > 1
                           ? tr("Needs an account of one of these: %1").arg(possible.join(QStringLiteral(", ")))
                           : tr("Needs an account of %1").arg(possible.first());
-    return row;
 }
 
 } // namespace fendrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/Settings/WidgetGroup.h"
+#include "UI/Modes/WidgetsModel.h"
 
 #include <memory>
 #include <vector>
@@ -14,7 +14,7 @@ class WidgetsController : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
-    Q_PROPERTY(QVariantList groups READ groups CONSTANT) ///< WidgetGroup
+    Q_PROPERTY(QVariantList groups READ groups CONSTANT) ///< WidgetsModel
     Q_PROPERTY(int found READ found NOTIFY changed)      ///< in all of them
     Q_PROPERTY(QString modeName READ modeName NOTIFY changed)
     Q_PROPERTY(QColor modeTint READ modeTint NOTIFY changed)
@@ -35,11 +35,11 @@ Q_SIGNALS:
 
 private:
     void refresh();
-    WidgetGroup::Row row(const DockWidgetKind& kind) const;
+    void complete(WidgetsModel::Row& row) const;
 
     AppController& m_controller;
-    std::vector<std::unique_ptr<WidgetGroup>> m_groups;
-    QStringList m_words;
+    std::vector<std::unique_ptr<WidgetsModel>> m_groups;
+    QString m_words;
 };
 
 } // namespace fendrel

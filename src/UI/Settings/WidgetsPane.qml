@@ -15,6 +15,7 @@ Column {
 
     StateLine {
         colors: page.colors
+        margin: 0
         problem: qsTr("The dock doesn't draw widgets yet. What is chosen here is kept for then.")
         well: ""
     }
@@ -54,7 +55,7 @@ Column {
         model: page.widgets.groups
         SettingsGroup {
             id: group
-            required property WidgetGroup modelData
+            required property WidgetsModel modelData
             colors: page.colors
             title: modelData.title
             visible: modelData.count > 0
@@ -67,14 +68,10 @@ Column {
             }
         }
     }
-    Label {
+    Nothing {
         colors: page.colors
-        color: page.colors.secondaryText
-        width: parent.width
+        topPadding: 60
         visible: page.widgets.found === 0
         text: qsTr("No widget is called that. Perhaps in other words?")
-        wrapMode: Text.Wrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
 }

@@ -109,7 +109,7 @@ Item {
         radius: 12
         color: card.isChosen ? card.mode.tint : "transparent"
         border.width: card.isChosen ? 0 : 1.5
-        border.color: card.colors.line
+        border.color: card.colors.control
         Symbol {
             anchors.centerIn: parent
             visible: card.isChosen

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/Capabilities.h"
+#include "UI/RowRoles.h"
 
 #include <QAbstractListModel>
 #include <QVariantList>
@@ -28,8 +29,8 @@ public:
     PermissionsModel(AppController& controller, AppIcons& icons, Capabilities& capabilities, Shows shows);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QVariant data(const QModelIndex& index, int role) const override { return m_roles.value(m_rows, index, role); }
+    QHash<int, QByteArray> roleNames() const override { return m_roles.names(); }
     int count() const { return rowCount(); }
     bool hasConnection() const;
 
@@ -60,12 +61,22 @@ private:
     void describe(Row& row, const Capability& capability) const;
     void describeBrowser(Row& row, const Capability& capability);
     void sync();
-    static QString actionLabel(const QString& action);
+    QString installedBrowser() const; ///< one that Fendrel can talk to; empty: none
+    static QVariantList labelled(const Row& row);
 
     AppController& m_controller;
     AppIcons& m_icons;
     Capabilities& m_capabilities;
     Shows m_shows;
+    const RowRoles<Row> m_roles{{"rowID", &Row::id},
+                                {"title", &Row::title},
+                                {"help", &Row::help},
+                                {"standing", &Row::state},
+                                {"stateLabel", &Row::stateLabel},
+                                {"reason", &Row::reason},
+                                {"remedy", &Row::remedy},
+                                {"icon", &Row::icon},
+                                {"actions", labelled}};
     QList<Row> m_rows;
     Handle m_unlocking;
 };

@@ -14,7 +14,7 @@ FocusScope {
     readonly property real room: (parent as SettingSlot)?.room ?? implicitWidth
     readonly property bool isStacked: implicitWidth > room
     readonly property bool isMirrored: LayoutMirroring.enabled
-    readonly property real lineHeight: Math.ceil(metrics.height) + 12
+    readonly property real lineHeight: Theme.controlHeight(metrics.height) - 2 * inset
     readonly property int inset: 2
 
     // Measured bold, as the chosen one is drawn: the others would move when one is chosen.
@@ -80,7 +80,7 @@ FocusScope {
                 Rectangle {
                     anchors.fill: parent
                     radius: 7
-                    color: segment.isCurrent ? choice.colors.card : hover.hovered ? choice.colors.hover : "transparent"
+                    color: segment.isCurrent ? choice.colors.raised : hover.hovered ? choice.colors.hover : "transparent"
                     border.width: segment.isCurrent ? 1 : 0
                     border.color: choice.colors.line
                     Behavior on color { ColorAnimation { duration: Theme.quick } }

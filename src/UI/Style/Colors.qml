@@ -15,6 +15,9 @@ QtObject {
     readonly property color line: isStrong ? (isDark ? "#b3ffffff" : "#b3000000") : isDark ? "#1fffffff" : "#1a000000"
     readonly property color hover: isStrong ? (isDark ? "#33ffffff" : "#24000000") : isDark ? "#14ffffff" : "#0d000000"
     readonly property color pressed: isStrong ? (isDark ? "#59ffffff" : "#47000000") : isDark ? "#24ffffff" : "#1a000000"
+    // What tells a control from what lies below it, with a contrast of 3.
+    readonly property color control: isStrong ? text : isDark ? "#777982" : "#8c8e96"
+    readonly property color raised: isDark ? "#5f616b" : card // the one of several that is chosen
     readonly property color field: isDark ? "#1f2025" : "#f3f4f6"
     readonly property color accent: "#1f6fe5"
     readonly property color grave: isDark ? "#ff7b6e" : "#c8281e" // what loses something

@@ -19,7 +19,7 @@ FocusScope {
 
     function selectAll() { input.selectAll() }
 
-    implicitHeight: Math.max(40, Math.ceil(input.implicitHeight) + 20)
+    implicitHeight: Theme.controlHeight(input.implicitHeight)
     implicitWidth: 240 * Math.max(1, Theme.textScale)
     width: Math.min(implicitWidth, (parent as SettingSlot)?.room ?? implicitWidth)
     activeFocusOnTab: true

@@ -19,10 +19,10 @@ Item {
                                    + (detail === "" ? 0 : Math.ceil(detailText.implicitWidth) + content.spacing)
 
     implicitWidth: Math.ceil(caption.implicitWidth) + beside + 2 * padding
-    implicitHeight: Math.max(40, Math.ceil(caption.implicitHeight) + 20)
+    implicitHeight: Theme.controlHeight(caption.implicitHeight)
     width: Math.min(implicitWidth, (parent as SettingSlot)?.room ?? implicitWidth)
     opacity: isEnabled ? 1 : 0.45
-    activeFocusOnTab: isEnabled
+    activeFocusOnTab: isEnabled || activeFocus // what has the keyboard keeps its place
 
     readonly property color foreground: isFilled ? colors.onTint(tint) : colors.text
 

@@ -7,6 +7,7 @@ Item {
     required property Colors colors
     required property string label
     required property string help
+    property string problem: "" // takes the place of the help
     property string setting: "" // by which a search leads here
     default property alias control: slot.data
 
@@ -19,7 +20,7 @@ Item {
     height: implicitHeight
     Accessible.role: Accessible.Grouping
     Accessible.name: label
-    Accessible.description: help
+    Accessible.description: problem === "" ? help : problem
 
     // Shows where a search has led.
     function glow() {
@@ -57,8 +58,8 @@ Item {
         }
         Label {
             colors: row.colors
-            color: row.colors.secondaryText
-            text: row.help
+            color: row.problem === "" ? row.colors.secondaryText : row.colors.warning
+            text: row.problem === "" ? row.help : row.problem
             visible: text !== ""
             font.pixelSize: Theme.textHelp
             wrapMode: Text.Wrap

@@ -14,6 +14,8 @@ Image {
         return digits.length === 6 ? "ff" + digits : digits
     }
 
+    // What points along a line of text points the other way where lines run from right to left.
+    mirror: LayoutMirroring.enabled && /^(arrow|chevron)\.(left|right|uturn\.backward)$/.test(name)
     width: size
     height: size
     sourceSize { width: size * 2; height: size * 2 }

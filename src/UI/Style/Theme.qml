@@ -24,6 +24,9 @@ QtObject {
     readonly property int title: Math.round(20 * textScale)
     readonly property int headline: Math.round(26 * textScale)
 
+    // Buttons, fields and choices in a row have one height.
+    function controlHeight(textHeight: real): int { return Math.max(34, Math.ceil(textHeight) + 18) }
+
     readonly property int quick: reducesMotion ? 0 : 110
     readonly property int normal: reducesMotion ? 0 : 190
     readonly property int slow: reducesMotion ? 0 : 320

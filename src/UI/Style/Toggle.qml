@@ -31,21 +31,19 @@ Item {
         anchors.fill: parent
         radius: height / 2
         color: toggle.isOn ? hover.hovered ? Qt.lighter(toggle.colors.accent, 1.08) : toggle.colors.accent
-             : hover.hovered ? toggle.colors.faded(toggle.colors.text, 0.22) : toggle.colors.pressed
+             : hover.hovered ? toggle.colors.hover : "transparent"
         border.width: toggle.isOn ? 0 : 1
-        border.color: toggle.colors.line
+        border.color: toggle.colors.control
         Behavior on color { ColorAnimation { duration: Theme.quick } }
     }
     Rectangle {
-        readonly property int inset: 3
+        readonly property int inset: 4
         width: height
         height: parent.height - 2 * inset
         radius: height / 2
         y: inset
         x: toggle.isAtEnd ? parent.width - width - inset : inset
-        color: "white"
-        border.width: 1
-        border.color: "#14000000"
+        color: toggle.isOn ? "white" : toggle.colors.control
         Behavior on x { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
     }
 

@@ -44,10 +44,6 @@
         <translation>Geschrieben nach %1</translation>
     </message>
     <message>
-        <source>A file for whoever helps you, in your documents. It has versions, settings and the log, but no titles, sites, applications, modes, words, addresses or keys.</source>
-        <translation>Eine Datei in deinen Dokumenten für alle, die dir helfen. Sie enthält Versionen, Einstellungen und das Protokoll, aber keine Titel, Websites, Programme, Modi, Wörter, Adressen oder Schlüssel.</translation>
-    </message>
-    <message>
         <source>Make a Bundle…</source>
         <translation>Paket erstellen …</translation>
     </message>
@@ -78,6 +74,10 @@
     <message>
         <source>License of %1</source>
         <translation>Lizenz von %1</translation>
+    </message>
+    <message>
+        <source>A file for whoever helps you. It has versions, settings and the log, but no titles, sites, applications, modes, words, addresses or keys.</source>
+        <translation>Eine Datei für alle, die dir helfen. Sie enthält Versionen, Einstellungen und das Protokoll, aber keine Titel, Seiten, Programme, Modi, Wörter, Adressen oder Schlüssel.</translation>
     </message>
 </context>
 <context>
@@ -539,6 +539,10 @@
     <message>
         <source>Undo Import</source>
         <translation>Import rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
     </message>
 </context>
 <context>
@@ -1157,6 +1161,61 @@
     </message>
 </context>
 <context>
+    <name>Feed</name>
+    <message>
+        <source>Pick your city</source>
+        <translation>Wähle deine Stadt</translation>
+    </message>
+    <message>
+        <source>Can&apos;t reach Open-Meteo</source>
+        <translation>Open-Meteo ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>GitHub didn&apos;t accept the token</source>
+        <translation>GitHub hat das Token nicht angenommen</translation>
+    </message>
+    <message>
+        <source>GitHub sent no data</source>
+        <translation>GitHub hat keine Daten geschickt</translation>
+    </message>
+    <message>
+        <source>No Sentry organization</source>
+        <translation>Keine Organisation bei Sentry</translation>
+    </message>
+    <message>
+        <source>Bad Sentry address</source>
+        <translation>Ungültige Adresse von Sentry</translation>
+    </message>
+    <message>
+        <source>Linear sent no data</source>
+        <translation>Linear hat keine Daten geschickt</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t load %1</source>
+        <translation>%1 konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Bad date</source>
+        <translation>Ungültiges Datum</translation>
+    </message>
+    <message>
+        <source>%1 sent something unexpected</source>
+        <translation>%1 hat etwas Unerwartetes geschickt</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t reach %1</source>
+        <translation>%1 ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>%1 didn&apos;t accept the key</source>
+        <translation>%1 hat den Schlüssel nicht angenommen</translation>
+    </message>
+    <message>
+        <source>%1 answered %2</source>
+        <translation>%1 hat mit %2 geantwortet</translation>
+    </message>
+</context>
+<context>
     <name>FirstRunView</name>
     <message>
         <source>Start</source>
@@ -1771,6 +1830,13 @@
     </message>
 </context>
 <context>
+    <name>MomentText</name>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Gestern, %1</translation>
+    </message>
+</context>
+<context>
     <name>Notifications</name>
     <message>
         <source>Fendrel can&apos;t reach the session bus, so it doesn&apos;t see notifications (%1).</source>
@@ -2050,10 +2116,6 @@
     <message>
         <source>Export</source>
         <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>Writes modes, settings and learned answers to a file in your documents, without keys of accounts.</source>
-        <translation>Schreibt Modi, Einstellungen und gelernte Antworten in eine Datei in deinen Dokumenten, ohne Schlüssel von Konten.</translation>
     </message>
     <message>
         <source>backup save file move computer</source>
@@ -2383,6 +2445,10 @@
         <source>No other dock or panel runs that Fendrel could hide. Minimized windows and the Trash come to the dock all the same.</source>
         <translation>Es läuft kein anderes Dock oder Panel, das Fendrel ausblenden könnte. Minimierte Fenster und der Papierkorb kommen trotzdem ins Dock.</translation>
     </message>
+    <message>
+        <source>Writes modes, settings and learned answers to a file, without keys of accounts.</source>
+        <translation>Schreibt Modi, Einstellungen und gelernte Antworten in eine Datei, ohne die Schlüssel der Konten.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -2393,14 +2459,6 @@
 </context>
 <context>
     <name>ShortcutField</name>
-    <message>
-        <source>Press the keys</source>
-        <translation>Tasten drücken</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
     <message>
         <source>Escape leaves it as it was, Backspace turns it off.</source>
         <translation>Escape lässt es, wie es war, Backspace schaltet es aus.</translation>
@@ -2424,6 +2482,10 @@
     <message>
         <source>Turn off: %1</source>
         <translation>Ausschalten: %1</translation>
+    </message>
+    <message>
+        <source>Another program may have these keys</source>
+        <translation>Diese Tasten hat vielleicht ein anderes Programm</translation>
     </message>
 </context>
 <context>
@@ -2791,10 +2853,6 @@
         <translation>Masken, theater, drama, schauspiel</translation>
     </message>
     <message>
-        <source>Note, music, song, compose</source>
-        <translation>Note, musik, lied, komponieren</translation>
-    </message>
-    <message>
         <source>Headphones, listen, music, podcast, audio</source>
         <translation>Kopfhörer, hören, musik, podcast, audio</translation>
     </message>
@@ -2990,6 +3048,10 @@
         <source>Warning, danger, incident, emergency</source>
         <translation>Warnung, gefahr, störung, notfall</translation>
     </message>
+    <message>
+        <source>Musical note, music, song, compose</source>
+        <translation>Musiknote, Musik, Lied, komponieren</translation>
+    </message>
 </context>
 <context>
     <name>SymbolPicker</name>
@@ -3074,6 +3136,73 @@
     </message>
 </context>
 <context>
+    <name>Weather</name>
+    <message>
+        <source>Clear</source>
+        <translation>Klar</translation>
+    </message>
+    <message>
+        <source>Mostly clear</source>
+        <translation>Überwiegend klar</translation>
+    </message>
+    <message>
+        <source>Partly cloudy</source>
+        <translation>Teils bewölkt</translation>
+    </message>
+    <message>
+        <source>Fog</source>
+        <translation>Nebel</translation>
+    </message>
+    <message>
+        <source>Drizzle</source>
+        <translation>Nieselregen</translation>
+    </message>
+    <message>
+        <source>Freezing rain</source>
+        <translation>Gefrierender Regen</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>Regen</translation>
+    </message>
+    <message>
+        <source>Heavy rain</source>
+        <translation>Starker Regen</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Schnee</translation>
+    </message>
+    <message>
+        <source>Heavy snow</source>
+        <translation>Starker Schneefall</translation>
+    </message>
+    <message>
+        <source>Showers</source>
+        <translation>Schauer</translation>
+    </message>
+    <message>
+        <source>Heavy showers</source>
+        <translation>Starke Schauer</translation>
+    </message>
+    <message>
+        <source>Snow showers</source>
+        <translation>Schneeschauer</translation>
+    </message>
+    <message>
+        <source>Thunderstorm</source>
+        <translation>Gewitter</translation>
+    </message>
+    <message>
+        <source>Storm with hail</source>
+        <translation>Gewitter mit Hagel</translation>
+    </message>
+    <message>
+        <source>Cloudy</source>
+        <translation>Bewölkt</translation>
+    </message>
+</context>
+<context>
     <name>WidgetRow</name>
     <message>
         <source>In %1</source>
@@ -3150,6 +3279,14 @@
     <message>
         <source>Crash reports</source>
         <translation>Absturzberichte</translation>
+    </message>
+    <message>
+        <source>Save the Diagnostic Bundle</source>
+        <translation>Diagnosepaket sichern</translation>
+    </message>
+    <message>
+        <source>It isn&apos;t on this computer, or its name can&apos;t be read.</source>
+        <translation>Sie liegt nicht auf diesem Computer, oder ihr Name ist nicht lesbar.</translation>
     </message>
 </context>
 <context>
@@ -3291,10 +3428,6 @@
     <message>
         <source>Fendrel is unsure</source>
         <translation>Fendrel ist unsicher</translation>
-    </message>
-    <message>
-        <source>Today, %1</source>
-        <translation>Heute, %1</translation>
     </message>
 </context>
 <context>
@@ -3451,6 +3584,26 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <source>Everything is as it was before the import.</source>
         <translation>Alles ist wie vor dem Import.</translation>
     </message>
+    <message>
+        <source>Fendrel backups</source>
+        <translation>Sicherungen von Fendrel</translation>
+    </message>
+    <message>
+        <source>This file can&apos;t be used: it isn&apos;t on this computer, or its name can&apos;t be read.</source>
+        <translation>Diese Datei ist nicht verwendbar: Sie liegt nicht auf diesem Computer, oder ihr Name ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Export Modes, Settings and Answers</source>
+        <translation>Modi, Einstellungen und Antworten exportieren</translation>
+    </message>
+    <message>
+        <source>Import a Backup</source>
+        <translation>Sicherung importieren</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
 </context>
 <context>
     <name>fendrel::Dependencies</name>
@@ -3525,6 +3678,10 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>which key a hot key is</source>
         <translation>welche Taste ein Tastenkürzel ist</translation>
+    </message>
+    <message>
+        <source>amounts of money</source>
+        <translation>Geldbeträge</translation>
     </message>
 </context>
 <context>
@@ -3607,10 +3764,6 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>No mode</source>
         <translation>Kein Modus</translation>
-    </message>
-    <message>
-        <source>Yesterday, %1</source>
-        <translation>Gestern, %1</translation>
     </message>
 </context>
 <context>
@@ -4013,10 +4166,6 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Aus</translation>
     </message>
     <message>
-        <source>Turn on compositing in the desktop&apos;s settings, or start a compositor such as picom.</source>
-        <translation>Schalte Compositing in den Einstellungen der Arbeitsfläche ein oder starte einen Compositor wie picom.</translation>
-    </message>
-    <message>
         <source>Calendar</source>
         <translation>Kalender</translation>
     </message>
@@ -4037,8 +4186,40 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Schalte das Ersetzen des Docks aus und wieder ein.</translation>
     </message>
     <message>
-        <source>Fendrel can&apos;t read calendars yet. That comes with the widgets.</source>
-        <translation>Fendrel kann noch keine Kalender lesen. Das kommt mit den Widgets.</translation>
+        <source>Open Calendar</source>
+        <translation>Kalender öffnen</translation>
+    </message>
+    <message>
+        <source>Desktop Settings</source>
+        <translation>Desktop-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Copy the command, run it in a terminal, and start %1 again. The extension then stays.</source>
+        <translation>Kopiere den Befehl, führe ihn in einem Terminal aus und starte %1 neu. Die Erweiterung bleibt dann erhalten.</translation>
+    </message>
+    <message>
+        <source>Add a tray for them to the panel.</source>
+        <translation>Füge der Leiste einen Bereich dafür hinzu.</translation>
+    </message>
+    <message>
+        <source>The command installs what shows them.</source>
+        <translation>Der Befehl installiert, was sie anzeigt.</translation>
+    </message>
+    <message>
+        <source>Turn on compositing in the desktop&apos;s settings.</source>
+        <translation>Schalte in den Einstellungen des Desktops den Compositor ein.</translation>
+    </message>
+    <message>
+        <source>Turn on compositing in your window manager, or start a compositor such as picom.</source>
+        <translation>Schalte in der Fensterverwaltung den Compositor ein, oder starte einen, etwa picom.</translation>
+    </message>
+    <message>
+        <source>Fendrel can&apos;t read calendars yet. That comes with the widgets, from the calendar of your desktop.</source>
+        <translation>Fendrel kann noch keine Kalender lesen. Das kommt mit den Widgets, aus dem Kalender deines Desktops.</translation>
+    </message>
+    <message>
+        <source>You have no calendar program so far; the command installs one.</source>
+        <translation>Du hast noch kein Kalenderprogramm; der Befehl installiert eines.</translation>
     </message>
 </context>
 <context>

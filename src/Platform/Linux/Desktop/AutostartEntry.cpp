@@ -41,6 +41,7 @@ AutostartEntry::AutostartEntry(QString folder, const QStringList& others, QStrin
         m_others.append(other + fileName);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &AutostartEntry::look);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &AutostartEntry::look);
+    look();
 }
 
 QString AutostartEntry::standardFolder() {
@@ -54,59 +55,53 @@ QStringList AutostartEntry::otherFolders() {
     return folders;
 }
 
-bool AutostartEntry::isOn() const {
-    if (!m_isOn) {
-        watch();
-        m_isOn = read();
-    }
-    return *m_isOn;
-}
-
 void AutostartEntry::set(bool on) {
-    isOn(); // watches from now on
-    m_disk.post(u"autostart"_s, [self = QPointer(this), on, path = m_path, others = m_others, program = m_program] {
+    ask(u"autostart"_s, [on, path = m_path, others = m_others, program = m_program] {
         using autostartFile::Change;
         const Change change = autostartFile::change(on, content(path), firstContent(others), program);
         if (change.kind == Change::Kind::write)
             JsonFile::write(path, change.content);
         else if (change.kind == Change::Kind::remove && !QFile::remove(path))
             qCWarning(logDesktop).noquote() << path << "cannot be removed";
-        // It may have failed.
-        QMetaObject::invokeMethod(qApp, [self] {
-            if (self)
-                self->look();
-        });
     });
     if (std::exchange(m_isOn, on) != on)
         onChanged();
 }
 
 void AutostartEntry::look() {
-    watch();
-    const bool isOnNow = read();
-    if (std::exchange(m_isOn, isOnNow) != isOnNow)
-        onChanged();
+    ask({}, [] {});
 }
 
-/// The folder tells of files that come and go, a file of what is written into it.
-void AutostartEntry::watch() const {
+void AutostartEntry::ask(const QString& key, const std::function<void()>& change) {
+    m_disk.post(key, [self = QPointer(this), change, question = ++m_lastQuestion, path = m_path, others = m_others] {
+        change();
+        // The folder tells of files that come and go, a file of what is written into it.
+        Found found{.isOn = autostartFile::starts(content(path), firstContent(others)),
+                    .watched = {watchable(path.section(u'/', 0, -2))}};
+        if (QFile::exists(path))
+            found.watched.append(path);
+        QMetaObject::invokeMethod(qApp, [self, question, found] {
+            if (self && question == self->m_lastQuestion)
+                self->take(found);
+        });
+    });
+}
+
+void AutostartEntry::take(const Found& found) {
     const QStringList before = m_watcher.directories() + m_watcher.files();
-    const QString folder = watchable(m_path.section(u'/', 0, -2));
-    QStringList wanted{folder};
-    if (QFile::exists(m_path))
-        wanted.append(m_path);
+    bool isNew = false;
     for (const QString& path : before) {
-        if (!wanted.contains(path))
+        if (!found.watched.contains(path))
             m_watcher.removePath(path);
     }
-    for (const QString& path : std::as_const(wanted)) {
+    for (const QString& path : found.watched) {
         if (!before.contains(path))
-            m_watcher.addPath(path);
+            isNew |= m_watcher.addPath(path);
     }
-}
-
-bool AutostartEntry::read() const {
-    return autostartFile::starts(content(m_path), firstContent(m_others));
+    if (isNew)
+        look(); // it may have changed before it was watched
+    if (std::exchange(m_isOn, found.isOn) != found.isOn)
+        onChanged();
 }
 
 } // namespace fendrel

@@ -8,12 +8,12 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
+#include <functional>
 
 namespace fendrel {
 
-/// Start at log-in by an entry in the folder where desktops look for such. The files are looked at when somebody asks
-/// for the first time, and watched from then on.
+/// Start at log-in by an entry in the folder where desktops look for such. The files are watched, and read and written
+/// on the disk worker: until that has answered for the first time, the entry counts as off.
 class AutostartEntry : public QObject, public LoginItem {
     Q_OBJECT
 public:
@@ -23,20 +23,27 @@ public:
     static QString standardFolder();
     static QStringList otherFolders();
 
-    bool isOn() const override;
+    bool isOn() const override { return m_isOn; }
     void set(bool on) override;
 
 private:
+    struct Found {
+        bool isOn{};
+        QStringList watched{}; ///< what tells of a change
+    };
+
     void look();
-    void watch() const;
-    bool read() const;
+    /// Looks after `change`, which may fail. The key is the disk worker's.
+    void ask(const QString& key, const std::function<void()>& change);
+    void take(const Found& found);
 
     QString m_path;
     QStringList m_others; ///< paths of everybody's files
     QString m_program;
     Worker& m_disk;
-    mutable QFileSystemWatcher m_watcher;
-    mutable std::optional<bool> m_isOn; ///< nothing while nobody has asked
+    QFileSystemWatcher m_watcher;
+    bool m_isOn = false;
+    int m_lastQuestion = 0; ///< answers to earlier ones are out of date
 };
 
 } // namespace fendrel
