@@ -55,6 +55,13 @@ Capability pointer(const CapabilityFacts& facts) {
                   facts.isPointerHeld ? QString() : Capabilities::tr("The pointer can't be held right now."));
 }
 
+Capability calendar(const CapabilityFacts& facts) {
+    Capability capability{.id = u"calendar"_s};
+    if (facts.remedies)
+        capability.state = facts.remedies->value(capability.id).page.isEmpty() ? State::absent : State::works;
+    return capability;
+}
+
 QString taken(const QStringList& hotKeys) {
     if (hotKeys.isEmpty())
         return {};
@@ -93,7 +100,11 @@ QList<Capability> capabilities(const CapabilityFacts& facts) {
                 pointer(facts),
                 {.id = u"statusArea"_s, .state = facts.hasStatusArea ? State::works : State::absent},
                 {.id = u"transparency"_s, .state = facts.hasTransparency ? State::works : State::missing},
-                {.id = u"calendar"_s, .state = State::absent}});
+                calendar(facts)});
+    if (facts.remedies) {
+        for (Capability& capability : all)
+            capability.remedy = facts.remedies->value(capability.id);
+    }
     return all;
 }
 
@@ -109,7 +120,7 @@ Capabilities::Capabilities(AppController& controller) : m_controller(controller)
     connect(&controller.replacement(), &DockReplacement::changed, this, &Capabilities::gather);
     connect(&controller, &AppController::surroundingsChanged, this, &Capabilities::gather);
     // A browser that is started for the first time has its folder from now on.
-    connect(&controller.workspace(), &Workspace::runningChanged, this, &Capabilities::lookForBrowsers);
+    connect(&controller.workspace(), &Workspace::runningChanged, this, &Capabilities::look);
     connect(&controller.hotKeys(), &HotKeyRegistry::changed, this, &Capabilities::gather);
 }
 
@@ -124,18 +135,20 @@ void Capabilities::refresh() {
         m_keyring = stateOf(secret);
         gather();
     });
-    lookForBrowsers();
+    look();
 }
 
-void Capabilities::lookForBrowsers() {
+void Capabilities::look() {
     if (!m_worker)
         return;
-    m_worker->post(u"browsers"_s, [this, browsers = m_controller.platform().browsers]() mutable {
+    const Platform& platform = m_controller.platform();
+    m_worker->post(u"look"_s, [this, browsers = platform.browsers, &remedies = *platform.remedies]() mutable {
         browsers.removeIf([](const BrowserHome& home) { return !QFileInfo(home.data).isDir(); });
         QMetaObject::invokeMethod(
             this,
-            [this, browsers] {
+            [this, browsers, found = remedies.find()] {
                 m_usedBrowsers = browsers;
+                m_remedies = found;
                 gather();
             },
             Qt::QueuedConnection);
@@ -157,7 +170,8 @@ void Capabilities::gather() {
                                    .isPointerHeld = !wantsPointerHeld || platform.pointerGuard->isRunning(),
                                    .takenHotKeys = takenHotKeys(),
                                    .hasStatusArea = platform.statusArea->isAvailable(),
-                                   .hasTransparency = platform.panels->hasTransparency()});
+                                   .hasTransparency = platform.panels->hasTransparency(),
+                                   .remedies = m_remedies});
     if (all == m_all)
         return;
     m_all = all;

@@ -30,8 +30,9 @@ public:
     State state{};
     QString reason{};                     ///< for the user: why it does not work
     std::optional<BrowserHome> browser{}; ///< of the ones that stand for a browser, which the id names too
+    Remedy remedy{};                      ///< how to get it here
     bool operator==(const Capability& other) const {
-        return id == other.id && state == other.state && reason == other.reason;
+        return id == other.id && state == other.state && reason == other.reason && remedy == other.remedy;
     }
 };
 
@@ -54,6 +55,7 @@ struct CapabilityFacts {
     QStringList takenHotKeys{}; ///< wanted, but another program's, or no keys of this keyboard
     bool hasStatusArea{};
     bool hasTransparency{};
+    std::optional<QHash<QString, Remedy>> remedies{}; ///< nothing before the first look
 };
 
 /// In the order in which they are shown.
@@ -67,7 +69,8 @@ public:
     explicit Capabilities(AppController& controller);
 
     const QList<Capability>& all() const { return m_all; }
-    /// Asks again what does not tell by itself: the keyring, which browsers were used, and hot keys that were refused.
+    /// Asks again what does not tell by itself: the keyring, which browsers were used, what is installed, and
+    /// hot keys that were refused.
     void refresh();
 
 Q_SIGNALS:
@@ -75,7 +78,7 @@ Q_SIGNALS:
 
 private:
     void gather();
-    void lookForBrowsers();
+    void look(); ///< at the disk
     QStringList takenHotKeys() const;
     QList<CapabilityFacts::Browser> browsers() const;
 
@@ -84,6 +87,7 @@ private:
     bool m_readsTitles = false;
     CapabilityFacts::Keyring m_keyring{};
     QList<BrowserHome> m_usedBrowsers;
+    std::optional<QHash<QString, Remedy>> m_remedies;
     Handle m_reading;
     std::unique_ptr<Worker> m_worker; ///< the last: nothing it posts arrives once it has ended
 };

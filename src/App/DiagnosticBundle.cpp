@@ -27,7 +27,8 @@ std::optional<QString> writeArchive(const QMap<QString, QByteArray>& files, cons
             return out.errorString();
     }
     QProcess tar;
-    tar.start(u"tar"_s, {u"-cz"_s, u"-C"_s, work.path(), name});
+    // It would name the user beside each file.
+    tar.start(u"tar"_s, {u"-cz"_s, u"--owner=0"_s, u"--group=0"_s, u"--numeric-owner"_s, u"-C"_s, work.path(), name});
     if (!tar.waitForFinished())
         return tar.errorString();
     if (tar.exitStatus() != QProcess::NormalExit || tar.exitCode() != 0)

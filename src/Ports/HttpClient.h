@@ -45,8 +45,8 @@ public:
     virtual Handle send(const HttpRequest& request, Done done) = 0;
 
     /// Whether the system knows of a network. True where it cannot tell.
-    virtual bool isOnline() const { return true; }
-    virtual Handle onOnlineChanged(std::function<void()>) { return {}; }
+    virtual bool isOnline() const = 0;
+    virtual Handle onOnlineChanged(std::function<void()> run) = 0;
 };
 
 } // namespace fendrel

@@ -57,6 +57,10 @@ private Q_SLOTS:
         QVERIFY(tar.waitForFinished());
         const QString content = QString::fromUtf8(tar.readAllStandardOutput());
 
+        tar.start(u"tar"_s, {u"-tvzf"_s, archive});
+        QVERIFY(tar.waitForFinished());
+        QVERIFY(tar.readLine().contains(" 0/0 ")); // not the user's name
+
         for (const QString& text : planted + QStringList{QDir::homePath()})
             QVERIFY2(!content.contains(text, Qt::CaseInsensitive), qPrintable(text));
         // What is left is still of use.

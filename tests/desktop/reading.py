@@ -51,7 +51,10 @@ class Reader:
                 raise Failed(f"expected in {window!r}: {name!r} {more}; there are\n{shown}")
 
     def click(self, window, name, **more):
-        x, y, width, height = self.find(window, name, **more)["space"]
+        space = None
+        while space != (space := self.find(window, name, **more)["space"]):
+            pass  # what stands above it may still come or go
+        x, y, width, height = space
         xdotool("mousemove", str(x + width // 2), str(y + height // 2), "click", "1")
 
     def focused(self, label):

@@ -6,11 +6,13 @@ import contextlib
 import json
 import os
 import pathlib
+import re
 import signal
 import subprocess
 import sys
 import xml.etree.ElementTree as tree
 
+from demo_parts import reader
 from demo_parts.screen import DESKTOP, Screen
 from demo_parts.watch import Failed, Watch
 
@@ -37,56 +39,78 @@ class Typed(str):
     """Typed as it is."""
 
 
+class At(str):
+    """Waits until the keyboard is at what is called so in English."""
+
+
+class Popup(str):
+    """Waits for a window of this English title that only the screen tells of."""
+
+
 def found(label):
     """Leads the keyboard to a setting's control."""
-    return ("ctrl+f", Words(label), "Return")
+    return ("ctrl+f", Words(label), "Return", At(label))
+
 
 ANSWERS = (*found("Learned answers"), "Return")
 GENERAL, DOCK, LOOK, WIDGETS, ACCOUNTS = (("settings", "open", pane)
                                           for pane in ("general", "dock", "appearance", "widgets", "accounts"))
 WRITING = ("modes", "open", "writing")
 END = object()  # what is not in sight at first
-# By name: what opens the window, what is pressed and typed in it, and what leads back beyond closing it.
+# By name: what opens the window, what is pressed and typed in it, what leads back beyond closing it, and what the picture
+# is to show, in English.
 VIEWS = {
-    "general": (GENERAL, (), ()),
-    "general-end": (GENERAL, (END,), ()),
-    "dock": (DOCK, (), ()),
-    "appearance": (LOOK, (), ()),
-    "appearance-end": (LOOK, (END,), ()),
-    "color-picker": (LOOK, (*found("Color"), *["Down"] * 10), ()),
-    "widgets": (WIDGETS, (), ()),
-    "widgets-end": (WIDGETS, (END,), ()),
-    "widgets-none": (WIDGETS, ("Tab",) * 10 + (Typed("xyzzy"),), ()),
-    "modes": (("settings", "open", "modes"), (), ()),
-    "accounts": (ACCOUNTS, (), ()),
-    "permissions": (("settings", "open", "permissions"), (), ()),
-    "permissions-end": (("settings", "open", "permissions"), (END,), ()),
-    "about": (("settings", "open", "about"), (), ()),
-    "about-end": (("settings", "open", "about"), (END,), ()),
-    "search": (GENERAL, ("ctrl+f", Words("Dock")), ("Escape",)),
-    "search-none": (GENERAL, ("ctrl+f", Typed("xyzzy")), ("Escape",)),
-    "search-led": (GENERAL, found("Magnification"), ()),
-    "hot-key": (GENERAL, (*found("Start or stop focus"), "Return"), ("Escape",)),
-    "hot-key-refused": (GENERAL, (*found("Start or stop focus"), "Return", "a"), ("Escape",)),
-    "hot-key-taken": (GENERAL, (*found("Start or stop focus"), "Return", "alt+1"), ()),
-    "import": (GENERAL, (*found("Import"), "Return"), ("Escape",)),
-    "import-failed": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("nowhere.json"), "Return"), ()),
-    "import-asked": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("~/backup.json"), "Return"), ("Escape",)),
-    "reset": (DOCK, ("shift+Tab", "Return"), ("Escape",)),
-    "answers": (GENERAL, ANSWERS, ("Escape",)),
-    "answers-found": (GENERAL, (*ANSWERS, Typed("chat")), ("Escape",)),
-    "answers-none": (GENERAL, (*ANSWERS, Typed("xyzzy")), ("Escape",)),
-    "answers-menu": (GENERAL, (*ANSWERS, "Down", "Down", "Return"), ("Escape", "Escape")),
-    "answers-forget": (GENERAL, (*ANSWERS, "shift+Tab", "shift+Tab", "Return"), ("Escape", "Escape")),
-    "modes-window": (WRITING, (), ()),
-    "modes-window-end": (WRITING, (END,), ()),
-    "mode-templates": (WRITING, ("ctrl+n",), ("Escape",)),
-    "mode-symbols": (WRITING, ("Tab",) * 4 + ("Return",), ("Escape",)),
-    "mode-symbols-none": (WRITING, ("Tab",) * 4 + ("Return", Typed("xyzzy")), ("Escape",)),
-    "mode-apps": (WRITING, ("Tab",) * 5 + ("Return",), ("Escape",)),
-    "mode-deleted": (WRITING, ("Delete",), ("ctrl+z",)),
-    "menu": (("dock", "focus"), ("End", "Menu"), ("Escape",)),
+    "general": (GENERAL, (), (), "Strictness"),
+    "general-end": (GENERAL, (END,), (), "Learned answers"),
+    "dock": (DOCK, (), (), "Position"),
+    "appearance": (LOOK, (), (), "Icon size"),
+    "appearance-end": (LOOK, (END,), (), "Border"),
+    "color-picker": (LOOK, (*found("Color"), *["Down"] * 10), (), "Hue"),
+    "widgets": (WIDGETS, (), (), "Search widgets"),
+    "widgets-end": (WIDGETS, (END,), (), "Batteries"),
+    "widgets-none": (WIDGETS, ("Tab",) * 10 + (Typed("xyzzy"),), (),
+                     "No widget is called that. Perhaps in other words?"),
+    "modes": (("settings", "open", "modes"), (), (), "Edit Modes…"),
+    "accounts": (ACCOUNTS, (), (),
+                 "Some widgets show what a service knows about you, and need a key for it. "
+                 "Keys are kept in your keyring and nowhere else."),
+    "permissions": (("settings", "open", "permissions"), (), (),
+                    "What Fendrel makes use of on this computer. It works without any one of these, only with less."),
+    "permissions-end": (("settings", "open", "permissions"), (END,), (), "Calendar"),
+    "about": (("settings", "open", "about"), (), (), "Your data stays here"),
+    "about-end": (("settings", "open", "about"), (END,), (), "License of %1"),
+    "search": (GENERAL, ("ctrl+f", Words("Dock")), ("Escape",), "Search results"),
+    "search-none": (GENERAL, ("ctrl+f", Typed("xyzzy")), ("Escape",),
+                    "Nothing here is called “%1”. Perhaps in other words?"),
+    "search-led": (GENERAL, found("Magnification"), (), "Magnification"),
+    "hot-key": (GENERAL, (*found("Start or stop focus"), "Return"), ("Escape",), "Press the keys…"),
+    "hot-key-refused": (GENERAL, (*found("Start or stop focus"), "Return", "a"), ("Escape",),
+                        "Hold Control, Alt or Super with it"),
+    "hot-key-taken": (GENERAL, (*found("Start or stop focus"), "Return", "alt+1"), (),
+                      "This combination switches to mode %1."),
+    "import": (GENERAL, (*found("Import"), "Return"), ("Escape",), "File to import"),
+    "import-failed": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("nowhere.json"), "Return"), (),
+                      "“%1” could not be opened."),
+    "import-asked": (GENERAL, (*found("Import"), "Return", "ctrl+a", Typed("~/backup.json"), "Return"), ("Escape",),
+                     "Import this backup?"),
+    "reset": (DOCK, ("shift+Tab", "Return"), ("Escape",), "Reset the settings of “%1”?"),
+    "answers": (GENERAL, ANSWERS, ("Escape",), "Forget All…"),
+    "answers-found": (GENERAL, (*ANSWERS, Typed("chat")), ("Escape",), "%1 of %2"),
+    "answers-none": (GENERAL, (*ANSWERS, Typed("xyzzy")), ("Escape",), "No answer fits."),
+    "answers-menu": (GENERAL, (*ANSWERS, "Down", "Down", "Return", At("Mode of %1")), ("Escape", "Escape"), "No mode"),
+    "answers-forget": (GENERAL, (*ANSWERS, "shift+Tab", "shift+Tab", "Return"), ("Escape", "Escape"),
+                       "Forget all learned answers?"),
+    "modes-window": (WRITING, (), (), "What the dock and the menus call this mode."),
+    "modes-window-end": (WRITING, (END,), (), "Delete this mode"),
+    "mode-templates": (WRITING, ("ctrl+n",), ("Escape",), "New mode from"),
+    "mode-symbols": (WRITING, ("Tab",) * 4 + ("Return",), ("Escape",), "Symbols"),
+    "mode-symbols-none": (WRITING, ("Tab",) * 4 + ("Return", Typed("xyzzy")), ("Escape",), "No symbol is found"),
+    "mode-apps": (WRITING, ("Tab",) * 5 + ("Return",), ("Escape",), "Installed applications"),
+    "mode-deleted": (WRITING, ("Delete",), ("ctrl+z",), "Deleted %1."),
+    "menu": (("dock", "focus"), ("End", "Menu", Popup("Fendrel menu")), ("Escape",), "Start a focus session"),
 }
+# The settings that views leave changed, by their names.
+CHANGED = {"color-picker": "appearance", "hot-key-taken": "focusShortcut"}
 
 
 class WindowsGallery:
@@ -94,6 +118,7 @@ class WindowsGallery:
         self.programs, self.screen = programs, screen
         self.log = open(screen.folder / "fendrel.log", "w+")
         self.home = pathlib.Path.home()
+        self.reader = reader.Reader()
 
     def play(self, looks, views):
         for look in looks:
@@ -119,8 +144,9 @@ class WindowsGallery:
 
     @contextlib.contextmanager
     def running(self, arguments, environment):
-        process = subprocess.Popen([self.programs / "fendrel", *arguments], env=os.environ | environment,
+        process = subprocess.Popen([self.programs / "fendrel", *arguments], env=os.environ | reader.ENVIRONMENT | environment,
                                    stdout=self.log, stderr=self.log)
+        self.process = process.pid
         watch = Watch(str(self.programs / "fendrelctl"), lambda text: None)
         watch.open(process, seconds=20)
         yield watch
@@ -133,6 +159,7 @@ class WindowsGallery:
 
     def first_run(self, watch):
         for page in range(1, PAGES + 1):
+            self.reader.expect_shown(self.process, self.said("Page %1 of %2", page, PAGES))
             self.picture(f"first-run-{page}")
             self.screen.press("Return")
         watch.expect("the first run over", lambda state: state["onboarding"]["done"])
@@ -153,21 +180,33 @@ class WindowsGallery:
         file.write_text(json.dumps(backup))
         watch.do("import", str(file))
 
-    def view(self, name, watch, opening, steps, ways_back):
+    def said(self, text, *values):
+        """What it is in the user's language; values that are not given can be any."""
+        text = self.texts.get(text, text)
+        for number, value in enumerate(values, 1):
+            text = text.replace(f"%{number}", str(value))
+        return re.compile(re.sub("%[1-9n]", ".*", re.escape(text)))
+
+    def view(self, name, watch, opening, steps, ways_back, shown):
         watch.do(*opening)
         self.screen.settle()
         for step in steps:
             self.take(step)
+        self.reader.expect_shown(self.process, self.said(shown))
         self.picture(name)
         for key in (*ways_back, "Escape"):
             self.screen.press(key)
         self.screen.settle()
-        if opening == LOOK:
-            watch.do("settings", "reset", "appearance")
+        if name in CHANGED:
+            watch.do("settings", "reset", CHANGED[name])
 
     def take(self, step):
         if step is END:
             self.screen.scroll_down()
+        elif isinstance(step, Popup):
+            self.screen.wait_shown(re.sub(r"[^ -~]", ".+", self.texts.get(step, step)))  # xdotool finds no umlauts
+        elif isinstance(step, At):
+            self.reader.expect_keyboard(self.process, self.said(step))
         elif isinstance(step, (Words, Typed)):
             self.screen.type(self.texts.get(step, step) if isinstance(step, Words) else step)
         else:
@@ -185,13 +224,13 @@ class WindowsGallery:
                    "/org/freedesktop/secrets", "--method"]
         subprocess.run(["gdbus", "wait", "--session", "--timeout", "10", "org.freedesktop.secrets"], check=True)
         subprocess.run([str(self.programs / "fendrelctl"), "account", "set", "github"], input="a key", text=True, check=True)
-        self.view("accounts-field", watch, ACCOUNTS, ("Tab",) * 11 + ("Return",), ("Escape",))
+        self.view("accounts-field", watch, ACCOUNTS, ("Tab",) * 11 + ("Return",), ("Escape",), "Key of %1")
         keyring.send_signal(signal.SIGSTOP)
-        self.view("accounts-asked", watch, ACCOUNTS, ("Tab",) * 11 + ("Return", Typed("another"), "Return"), ())
+        self.view("accounts-asked", watch, ACCOUNTS, ("Tab",) * 11 + ("Return", Typed("another"), "Return"), (), "Asking the keyring…")
         keyring.send_signal(signal.SIGCONT)
         subprocess.run([*secrets, "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']"],
                        check=True, stdout=subprocess.DEVNULL)
-        self.view("accounts-locked", watch, ACCOUNTS, (), ())
+        self.view("accounts-locked", watch, ACCOUNTS, (), (), "Keyring locked")
         keyring.terminate()
         keyring.wait()
 

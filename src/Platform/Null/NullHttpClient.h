@@ -15,6 +15,8 @@ public:
                 {.kind = HttpError::Kind::unreachable, .detail = QStringLiteral("there is no network")}));
         });
     }
+    bool isOnline() const override { return false; }
+    Handle onOnlineChanged(std::function<void()>) override { return {}; }
 };
 
 } // namespace fendrel

@@ -6,9 +6,8 @@ namespace fendrel {
 
 class NullRemedies final : public Remedies {
 public:
-    bool hasPage(const QString&) const override { return false; }
-    void openPage(const QString&) override {}
-    QString command(const QString&) const override { return {}; }
+    QHash<QString, Remedy> find() const override { return {}; }
+    void open(const QStringList&) override {}
 };
 
 } // namespace fendrel

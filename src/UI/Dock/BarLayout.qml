@@ -1,4 +1,5 @@
 import QtQuick
+import Fendrel.Style
 
 // How a bar fits its display. Icons shrink first, as long as that costs them little; then the verdict's words, then icons
 // as far as they go; then the pills, which lose their names; what still does not fit scrolls, the applications before the
@@ -21,6 +22,9 @@ QtObject {
     readonly property int iconRoom: 6       // that an application's place is longer than its icon
     readonly property int startOfOthers: 17 // before the first application that is not the mode's
 
+    // They grow with the text, as long as the bar does not get deeper for it.
+    readonly property int fullPillSize: Math.max(36, Math.min(Math.round(36 * Theme.textScale), fullIconSize))
+
     readonly property int leastIconSize: Math.ceil(fullIconSize * 0.6)
     readonly property real leastApps: Math.min(appCount, 4) * (leastIconSize + iconRoom)
 
@@ -28,8 +32,8 @@ QtObject {
     readonly property int easyIconSize: Math.min(fullIconSize, 40) // down to which words keep their room
 
     // As if there were four applications at least: else the bar's depth would change with the second or third.
-    readonly property bool isCompact: free - steady - leastWordsRoom - pillsLength(36, nameLength) < Math.max(leastApps, 4 * (leastIconSize + iconRoom))
-    readonly property int pillSize: isCompact ? 30 : 36
+    readonly property bool isCompact: free - steady - leastWordsRoom - pillsLength(fullPillSize, nameLength) < Math.max(leastApps, 4 * (leastIconSize + iconRoom))
+    readonly property int pillSize: isCompact ? Math.round(fullPillSize * 5 / 6) : fullPillSize
 
     // For the applications and the words.
     readonly property real shared: free - steady - pillsLength(pillSize, isCompact ? 0 : nameLength) - startOfOthers

@@ -9,13 +9,14 @@ DockItem {
 
     required property FocusController focusState
     required property color tint
+    property int size: 36
 
     tipText: focusState.budgetText
     readonly property real share: focusState.budgetLeft
     readonly property color ringColor: share <= 0 ? colors.warning : tint
 
-    implicitWidth: 30
-    implicitHeight: 36
+    implicitWidth: Math.round(size * 5 / 6)
+    implicitHeight: size
     visible: focusState.hasBudget
 
     isButton: false
@@ -31,6 +32,7 @@ DockItem {
         anchors.centerIn: parent
         width: 26
         height: 26
+        scale: meter.size / 36
 
         ShapePath {
             strokeColor: meter.colors.pressed

@@ -42,7 +42,7 @@ FocusScope {
         room: (root.isVertical ? root.height : root.width) - 2 * root.margin - 2 * root.padding
         steady: appsSeparator + end.steady
         current: appsSeparator + end.current
-        fullWordsRoom: root.isVertical ? 0 : Math.min(150, Math.round(root.width / 9))
+        fullWordsRoom: root.isVertical ? 0 : Math.min(Math.round(150 * Math.max(1, Theme.textScale)), Math.round(root.width / 9))
         modeCount: modes.count
         nameLength: modes.longestName
         appCount: apps.count + end.tileCount

@@ -50,6 +50,7 @@ Line {
         isVertical: section.isVertical
         verdict: section.verdict
         wordsRoom: section.layout.wordsRoom
+        size: section.layout.fullPillSize
         onPressed: section.menus.correct(chip)
     }
 
@@ -60,6 +61,7 @@ Line {
         isVertical: section.isVertical
         focusState: section.focusState
         tint: section.dock.tint
+        size: section.layout.fullPillSize
         onPressed: section.menus.chooseFocus(focusButton)
         onMenuAsked: section.menus.showMainMenu(focusButton)
     }
@@ -71,6 +73,7 @@ Line {
         isVertical: section.isVertical
         focusState: section.focusState
         tint: section.dock.tint
+        size: section.layout.fullPillSize
     }
 
     TrashTile {

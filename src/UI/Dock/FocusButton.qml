@@ -9,14 +9,16 @@ DockItem {
 
     required property FocusController focusState
     required property color tint
+    property int size: 36
+    readonly property real scaling: size / 36
 
     readonly property bool isTimed: focusState.isOn && focusState.remaining !== ""
     readonly property color foreground: focusState.isOn ? colors.onTint(tint) : colors.text
     readonly property string text: !focusState.isOn ? qsTr("Focus") : focusState.remaining === "" ? qsTr("Focused") : focusState.remaining
 
     // In steps, so that a minute less moves nothing.
-    implicitWidth: isVertical ? 36 : Math.ceil((content.implicitWidth + 24) / 12) * 12
-    implicitHeight: isVertical && isTimed ? 48 : 36
+    implicitWidth: isVertical ? size : Math.ceil((content.implicitWidth + 24) / 12) * 12
+    implicitHeight: isVertical && isTimed ? Math.round(48 * scaling) : size
     tipText: !focusState.isOn ? qsTr("Start a focus session")
            : isTimed ? qsTr("Focus session, %1 left, until %2").arg(focusState.remaining).arg(focusState.endTime)
            : qsTr("Focus session, until you end it")
@@ -24,7 +26,7 @@ DockItem {
     Accessible.role: Accessible.Button
     Accessible.name: tipText
 
-    readonly property real longest: isVertical ? 48 : 132 // with hours and minutes left
+    readonly property real longest: isVertical ? Math.round(48 * scaling) : Math.round(132 * Math.max(1, Theme.textScale)) // with hours and minutes left
 
     width: implicitWidth
     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
@@ -49,18 +51,21 @@ DockItem {
         verticalItemAlignment: Grid.AlignVCenter
 
         Item {
-            width: 19
-            height: 19
+            width: Math.round(19 * button.scaling)
+            height: width
             Symbol {
                 anchors.centerIn: parent
                 visible: !button.isTimed
                 name: "scope"
-                size: 19
+                size: parent.width
                 color: button.foreground
             }
             // What is left, as on the dial of a kitchen timer.
             Shape {
-                anchors.fill: parent
+                anchors.centerIn: parent
+                width: 19
+                height: 19
+                scale: parent.width / width
                 visible: button.isTimed
                 ShapePath {
                     strokeColor: button.colors.faded(button.foreground, 0.3)

@@ -79,7 +79,7 @@ DockItem {
 
         Symbol {
             name: pill.symbol
-            size: 19
+            size: Math.round(pill.size * (pill.isCompact ? 19 / 30 : 19 / 36))
             color: pill.foreground
             visible: !(pill.isPending && pill.isBare)
             anchors.verticalCenter: parent.verticalCenter

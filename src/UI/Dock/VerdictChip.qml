@@ -8,11 +8,13 @@ DockItem {
 
     required property VerdictController verdict
     property real wordsRoom: 150 // pixels; longer words are cut
+    property int size: 36
+    readonly property real textScale: Math.min(Theme.textScale, (size - 4) / 28) // two lines fit
 
-    implicitWidth: isVertical ? 36 : lengthWith(words.width)
-    readonly property real frame: isVertical ? 36 : lengthWith(0) // without the words
+    implicitWidth: isVertical ? size : lengthWith(words.width)
+    readonly property real frame: isVertical ? size : lengthWith(0) // without the words
     function lengthWith(text: real): real { return 12 + 9 + 9 + text + 14 }
-    implicitHeight: 36
+    implicitHeight: size
     visible: verdict.isShown
 
     tipText: isVertical ? words.first + " · " + said + ". " + help : help
@@ -69,7 +71,7 @@ DockItem {
             colors: chip.colors
             text: words.first
             width: parent.width
-            font.pixelSize: 12
+            font.pixelSize: Math.round(12 * chip.textScale)
             font.weight: Font.DemiBold
         }
         Row {
@@ -79,14 +81,14 @@ DockItem {
                 color: chip.verdict.isElsewhere ? chip.colors.tintText(chip.verdict.tint) : chip.colors.secondaryText
                 text: words.second
                 width: Math.min(Math.ceil(implicitWidth), words.width - sureness.width)
-                font.pixelSize: Theme.textSmall
+                font.pixelSize: Math.round(11 * chip.textScale)
             }
             Label {
                 id: sureness
                 colors: chip.colors
                 color: chip.colors.secondaryText
                 text: chip.verdict.certainty === "" ? "" : " · " + chip.verdict.certainty
-                font.pixelSize: Theme.textSmall
+                font.pixelSize: Math.round(11 * chip.textScale)
             }
         }
     }

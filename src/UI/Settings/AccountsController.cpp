@@ -151,7 +151,15 @@ QString AccountsController::remedyAction() const {
     const auto problem = keyringProblem();
     if (!problem)
         return {};
-    return *problem == Problem::locked ? tr("Unlock…") : tr("Try Again");
+    switch (*problem) {
+    case Problem::missing:
+        return tr("Show Permissions");
+    case Problem::locked:
+        return tr("Unlock…");
+    case Problem::failed:
+        return tr("Try Again");
+    }
+    return {};
 }
 
 void AccountsController::look() {
@@ -159,8 +167,11 @@ void AccountsController::look() {
 }
 
 void AccountsController::runRemedy() {
-    if (keyringProblem() == Problem::locked)
+    const auto problem = keyringProblem();
+    if (problem == Problem::locked)
         m_accounts.unlock();
+    else if (problem == Problem::missing)
+        m_controller.onShowSettings(u"permissions"_s); // it says how to get one
     else
         look();
 }

@@ -7,6 +7,7 @@ Item {
 
     required property Colors colors
     required property bool isWide // there is room for columns
+    required property int judgementWidth
     required property string key
     required property string name
     required property string what
@@ -30,7 +31,7 @@ Item {
     signal menuWanted(from: Item)
     signal forgotten()
 
-    implicitHeight: Math.max(icons.height, words.height, mode.height) + 20
+    implicitHeight: Math.max(icons.height, words.height, isWide ? judgement.height : 0, mode.height) + 20
     Accessible.role: Accessible.ListItem
     Accessible.name: together([name, what, shownMode, judged, date], ", ")
     Accessible.description: qsTr("Return changes the mode, Delete forgets the answer.")
@@ -104,7 +105,7 @@ Item {
     Column {
         id: judgement
         anchors { right: mode.left; rightMargin: 16; verticalCenter: parent.verticalCenter }
-        width: Math.round(160 * Theme.textScale)
+        width: row.judgementWidth
         spacing: 1
         visible: row.isWide
         Label {
@@ -113,6 +114,7 @@ Item {
             color: row.colors.secondaryText
             text: row.judged
             font.pixelSize: Theme.textHelp
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         Label {
@@ -122,6 +124,7 @@ Item {
             text: row.date
             visible: text !== ""
             font.pixelSize: Theme.textHelp
+            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
     }

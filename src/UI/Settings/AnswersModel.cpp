@@ -35,6 +35,16 @@ QString judgedText(const Verdict& verdict) {
 
 } // namespace
 
+QStringList AnswersModel::judgements() {
+    QStringList texts;
+    for (const Source source : {Source::you, Source::rule, Source::model}) {
+        for (const Certainty certainty : {Certainty::certain, Certainty::likely, Certainty::unsure})
+            texts.append(judgedText({.certainty = certainty, .source = source}));
+    }
+    texts.removeDuplicates();
+    return texts;
+}
+
 AnswersModel::AnswersModel(AppController& controller, AppIcons& icons) : m_controller(controller), m_icons(icons) {
     connect(&controller.classifier(), &Classifier::answerChanged, this, &AnswersModel::readOne);
     connect(&controller.classifier(), &Classifier::answersReplaced, this, &AnswersModel::readAll);

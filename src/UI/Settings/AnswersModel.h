@@ -19,6 +19,7 @@ class AnswersModel : public QAbstractListModel {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(int count READ rowCountOf NOTIFY countChanged)
+    Q_PROPERTY(QStringList judgements READ judgements CONSTANT) ///< all that `judged` can be
 
 public:
     struct Filter {
@@ -38,6 +39,7 @@ public:
     void show(const Filter& filter);
     QString nameOf(const QString& key) const;
     bool isApp(const QString& key) const; ///< or else a site
+    static QStringList judgements();
 
 Q_SIGNALS:
     void countChanged();

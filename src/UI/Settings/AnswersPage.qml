@@ -12,7 +12,8 @@ FocusScope {
     signal closed()
 
     readonly property var choices: controller.choices
-    readonly property bool isWide: width > 660 * Theme.textScale
+    readonly property int judgementWidth: Math.ceil(Math.max(...controller.answers.judgements.map(text => judgementFont.advanceWidth(text)))) + 2
+    readonly property bool isWide: width > 520 * Theme.textScale + judgementWidth
     readonly property int margin: width < 640 * Theme.textScale ? 16 : 32
     readonly property var sources: [{ name: qsTr("From anyone") }, { name: qsTr("From Fendrel") }, { name: qsTr("From you") }]
     property int mode: 0 // of the filter, after "all"
@@ -119,6 +120,7 @@ FocusScope {
                 width: list.width
                 colors: page.colors
                 isWide: page.isWide
+                judgementWidth: page.judgementWidth
                 onMenuWanted: from => {
                     const changed = key // the row may be another one's by then
                     const modes = page.choices
@@ -188,6 +190,11 @@ FocusScope {
             isEnabled: page.controller.total > 0
             onClicked: page.controller.askToForgetAll()
         }
+    }
+    FontMetrics {
+        id: judgementFont
+        font.family: title.font.family
+        font.pixelSize: Theme.textHelp
     }
     PickMenu {
         id: menu

@@ -14,6 +14,14 @@ Column {
     spacing: 18
 
     Component.onCompleted: settings.permissions.refresh()
+    // Back from a terminal or another program, where something may have been mended.
+    Connections {
+        target: Qt.application
+        function onStateChanged() {
+            if (Qt.application.state === Qt.ApplicationActive)
+                page.settings.permissions.refresh()
+        }
+    }
 
     Label {
         colors: page.colors

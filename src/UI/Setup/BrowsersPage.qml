@@ -18,7 +18,6 @@ Column {
         text: qsTr("A small extension tells Fendrel which site is in front. It talks to Fendrel alone, and nothing of it leaves this computer. You can do this later as well.")
     }
     SettingsGroup {
-        visible: page.firstRun.browsers.count > 0
         colors: page.colors
         Repeater {
             model: page.firstRun.browsers
@@ -27,11 +26,5 @@ Column {
                 permissions: page.firstRun.browsers
             }
         }
-    }
-    Notice {
-        visible: page.firstRun.browsers.count === 0
-        colors: page.colors
-        symbol: "globe"
-        text: qsTr("No browser was used here yet. Start one, and it shows up on this page.")
     }
 }

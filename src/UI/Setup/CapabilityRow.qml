@@ -15,6 +15,8 @@ Item {
     required property string stateLabel
     required property string reason
     required property string remedy
+    required property string commandHelp
+    required property string command
     required property string icon
     required property var actions
 
@@ -28,7 +30,7 @@ Item {
     height: content.height + 28
     Accessible.role: Accessible.Grouping
     Accessible.name: title + ": " + stateLabel
-    Accessible.description: (help + " " + advice).trim()
+    Accessible.description: [help, advice, commandHelp].join(" ").trim()
 
     Image {
         id: picture
@@ -88,12 +90,12 @@ Item {
             }
         }
         Repeater {
-            model: [row.help, row.advice]
+            model: [row.help, row.advice, row.commandHelp]
             Label {
                 required property string modelData
                 required property int index
                 colors: row.colors
-                color: index === 1 && row.isWanting ? row.colors.text : row.colors.secondaryText
+                color: index > 0 && row.isWanting ? row.colors.text : row.colors.secondaryText
                 width: content.width
                 visible: text !== ""
                 text: modelData
@@ -101,6 +103,38 @@ Item {
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
+        }
+        Item { width: 1; height: 3; visible: box.visible }
+        Rectangle {
+            id: box
+            width: parent.width
+            height: commandText.height + 16
+            radius: Theme.radius
+            color: row.colors.field
+            border { width: 1; color: row.colors.line }
+            visible: row.command !== ""
+            TextEdit {
+                id: commandText
+                // What a shell reads goes from left to right in every language.
+                LayoutMirroring.enabled: false
+                anchors { left: parent.left; leftMargin: 10; right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
+                horizontalAlignment: TextEdit.AlignLeft
+                text: row.command
+                textFormat: TextEdit.PlainText
+                readOnly: true
+                selectByMouse: true
+                selectByKeyboard: true
+                activeFocusOnTab: row.command !== ""
+                wrapMode: TextEdit.Wrap
+                color: row.colors.text
+                selectionColor: row.colors.accent
+                selectedTextColor: "white"
+                font { family: "monospace"; pixelSize: Theme.textHelp }
+                Accessible.role: Accessible.EditableText
+                Accessible.readOnly: true
+                Accessible.name: qsTr("Command") + ", " + row.title
+            }
+            FocusRing { target: commandText; anchors { fill: box; margins: -3 } targetRadius: Theme.radius }
         }
         Item { width: 1; height: 6; visible: buttons.visible }
         Flow {

@@ -23,26 +23,11 @@ FocusScope {
         color: viewColors.window
     }
 
-    Flickable {
+    ScrollArea {
         id: scroller
-
-        // What the keyboard goes to is to be seen.
-        readonly property Item focused: Window.activeFocusItem
-        onFocusedChanged: {
-            let parent = focused
-            while (parent && parent !== page)
-                parent = parent.parent
-            if (!parent)
-                return
-            const top = focused.mapToItem(contentItem, 0, 0).y
-            const wanted = Math.max(top + focused.height + 24 - height, Math.min(top - 24, contentY))
-            contentY = Math.max(0, Math.min(contentHeight - height, wanted))
-        }
-
+        colors: viewColors
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: footer.top }
         contentHeight: page.height + page.y + 20
-        boundsBehavior: Flickable.StopAtBounds
-        clip: contentHeight > height
 
         Loader {
             id: page
@@ -84,7 +69,8 @@ FocusScope {
         Row {
             id: dots
             anchors.centerIn: parent
-            spacing: 9
+            spacing: Math.round(9 * scaling)
+            readonly property real scaling: Math.max(1, Theme.textScale)
             Accessible.role: Accessible.StaticText
             Accessible.name: qsTr("Page %1 of %2").arg(root.firstRun.page + 1).arg(root.firstRun.pageCount)
             Repeater {
@@ -92,9 +78,9 @@ FocusScope {
                 Rectangle {
                     required property int index
                     readonly property bool isCurrent: index === root.firstRun.page
-                    width: isCurrent ? 22 : 8
-                    height: 8
-                    radius: 4
+                    width: Math.round((isCurrent ? 22 : 8) * dots.scaling)
+                    height: Math.round(8 * dots.scaling)
+                    radius: height / 2
                     color: isCurrent ? viewColors.accent : viewColors.faded(viewColors.text, 0.22)
                     Behavior on width { NumberAnimation { duration: Theme.normal; easing.type: Easing.OutCubic } }
                 }

@@ -11,7 +11,7 @@ Item {
 
     signal toggled()
 
-    implicitHeight: Math.max(84, words.height + 32)
+    implicitHeight: Math.max(badge.height + 36, words.height + 32)
     activeFocusOnTab: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: mode.name
@@ -23,6 +23,7 @@ Item {
     Accessible.onToggleAction: toggled()
 
     readonly property bool exists: mode.exists
+    readonly property real scaling: Math.max(1, Theme.textScale) // of pictures
     readonly property string applications: mode.apps.length === 0 ? qsTr("Web sites only, so far") : mode.apps.slice(0, 3).join(", ")
 
     Keys.onSpacePressed: toggled()
@@ -43,14 +44,14 @@ Item {
     Rectangle {
         id: badge
         anchors { left: parent.left; leftMargin: 16; verticalCenter: parent.verticalCenter }
-        width: 48
-        height: 48
-        radius: 14
+        width: Math.round(48 * card.scaling)
+        height: width
+        radius: width * 0.29
         color: card.isChosen ? card.mode.tint : card.colors.faded(card.mode.tint, 0.14)
         Behavior on color { ColorAnimation { duration: Theme.normal } }
         Symbol {
             anchors.centerIn: parent
-            size: 25
+            size: Math.round(25 * card.scaling)
             name: card.mode.symbol
             color: card.isChosen ? card.colors.onTint(card.mode.tint) : card.colors.tintText(card.mode.tint)
         }
@@ -70,7 +71,7 @@ Item {
             width: parent.width
             Accessible.ignored: true
         }
-        Row {
+        Flow {
             width: parent.width
             spacing: 5
             visible: card.mode.icons.length > 0 && !card.exists
@@ -78,9 +79,9 @@ Item {
                 model: card.mode.icons.slice(0, 6)
                 Image {
                     required property string modelData
-                    width: 20
-                    height: 20
-                    sourceSize { width: 40; height: 40 }
+                    width: Math.round(20 * card.scaling)
+                    height: width
+                    sourceSize { width: 2 * width; height: 2 * width }
                     source: modelData
                     asynchronous: true
                     smooth: true
@@ -104,9 +105,9 @@ Item {
         id: check
         opacity: card.exists ? 0.45 : 1
         anchors { right: parent.right; rightMargin: 16; verticalCenter: parent.verticalCenter }
-        width: 24
-        height: 24
-        radius: 12
+        width: Math.round(24 * card.scaling)
+        height: width
+        radius: width / 2
         color: card.isChosen ? card.mode.tint : "transparent"
         border.width: card.isChosen ? 0 : 1.5
         border.color: card.colors.control
@@ -114,7 +115,7 @@ Item {
             anchors.centerIn: parent
             visible: card.isChosen
             name: "checkmark"
-            size: 15
+            size: Math.round(15 * card.scaling)
             color: card.colors.onTint(card.mode.tint)
         }
     }

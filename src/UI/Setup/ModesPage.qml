@@ -23,11 +23,26 @@ Column {
         width: parent.width
         columns: width >= 560 * Theme.textScale ? 2 : 1
         spacing: 14
+        onColumnsChanged: measure()
+
+        property var rowHeights: []
+        function measure() {
+            const heights = []
+            for (let index = 0; index < cards.count; ++index) {
+                const row = Math.floor(index / columns)
+                heights[row] = Math.max(heights[row] ?? 0, cards.itemAt(index)?.implicitHeight ?? 0)
+            }
+            rowHeights = heights
+        }
 
         Repeater {
+            id: cards
             model: page.firstRun.templates
             ModeCard {
                 required property var modelData
+                required property int index
+                height: grid.rowHeights[Math.floor(index / grid.columns)] ?? implicitHeight
+                onImplicitHeightChanged: grid.measure()
                 width: (grid.width - (grid.columns - 1) * grid.spacing) / grid.columns
                 colors: page.colors
                 mode: modelData

@@ -27,12 +27,18 @@ QString extensionsPage(BrowserHome::Family family) {
 /// The setting or the pane that has to do with it; empty: none has.
 QString settingOf(const QString& row) {
     static const QHash<QString, QString> settings{
-        {u"titles"_s, u"strictness"_s},       {u"notifications"_s, u"quietBanners"_s},
-        {u"model"_s, u"modelServer"_s},       {u"keyring"_s, u"accounts"_s},
-        {u"hotKeys"_s, u"focusShortcut"_s},   {u"pointer"_s, u"replacesDock"_s},
-        {u"statusArea"_s, u"dockShortcut"_s}, {u"transparency"_s, u"appearance"_s},
-        {u"calendar"_s, u"widgets"_s}};
+        {u"titles"_s, u"strictness"_s}, {u"notifications"_s, u"quietBanners"_s}, {u"model"_s, u"modelServer"_s},
+        {u"keyring"_s, u"accounts"_s},  {u"hotKeys"_s, u"focusShortcut"_s},      {u"pointer"_s, u"replacesDock"_s},
+        {u"calendar"_s, u"widgets"_s},  {u"transparency"_s, u"appearance"_s}};
     return settings.value(row);
+}
+
+/// What is missing sends its user only to where that can be mended.
+bool leadsToSetting(const Capability& capability) {
+    static const QStringList mending{u"model"_s, u"hotKeys"_s, u"pointer"_s};
+    return !settingOf(capability.id).isEmpty() &&
+           (capability.state == State::works || capability.id == "calendar"_L1 ||
+            (capability.state == State::missing && mending.contains(capability.id)));
 }
 
 } // namespace
@@ -94,9 +100,9 @@ void PermissionsModel::act(const QString& row, const QString& action) {
     } else if (action == "open"_L1) {
         m_controller.workspace().open(found->browser ? found->browser->bundleID : installedBrowser());
     } else if (action == "command"_L1) {
-        QGuiApplication::clipboard()->setText(platform.remedies->command(row));
+        QGuiApplication::clipboard()->setText(found->remedy.command);
     } else if (action == "page"_L1) {
-        platform.remedies->openPage(row);
+        platform.remedies->open(found->remedy.page);
     } else if (action == "settings"_L1) {
         m_controller.onShowSettings(settingOf(row));
     }
@@ -114,7 +120,7 @@ void PermissionsModel::sync() {
     QList<Row> wanted;
     for (const Capability& capability : m_capabilities.all()) {
         const bool isBrowser = capability.id.startsWith("browser"_L1);
-        const bool isShown = m_shows == Shows::all || (m_shows == Shows::browsers && capability.browser) ||
+        const bool isShown = m_shows == Shows::all || (m_shows == Shows::browsers && isBrowser) ||
                              (m_shows == Shows::problems && !isBrowser &&
                               (capability.state == State::missing || capability.state == State::locked));
         if (isShown)
@@ -144,33 +150,47 @@ void PermissionsModel::describeBrowser(Row& row, const Capability& capability) {
     row.title = browser.name;
     row.icon = browser.bundleID.isEmpty() ? QString() : m_icons.source(browser.bundleID);
     row.help = tr("Tells which site is in front, and veils pages that belong to another mode.");
+    const bool isRunning = capability.state == State::missing || capability.state == State::works;
     if (m_controller.workspace().url(browser.bundleID) && capability.state != State::missing)
         row.actions.append(u"open"_s);
     if (capability.state == State::works) {
         row.stateLabel = tr("Connected");
         return;
     }
-    row.stateLabel = capability.state == State::missing ? tr("Not connected") : tr("Not running");
-    if (!m_controller.platform().remedies->command(row.id).isEmpty()) {
-        row.remedy = tr("Copy the command, run it in a terminal, and start %1 again. The extension then stays.")
-                         .arg(browser.name);
-        row.actions.append(u"command"_s);
-        return;
+    row.stateLabel = isRunning ? tr("Not connected") : tr("Not running");
+    QString byHand =
+        isChromium ? tr("Go to %1, turn on Developer mode, choose “Load unpacked”, and pick the folder “extension”.")
+                   : tr("Go to %1, choose “Load Temporary Add-on”, and pick manifest.json in the folder “extension”. "
+                        "It stays until the browser ends.");
+    byHand = byHand.arg(extensionsPage(browser.family));
+    if (capability.remedy.isInstalled) {
+        if (!isRunning) {
+            row.reason.clear();
+            row.remedy = tr("The extension is installed. Start %1.").arg(browser.name);
+            return;
+        }
+        row.reason = tr("The extension is installed. Close %1 and start it again.").arg(browser.name);
+        row.remedy = tr("If that doesn't help, there is another way.") + u' ' + byHand;
+    } else {
+        row.remedy = byHand;
     }
-    row.remedy = isChromium
-                     ? tr("Go to %1, turn on Developer mode, choose “Load unpacked”, and pick the folder “extension”.")
-                     : tr("Go to %1, choose “Load Temporary Add-on”, and pick manifest.json in the folder “extension”. "
-                          "It stays until the browser ends.");
-    row.remedy = row.remedy.arg(extensionsPage(browser.family));
     row.actions += {u"address"_s, u"folder"_s};
+    if (!capability.remedy.command.isEmpty())
+        offerCommand(row, capability, tr("It can also stay for good, with an administrator's password."));
+}
+
+void PermissionsModel::offerCommand(Row& row, const Capability& capability, const QString& purpose) {
+    row.command = capability.remedy.command;
+    row.commandHelp = (purpose + u' ' + tr("Copy the command and run it in a terminal.")).trimmed();
+    row.actions.append(u"command"_s);
 }
 
 void PermissionsModel::describe(Row& row, const Capability& capability) const {
-    const Remedies& remedies = *m_controller.platform().remedies;
     const bool works = capability.state == State::works;
     const bool isMissing = capability.state == State::missing;
-    const bool hasPage = remedies.hasPage(row.id);
-    const bool hasCommand = (isMissing || capability.state == State::absent) && !remedies.command(row.id).isEmpty();
+    const bool isAbsent = capability.state == State::absent;
+    const bool hasPage = !capability.remedy.page.isEmpty() && (isMissing || isAbsent || row.id == "calendar"_L1);
+    const bool hasCommand = !hasPage && (isMissing || isAbsent) && !capability.remedy.command.isEmpty();
     if (row.id == "titles"_L1) {
         row.title = tr("Window titles");
         row.help = tr("Tell which document or page is in front.");
@@ -187,11 +207,12 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
         row.title = tr("Browser");
         row.help = tr("Tells which site is in front, and veils pages that belong to another mode.");
         row.reason = tr("No browser that Fendrel can talk to was used here yet.");
-        row.remedy = tr("Start one such as Firefox or Chromium once.");
         if (!installedBrowser().isEmpty()) {
+            row.remedy = tr("Start one such as Firefox or Chromium once.");
             row.actions.append(u"open"_s);
             return;
         }
+        row.remedy = tr("Install one such as Firefox or Chromium, and start it once.");
     } else if (row.id == "model"_L1) {
         row.title = tr("Language model");
         row.help =
@@ -218,7 +239,7 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
         row.help = tr("The pointer stays off the edge where a replaced dock waits.");
         if (isMissing)
             row.remedy = tr("Turn replacing the dock off and on again.");
-        if (capability.state == State::absent)
+        if (isAbsent)
             row.reason = tr("This system can't hold the pointer.");
     } else if (row.id == "statusArea"_L1) {
         row.title = tr("Status icons");
@@ -242,14 +263,15 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
         row.help = tr("For widgets that show what comes next.");
         row.reason =
             tr("Fendrel can't read calendars yet. That comes with the widgets, from the calendar of your desktop.");
-        if (!hasPage && hasCommand)
+        row.stateLabel = works ? tr("Installed") : isAbsent ? tr("None found") : row.stateLabel;
+        if (hasCommand)
             row.remedy = tr("You have no calendar program so far; the command installs one.");
     }
     if (hasPage)
         row.actions.append(u"page"_s);
     else if (hasCommand)
-        row.actions.append(u"command"_s);
-    if (!settingOf(row.id).isEmpty())
+        offerCommand(row, capability, {});
+    if (leadsToSetting(capability))
         row.actions.append(u"settings"_s);
 }
 

@@ -34,7 +34,7 @@ public:
     int count() const { return rowCount(); }
     bool hasConnection() const;
 
-    /// Asks again what does not tell by itself.
+    /// Asks and looks again for what does not tell by itself.
     Q_INVOKABLE void refresh() { m_capabilities.refresh(); }
     /// Does one of a row's actions, which are listed with an id and a label.
     Q_INVOKABLE void act(const QString& row, const QString& action);
@@ -50,7 +50,9 @@ private:
         QString state{}; ///< works, missing, locked, absent or unknown
         QString stateLabel{};
         QString reason{};
-        QString remedy{}; ///< how to get it
+        QString remedy{};      ///< how to get it
+        QString commandHelp{}; ///< what the command is for, and where it goes
+        QString command{};     ///< empty: there is none
         QString icon{};
         QStringList actions{};
         bool operator==(const Row&) const = default;
@@ -59,6 +61,7 @@ private:
     friend class RowSync;
     Row row(const Capability& capability);
     void describe(Row& row, const Capability& capability) const;
+    static void offerCommand(Row& row, const Capability& capability, const QString& purpose);
     void describeBrowser(Row& row, const Capability& capability);
     void sync();
     QString installedBrowser() const; ///< one that Fendrel can talk to; empty: none
@@ -75,6 +78,8 @@ private:
                                 {"stateLabel", &Row::stateLabel},
                                 {"reason", &Row::reason},
                                 {"remedy", &Row::remedy},
+                                {"commandHelp", &Row::commandHelp},
+                                {"command", &Row::command},
                                 {"icon", &Row::icon},
                                 {"actions", labelled}};
     QList<Row> m_rows;

@@ -390,7 +390,7 @@
     </message>
     <message>
         <source>Nothing shines through until a compositor runs on this desktop.</source>
-        <translation>Nichts scheint durch, bis auf dieser Arbeitsfläche ein Compositor läuft.</translation>
+        <translation>Nichts scheint durch, bis auf diesem Desktop ein Compositor läuft.</translation>
     </message>
     <message>
         <source>Text may be hard to read over some backgrounds.</source>
@@ -398,11 +398,11 @@
     </message>
     <message>
         <source>This desktop&apos;s compositor does not offer it.</source>
-        <translation>Der Compositor dieser Arbeitsfläche bietet das nicht.</translation>
+        <translation>Der Compositor dieses Desktops bietet das nicht.</translation>
     </message>
     <message>
         <source>This needs a compositor, and none runs on this desktop.</source>
-        <translation>Das braucht einen Compositor, und auf dieser Arbeitsfläche läuft keiner.</translation>
+        <translation>Das braucht einen Compositor, und auf diesem Desktop läuft keiner.</translation>
     </message>
 </context>
 <context>
@@ -434,10 +434,6 @@
         <source>A small extension tells Fendrel which site is in front. It talks to Fendrel alone, and nothing of it leaves this computer. You can do this later as well.</source>
         <translation>Eine kleine Erweiterung sagt Fendrel, welche Website im Vordergrund ist. Sie spricht nur mit Fendrel, und nichts davon verlässt diesen Computer. Du kannst das auch später tun.</translation>
     </message>
-    <message>
-        <source>No browser was used here yet. Start one, and it shows up on this page.</source>
-        <translation>Hier wurde noch kein Browser benutzt. Starte einen, und er erscheint auf dieser Seite.</translation>
-    </message>
 </context>
 <context>
     <name>BudgetMeter</name>
@@ -451,6 +447,10 @@
     <message>
         <source>Copied</source>
         <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
     </message>
 </context>
 <context>
@@ -530,7 +530,7 @@
     </message>
     <message>
         <source>~/Documents/Fendrel Backup.json</source>
-        <translation>~/Documents/Fendrel Backup.json</translation>
+        <translation>~/Dokumente/Fendrel-Sicherung.json</translation>
     </message>
     <message>
         <source>Show in Folder</source>
@@ -920,7 +920,7 @@
     </message>
     <message>
         <source>Keep awake, dark mode, hide the desktop and mute, one click each</source>
-        <translation>Wach halten, Dunkelmodus, Arbeitsfläche ausblenden und stummschalten, je ein Klick</translation>
+        <translation>Wach halten, Dunkelmodus, Desktop ausblenden und stummschalten, je ein Klick</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -1983,11 +1983,11 @@
     </message>
     <message>
         <source>Quiet the desktop&apos;s banners</source>
-        <translation>Banner der Arbeitsfläche stummschalten</translation>
+        <translation>Banner des Desktops stummschalten</translation>
     </message>
     <message>
         <source>While messages are held, the desktop shows none at all, those of the current mode neither.</source>
-        <translation>Solange Nachrichten zurückgehalten werden, zeigt die Arbeitsfläche gar keine, auch nicht die des aktuellen Modus.</translation>
+        <translation>Solange Nachrichten zurückgehalten werden, zeigt der Desktop gar keine, auch nicht die des aktuellen Modus.</translation>
     </message>
     <message>
         <source>notifications do not disturb silence</source>
@@ -2151,7 +2151,7 @@
     </message>
     <message>
         <source>Hides the desktop&apos;s own dock while Fendrel runs.</source>
-        <translation>Blendet das eigene Dock der Arbeitsfläche aus, solange Fendrel läuft.</translation>
+        <translation>Blendet das eigene Dock des Desktops aus, solange Fendrel läuft.</translation>
     </message>
     <message>
         <source>panel taskbar hide minimized trash</source>
@@ -2255,7 +2255,7 @@
     </message>
     <message>
         <source>A look of its own for when the desktop is dark.</source>
-        <translation>Ein eigenes Aussehen, wenn die Arbeitsfläche dunkel ist.</translation>
+        <translation>Ein eigenes Aussehen, wenn der Desktop dunkel ist.</translation>
     </message>
     <message>
         <source>night black theme</source>
@@ -2267,7 +2267,7 @@
     </message>
     <message>
         <source>The dock has a look of its own for each, and changes with the desktop.</source>
-        <translation>Das Dock hat für beides ein eigenes Aussehen und wechselt mit der Arbeitsfläche.</translation>
+        <translation>Das Dock hat für beides ein eigenes Aussehen und wechselt mit dem Desktop.</translation>
     </message>
     <message>
         <source>night theme automatic</source>
@@ -2622,7 +2622,7 @@
     </message>
     <message>
         <source>Computer, desktop, screen, monitor</source>
-        <translation>Computer, rechner, arbeitsfläche, bildschirm, monitor</translation>
+        <translation>Computer, rechner, desktop, bildschirm, monitor</translation>
     </message>
     <message>
         <source>Gear, settings, engine, machine</source>
@@ -3337,7 +3337,7 @@
     </message>
     <message>
         <source>Your desktop has no keyring</source>
-        <translation>Deine Arbeitsfläche hat keinen Schlüsselbund</translation>
+        <translation>Dein Desktop hat keinen Schlüsselbund</translation>
     </message>
     <message>
         <source>Your keyring is locked</source>
@@ -3382,6 +3382,10 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Show Permissions</source>
+        <translation>Berechtigungen zeigen</translation>
     </message>
 </context>
 <context>
@@ -3465,7 +3469,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <name>fendrel::Backup</name>
     <message>
         <source>Fendrel Backup %1</source>
-        <translation>Fendrel Backup %1</translation>
+        <translation>Fendrel-Sicherung %1</translation>
     </message>
     <message>
         <source>“%1” could not be written. Is there room, and may you write there?</source>
@@ -3477,7 +3481,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>This file is too large to be a Fendrel backup.</source>
-        <translation>Diese Datei ist zu groß für ein Fendrel-Backup.</translation>
+        <translation>Diese Datei ist zu groß für eine Fendrel-Sicherung.</translation>
     </message>
 </context>
 <context>
@@ -3566,7 +3570,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>Import this backup?</source>
-        <translation>Dieses Backup importieren?</translation>
+        <translation>Diese Sicherung importieren?</translation>
     </message>
     <message>
         <source>Import</source>
@@ -3586,7 +3590,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>Fendrel backups</source>
-        <translation>Sicherungen von Fendrel</translation>
+        <translation>Fendrel-Sicherungen</translation>
     </message>
     <message>
         <source>This file can&apos;t be used: it isn&apos;t on this computer, or its name can&apos;t be read.</source>
@@ -3617,7 +3621,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>talks to the desktop</source>
-        <translation>spricht mit der Arbeitsfläche</translation>
+        <translation>spricht mit dem Desktop</translation>
     </message>
     <message>
         <source>the folders of icon themes</source>
@@ -3625,7 +3629,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>the desktop&apos;s own settings</source>
-        <translation>die Einstellungen der Arbeitsfläche</translation>
+        <translation>die Einstellungen des Desktops</translation>
     </message>
     <message>
         <source>the typeface</source>
@@ -4151,7 +4155,7 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
     <message>
         <source>This desktop shows no status icons. The dock has the same menu.</source>
-        <translation>Diese Arbeitsfläche zeigt keine Statussymbole. Das Dock hat dasselbe Menü.</translation>
+        <translation>Dieser Desktop zeigt keine Statussymbole. Das Dock hat dasselbe Menü.</translation>
     </message>
     <message>
         <source>Transparency</source>
@@ -4194,10 +4198,6 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Desktop-Einstellungen</translation>
     </message>
     <message>
-        <source>Copy the command, run it in a terminal, and start %1 again. The extension then stays.</source>
-        <translation>Kopiere den Befehl, führe ihn in einem Terminal aus und starte %1 neu. Die Erweiterung bleibt dann erhalten.</translation>
-    </message>
-    <message>
         <source>Add a tray for them to the panel.</source>
         <translation>Füge der Leiste einen Bereich dafür hinzu.</translation>
     </message>
@@ -4220,6 +4220,34 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>You have no calendar program so far; the command installs one.</source>
         <translation>Du hast noch kein Kalenderprogramm; der Befehl installiert eines.</translation>
+    </message>
+    <message>
+        <source>The extension is installed. Start %1.</source>
+        <translation>Die Erweiterung ist installiert. Starte %1.</translation>
+    </message>
+    <message>
+        <source>The extension is installed. Close %1 and start it again.</source>
+        <translation>Die Erweiterung ist installiert. Beende %1 und starte es neu.</translation>
+    </message>
+    <message>
+        <source>If that doesn&apos;t help, there is another way.</source>
+        <translation>Hilft das nicht, gibt es noch einen anderen Weg.</translation>
+    </message>
+    <message>
+        <source>It can also stay for good, with an administrator&apos;s password.</source>
+        <translation>Sie kann auch dauerhaft bleiben, mit dem Passwort eines Administrators.</translation>
+    </message>
+    <message>
+        <source>Copy the command and run it in a terminal.</source>
+        <translation>Kopiere den Befehl und führe ihn in einem Terminal aus.</translation>
+    </message>
+    <message>
+        <source>Install one such as Firefox or Chromium, and start it once.</source>
+        <translation>Installiere einen, etwa Firefox oder Chromium, und starte ihn einmal.</translation>
+    </message>
+    <message>
+        <source>Installed</source>
+        <translation>Installiert</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Row {
-    std::initializer_list<int> codes;
-    const char* title;
-    QStringView day;
-    QStringView night; ///< empty: the same
+    std::initializer_list<int> codes{};
+    const char* title{};
+    QStringView day{};
+    QStringView night{}; ///< empty: the same
 };
 
 const Row rows[] = {

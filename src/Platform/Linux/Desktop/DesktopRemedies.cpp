@@ -5,11 +5,13 @@
 #include "Platform/Linux/Applications/DetachedCommand.h"
 #include "Platform/Linux/Tables/DataTable.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QStandardPaths>
 #include <QSysInfo>
+
+#include <unistd.h>
 
 namespace fendrel {
 
@@ -17,71 +19,92 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The rows of a thing that are meant for these surroundings, the best first.
-QList<QJsonObject> rowsFor(const QString& thing, const DesktopRemedies::Surroundings& surroundings) {
-    QList<QJsonObject> rows;
-    for (const auto each : dataTable(u"Remedies"_s).array()) {
-        const QJsonObject row = each.toObject();
-        const bool isMeant =
-            row[u"for"].toString() == thing &&
-            (!row.contains("desktop"_L1) || surroundings.desktops.contains(row[u"desktop"].toString())) &&
-            (!row.contains("system"_L1) || surroundings.system == row[u"system"].toString());
-        if (isMeant)
-            rows.append(row);
-    }
-    return rows;
-}
-
 /// As a shell takes it for one word.
 QString quoted(QString text) {
     return u'\'' + text.replace("'"_L1, R"('\'')"_L1) + u'\'';
 }
 
+bool exists(const QString& name) {
+    return name.startsWith(u'/') ? QFileInfo::exists(name) : !QStandardPaths::findExecutable(name).isEmpty();
+}
+
+/// Who may write to a folder above can move this one away.
+bool isChangeable(const QString& folder) {
+    QString path = QFileInfo(folder).canonicalFilePath();
+    while (!path.isEmpty()) {
+        const QFileInfo info(path);
+        if (info.isWritable() || info.ownerId() == geteuid())
+            return true;
+        if (info.isRoot())
+            return false;
+        path = info.path();
+    }
+    return true;
+}
+
 } // namespace
+
+DesktopRemedies::DesktopRemedies(Surroundings surroundings) : m_surroundings(std::move(surroundings)) {
+    for (const auto each : dataTable(u"Remedies"_s).array()) {
+        const QJsonObject entry = each.toObject();
+        const bool isMeant =
+            (!entry.contains("desktop"_L1) || m_surroundings.desktops.contains(entry[u"desktop"].toString())) &&
+            (!entry.contains("system"_L1) || m_surroundings.system == entry[u"system"].toString());
+        if (isMeant)
+            m_rows.append(row(entry));
+    }
+}
 
 DesktopRemedies::Surroundings DesktopRemedies::ofThisSession(const QString& extension) {
     return {.desktops = DesktopEntryContext::ofThisSession().desktops,
             .system = QSysInfo::productType(),
             .extension = extension,
-            .exists = [](const QString& name) {
-                return name.startsWith(u'/') ? QFileInfo::exists(name)
-                                             : !QStandardPaths::findExecutable(name).isEmpty();
-            }};
+            .exists = exists,
+            .isChangeable = isChangeable};
 }
 
-QStringList DesktopRemedies::page(const QString& thing) const {
-    for (const QJsonObject& row : rowsFor(thing, m_surroundings)) {
-        const QStringList command = row[u"page"].toVariant().toStringList();
-        if (!command.isEmpty() && m_surroundings.exists(command.first()))
-            return command;
+DesktopRemedies::Row DesktopRemedies::row(const QJsonObject& entry) const {
+    const QString package = entry[u"package"].toString();
+    const QString link = entry[u"link"].toString();
+    QStringList steps;
+    if (!package.isEmpty())
+        steps.append(u"sudo apt install "_s + package);
+    if (!link.isEmpty())
+        steps.append(u"sudo ln -sfn %1 %2"_s.arg(quoted(m_surroundings.extension), quoted(link)));
+    if (entry.contains("command"_L1))
+        steps.append(entry[u"command"].toString());
+    return {.thing = entry[u"for"].toString(),
+            .page = entry[u"page"].toVariant().toStringList(),
+            .needed = package.isEmpty() ? entry[u"needs"].toString() : u"apt"_s,
+            .command = steps.join(" && "_L1),
+            .link = link};
+}
+
+QHash<QString, Remedy> DesktopRemedies::find() const {
+    QHash<QString, Remedy> remedies;
+    for (const Row& row : m_rows) {
+        Remedy& remedy = remedies[row.thing];
+        if (!row.page.isEmpty()) {
+            if (remedy.page.isEmpty() && m_surroundings.exists(row.page.first()))
+                remedy.page = row.page;
+        } else if (!row.link.isEmpty() && m_surroundings.exists(row.link)) {
+            remedy.isInstalled = true;
+        } else if (remedy.command.isEmpty() && m_surroundings.exists(row.needed) &&
+                   (row.link.isEmpty() || !m_surroundings.isChangeable(m_surroundings.extension))) {
+            // What every user's browser loads must not be open to the programs of one.
+            remedy.command = row.command;
+        }
     }
-    return {};
+    return remedies;
 }
 
-void DesktopRemedies::openPage(const QString& thing) {
-    const QStringList command = page(thing);
-    if (command.isEmpty())
+void DesktopRemedies::open(const QStringList& page) {
+    if (page.isEmpty())
         return;
     QProcess process;
-    prepareDetached(process, command);
+    prepareDetached(process, page);
     if (!process.startDetached())
-        qCWarning(logDesktop).noquote() << "Couldn't start" << command.first() << process.errorString();
-}
-
-QString DesktopRemedies::command(const QString& thing) const {
-    for (const QJsonObject& row : rowsFor(thing, m_surroundings)) {
-        const QString package = row[u"package"].toString();
-        const QString needed = package.isEmpty() ? row[u"needs"].toString() : u"apt"_s;
-        if (row.contains("page"_L1) || !m_surroundings.exists(needed))
-            continue;
-        QStringList steps;
-        if (!package.isEmpty())
-            steps.append(u"sudo apt install "_s + package);
-        if (row.contains("command"_L1))
-            steps.append(row[u"command"].toString().replace("%1"_L1, quoted(m_surroundings.extension)));
-        return steps.join(" && "_L1);
-    }
-    return {};
+        qCWarning(logDesktop).noquote() << "Couldn't start" << page.first() << process.errorString();
 }
 
 } // namespace fendrel

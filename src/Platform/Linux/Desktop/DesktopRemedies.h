@@ -2,7 +2,7 @@
 
 #include "Ports/Remedies.h"
 
-#include <QStringList>
+#include <QJsonObject>
 
 #include <functional>
 
@@ -15,22 +15,30 @@ public:
         QStringList desktops{}; ///< as XDG_CURRENT_DESKTOP names them
         QString system{};       ///< "debian"
         QString extension{};    ///< folder of the browsers' companion extension
-        /// Whether there is a program of that name, or a file or folder with that path.
+        /// Whether there is a program of that name, or a file or folder with that path. Any thread.
         std::function<bool(const QString& name)> exists = [](const QString&) { return false; };
+        /// Whether this user's programs could change the folder, or put another in its place. Any thread.
+        std::function<bool(const QString& folder)> isChangeable = [](const QString&) { return true; };
     };
 
-    explicit DesktopRemedies(Surroundings surroundings) : m_surroundings(std::move(surroundings)) {}
+    explicit DesktopRemedies(Surroundings surroundings);
     static Surroundings ofThisSession(const QString& extension);
 
-    bool hasPage(const QString& thing) const override { return !page(thing).isEmpty(); }
-    void openPage(const QString& thing) override;
-    QString command(const QString& thing) const override;
-
-    /// The command line that opens it; empty: there is none.
-    QStringList page(const QString& thing) const;
+    QHash<QString, Remedy> find() const override;
+    void open(const QStringList& page) override;
 
 private:
+    struct Row {
+        QString thing{};
+        QStringList page{};
+        QString needed{}; ///< for the command
+        QString command{};
+        QString link{}; ///< what the command makes of the extension, for every user; empty: it makes none
+    };
+    Row row(const QJsonObject& entry) const;
+
     Surroundings m_surroundings;
+    QList<Row> m_rows; ///< meant for these surroundings, the best of a thing first
 };
 
 } // namespace fendrel
