@@ -110,6 +110,8 @@ FocusScope {
             colors: picker.colors
             color: picker.colors.secondaryText
             text: qsTr("No other application is found")
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

@@ -161,6 +161,8 @@ SettingsGroup {
                         colors: group.colors
                         color: group.colors.secondaryText
                         text: qsTr("No widget is found")
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: text
                     }
                 }
             }

@@ -93,6 +93,8 @@ FocusScope {
             colors: picker.colors
             color: picker.colors.secondaryText
             text: qsTr("No symbol is found")
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }
