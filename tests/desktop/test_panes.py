@@ -105,8 +105,10 @@ class Changes(Panes):
     def change_dock(self):
         self.search("Position")
         press("Right")
-        self.click("Large")
-        self.click("Magnify icons", role="check box")
+        self.search("Size")
+        press("Right")
+        self.search("Magnify icons")
+        press("space")
 
     def see_dock(self):
         self.sees("Left", on=True)
