@@ -2,12 +2,25 @@
 
 #include "Widgets/FetchFailure.h"
 
+#include <QCryptographicHash>
+
+#include <memory>
 #include <utility>
 
 namespace fendrel {
 
 inline std::pair<QByteArray, QByteArray> bearer(const QString& key) {
     return {"Authorization", "Bearer " + key.toUtf8()};
+}
+
+/// By which a key can be recognised, but not used.
+inline QByteArray digest(const QString& key) {
+    return QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha256);
+}
+
+/// Of a fetch that asks again: drops whichever request is under way.
+inline Handle lastOf(std::shared_ptr<Handle> request) {
+    return Handle([request = std::move(request)] { request->reset(); });
 }
 
 /// One request, and what `read` makes of its answer. No key goes where it could be read on the way.

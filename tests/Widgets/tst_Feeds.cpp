@@ -5,6 +5,7 @@
 #include "Widgets/Ticker/Ticker.h"
 #include "Widgets/Weather/WeatherCode.h"
 #include "Widgets/Weather/WeatherFeed.h"
+#include "Widgets/Widgets.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeHttp.h"
 #include "fakes/FakeSecretStore.h"
@@ -80,6 +81,40 @@ private Q_SLOTS:
         world.vercel.setActive(false);
         world.clock.advance(24h);
         QCOMPARE(world.http.requests.size(), inAnHour + 1);
+    }
+
+    void aDayAsksOnlyForWhatIsPlaced() {
+        World world;
+        Widgets widgets(world.clock, world.http, world.settings, world.accounts);
+        for (const auto& each : WidgetAccounts::all())
+            world.store.secrets[enumName(each.service)] = u"key"_s;
+        world.settings.values[u"tickerSymbols"_s] = QStringList{u"AAPL"_s};
+        const auto live = [&](std::chrono::hours hours) {
+            const auto asked = world.http.requests.size();
+            for (std::chrono::minutes passed{}; passed < hours; passed += 1min) {
+                world.clock.advance(1min);
+                world.store.answer();
+                world.http.serve([](const auto&) { return FakeHttp::answer("{}", 503); });
+            }
+            QSet<QString> hosts;
+            for (const auto& request : world.http.requests.sliced(asked))
+                hosts.insert(request.url.host());
+            return hosts;
+        };
+        widgets.sync({.widgets = {u"timer"_s, u"clock"_s}});
+        QVERIFY(live(24h).isEmpty());
+        widgets.sync({.widgets = {u"linear"_s, u"ticker"_s}});
+        QCOMPARE(live(2h), (QSet<QString>{u"api.linear.app"_s, u"query1.finance.yahoo.com"_s}));
+        widgets.sync({.widgets = {u"linear"_s}});
+        QCOMPARE(live(2h), (QSet<QString>{u"api.linear.app"_s}));
+        // A key for what is not placed asks nobody, one for what is asks at once.
+        const auto asked = world.http.requests.size();
+        world.accounts.save(u"new"_s, Service::sentry);
+        world.store.answer();
+        QCOMPARE(world.http.requests.size(), asked);
+        world.accounts.save(u"new"_s, Service::linear);
+        world.store.answer();
+        QCOMPARE(world.http.requests.size(), asked + 1);
     }
 
     void onlyTheNewestAnswerCounts() {

@@ -1,5 +1,6 @@
 #include "Widgets/Revenue/LemonSqueezy.h"
 
+#include "Widgets/Exchange.h"
 #include "Widgets/Json.h"
 #include "Widgets/Revenue/ProviderMoney.h"
 #include "Widgets/Revenue/ProviderRequest.h"
@@ -79,7 +80,7 @@ Fetched<revenue::Page<Sale>> readOrders(const HttpResponse& response, const Http
 }
 
 Handle Client::fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
-    const bool isSorted = *m_unsortedKey != revenue::digest(key);
+    const bool isSorted = *m_unsortedKey != digest(key);
     const auto first = ordersRequest(key, isSorted);
     auto read = [=, unsortedKey = m_unsortedKey, isRetried = false](const HttpResponse& response,
                                                                     int position) mutable {
@@ -88,7 +89,7 @@ Handle Client::fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> 
             return Fetched<revenue::Page<Sale>>(revenue::Page<Sale>{.next = ordersRequest(key, false)});
         }
         if (isRetried && response.status == 200)
-            *unsortedKey = revenue::digest(key);
+            *unsortedKey = digest(key);
         return readOrders(response, first, since);
     };
     return revenue::Pages<Sale>::fetch(m_http, first, pageLimit, std::move(read), std::move(done));

@@ -4,7 +4,6 @@
 #include "Widgets/Json.h"
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 
 namespace fendrel::revenue {
 
@@ -32,10 +31,6 @@ std::optional<HttpRequest> following(const HttpRequest& request, const QJsonValu
     HttpRequest following = request;
     following.url = next;
     return following;
-}
-
-QByteArray digest(const QString& key) {
-    return QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha256);
 }
 
 Fetched<QJsonObject> body(const HttpResponse& response, const QString& service) {

@@ -22,9 +22,6 @@ QString isoTime(WallTime time);
 /// goes there.
 std::optional<HttpRequest> following(const HttpRequest& request, const QJsonValue& address);
 
-/// By which a key can be recognised, but not used.
-QByteArray digest(const QString& key);
-
 /// The object that an answer is, or what is wrong with it.
 Fetched<QJsonObject> body(const HttpResponse& response, const QString& service);
 

@@ -1,5 +1,6 @@
 #include "Widgets/Revenue/RevenueFeed.h"
 
+#include "Widgets/Exchange.h"
 #include "Widgets/Revenue/Paddle.h"
 #include "Widgets/Revenue/ProviderRequest.h"
 #include "Widgets/Revenue/Stripe.h"
@@ -133,9 +134,9 @@ void RevenueFeed::forgetOthers(const Round& round) {
     std::erase_if(m_providers, [&round](const auto& entry) { return !round.keys.contains(entry.first); });
     for (const auto& [service, key] : round.keys) {
         Provider& provider = m_providers[service];
-        const QByteArray digest = revenue::digest(key);
-        if (provider.keyDigest != digest)
-            provider = {.keyDigest = digest};
+        const QByteArray keyDigest = digest(key);
+        if (provider.keyDigest != keyDigest)
+            provider = {.keyDigest = keyDigest};
         if (provider.day != round.day)
             provider.outcome.sales.clear();
         provider.day = round.day;

@@ -4,7 +4,6 @@
 #include "Widgets/Json.h"
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -30,10 +29,6 @@ std::optional<Issue> issue(const QJsonObject& node) {
                      .stateName = node["state"_L1]["name"_L1].toString(),
                      .stateType = node["state"_L1]["type"_L1].toString()};
     return read.identifier.isEmpty() ? std::nullopt : std::optional(read);
-}
-
-QByteArray digest(const QString& key) {
-    return QCryptographicHash::hash(key.toUtf8(), QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -82,21 +77,17 @@ Handle Client::fetch(const QString& key, FetchDone<QList<Issue>> done) {
     };
     if (*m_bareKey == digest(key))
         return send(Authorization::bare, end);
-    const auto second = std::make_shared<Handle>();
-    auto first = std::make_shared<Handle>(
-        send(Authorization::bearer, [send, end, second, key, bareKey = m_bareKey](const auto& outcome) {
-            if (!outcome || outcome->status != 400)
-                return end(outcome);
-            *second = send(Authorization::bare, [end, key, bareKey](const auto& again) {
-                if (again && again->status == 200)
-                    *bareKey = digest(key);
-                end(again);
-            });
-        }));
-    return Handle([first, second] {
-        first->reset();
-        second->reset();
+    const auto request = std::make_shared<Handle>();
+    *request = send(Authorization::bearer, [send, end, request, key, bareKey = m_bareKey](const auto& outcome) {
+        if (!outcome || outcome->status != 400)
+            return end(outcome);
+        *request = send(Authorization::bare, [end, key, bareKey](const auto& again) {
+            if (again && again->status == 200)
+                *bareKey = digest(key);
+            end(again);
+        });
     });
+    return lastOf(request);
 }
 
 } // namespace fendrel::linear

@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <memory>
 
 namespace fendrel::sentry {
 
@@ -93,21 +92,18 @@ Fetched<Snapshot> readIssues(const HttpResponse& response) {
 }
 
 Handle fetch(HttpClient& http, const QString& key, FetchDone<Snapshot> done) {
-    const auto second = std::make_shared<Handle>();
-    const auto first = std::make_shared<Handle>(exchange<Organization>(
+    const auto request = std::make_shared<Handle>();
+    *request = exchange<Organization>(
         http, organizationsRequest(key), readOrganization,
-        [&http, key, second, done = std::move(done)](const auto& found) {
+        [&http, key, request, done = std::move(done)](const auto& found) {
             if (!found)
                 return done(Fetched<Snapshot>::failure(found.error()));
             const auto next = issuesRequest(key, *found);
             if (!next)
                 return done(Fetched<Snapshot>::failure(told(QT_TRANSLATE_NOOP("Feed", "Bad Sentry address"))));
-            *second = exchange<Snapshot>(http, *next, readIssues, done);
-        }));
-    return Handle([first, second] {
-        first->reset();
-        second->reset();
-    });
+            *request = exchange<Snapshot>(http, *next, readIssues, done);
+        });
+    return lastOf(request);
 }
 
 } // namespace fendrel::sentry
