@@ -6,7 +6,9 @@ namespace fendrel {
 
 Feed::Feed(Clock& clock, HttpClient& http, Pace pace)
     : m_clock(clock), m_http(http), m_pace(pace), m_online(http.onOnlineChanged([this] {
-          if (isActive() && m_isCutOff && m_http.isOnline())
+          if (!m_http.isOnline())
+              m_isCutOff = m_isCutOff || m_isLoading; // what was asked will not be answered any more
+          else if (isActive() && m_isCutOff)
               refresh(true);
       })) {}
 
@@ -23,11 +25,16 @@ void Feed::setActive(bool isActive) {
 
 void Feed::refresh(bool force) {
     const bool isPaused = m_notBefore && m_clock.continuousNow() < *m_notBefore;
-    if (!force && (m_isBusy || isFresh() || isPaused))
+    if (isPaused || (!force && (m_isBusy || isFresh())))
         return;
     m_isBusy = true;
     m_request.reset();
     m_request = fetch();
+}
+
+void Feed::refreshForNewKey() {
+    m_notBefore.reset();
+    refresh(true);
 }
 
 bool Feed::isFresh() const {
@@ -46,6 +53,7 @@ bool Feed::begin() {
     }
     m_lastFetch = m_clock.continuousNow();
     m_isLoading = true;
+    m_isCutOff = false;
     Q_EMIT changed();
     return true;
 }
@@ -58,7 +66,6 @@ void Feed::end() {
     m_isBusy = false;
     m_isLoading = false;
     m_isCutOff = false;
-    m_notBefore.reset();
     m_error.clear();
 }
 

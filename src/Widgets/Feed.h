@@ -29,8 +29,12 @@ public:
     void setActive(bool isActive);
 
     /// A forced one doesn't heed what was fetched a moment ago, or is under way: an answer to that no longer counts.
+    /// The pause that a service asks for is heeded by both.
     void refresh(bool force);
+    /// Asks with another key, for which no pause was asked, or learns that there is none.
+    void refreshForNewKey();
 
+    std::chrono::seconds interval() const { return m_pace.interval; }
     bool isLoading() const { return m_isLoading; }
     const QString& error() const { return m_error; }                  ///< empty: the last fetch went well
     std::optional<WallTime> updatedAt() const { return m_updatedAt; } ///< of what it has
@@ -61,7 +65,7 @@ private:
     Pace m_pace;
     bool m_isBusy = false;
     bool m_isLoading = false;
-    bool m_isCutOff = false; ///< the last fetch failed for want of a network
+    bool m_isCutOff = false; ///< the last fetch failed for want of a network, or is about to
     QString m_error;
     std::optional<WallTime> m_updatedAt;
     std::optional<ContinuousTime> m_lastFetch;

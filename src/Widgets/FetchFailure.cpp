@@ -6,20 +6,24 @@
 
 namespace fendrel {
 
+using namespace std::chrono_literals;
+
 namespace {
 
 QString inWords(const char* text) {
     return QCoreApplication::translate("Feed", text);
 }
 
+constexpr std::chrono::seconds usualPause = 20min; // after "too many requests"; one of the services documents it
+
 /// Only seconds: a date would need the server's clock to be ours. A day is as good as for ever.
 std::optional<std::chrono::seconds> retryAfter(const HttpResponse& response) {
     const auto header = std::ranges::find(response.headers, QByteArray("retry-after"), &HttpHeaders::value_type::first);
     bool isNumber = false;
     const int seconds = header == response.headers.end() ? 0 : header->second.trimmed().toInt(&isNumber);
-    if (!isNumber || seconds <= 0)
-        return {};
-    return std::min(std::chrono::seconds(seconds), std::chrono::seconds(std::chrono::days(1)));
+    if (!isNumber)
+        return response.status == 429 ? std::optional<std::chrono::seconds>(usualPause) : std::nullopt;
+    return std::clamp(std::chrono::seconds(seconds), 0s, std::chrono::seconds(24h));
 }
 
 } // namespace

@@ -32,6 +32,13 @@ std::optional<WallTime> moment(const QJsonValue& value) {
     return toWallTime(date);
 }
 
+std::optional<WallTime> unixTime(const QJsonValue& value, std::chrono::milliseconds unit) {
+    constexpr WallTime end = std::chrono::sys_days(std::chrono::year(10'000) / 1 / 1);
+    const auto count = integer(value);
+    const bool isMoment = count && *count >= 0 && *count < end.time_since_epoch() / unit;
+    return isMoment ? std::optional(WallTime(*count * unit)) : std::nullopt;
+}
+
 QUrl webAddress(const QJsonValue& value) {
     const QUrl address(value.toString(), QUrl::StrictMode);
     return address.scheme() == "https"_L1 && !address.host().isEmpty() ? address : QUrl();

@@ -57,9 +57,14 @@ bool WidgetAccounts::isBusy(Service service) const {
     return std::ranges::any_of(m_changes, [=](const auto& entry) { return entry.second.service == service; });
 }
 
-Handle WidgetAccounts::key(Service service, std::function<void(const std::optional<QString>&)> done) const {
-    return m_keychain.read(enumName(service), [done = std::move(done)](const SecretStore::Secret& secret) {
-        done(secret ? *secret : std::nullopt);
+Handle WidgetAccounts::secret(Service service, std::function<void(const SecretStore::Secret&)> done) const {
+    return m_keychain.read(enumName(service), std::move(done));
+}
+
+Handle WidgetAccounts::key(Service service, std::function<void(const std::optional<QString>&)> done) {
+    return secret(service, [this, service, done = std::move(done)](const SecretStore::Secret& found) {
+        set(service, found); // the keyring may have been locked or unlocked behind our back
+        done(found ? *found : std::optional<QString>());
     });
 }
 
@@ -87,9 +92,8 @@ void WidgetAccounts::readFrom(qsizetype position) {
     const Service service = all()[position].service;
     m_reading = m_keychain.read(enumName(service), [this, service, position](const SecretStore::Secret& secret) {
         const bool wasConnected = m_connected.contains(service);
-        const bool isConnected = secret && secret->has_value();
-        set(service, isConnected, secret ? std::nullopt : std::optional(secret.error()));
-        if (m_isRead && isConnected != wasConnected)
+        set(service, secret);
+        if (m_isRead && m_connected.contains(service) != wasConnected)
             onChanged(service); // behind our back, or the keyring was unlocked
         readFrom(position + 1);
     });
@@ -117,13 +121,20 @@ SecretStore::Done WidgetAccounts::finishing(int number, bool isConnected, Secret
     return [this, number, isConnected, done = std::move(done)](std::optional<Problem> problem) {
         const Change change = std::move(m_changes.extract(number).mapped());
         set(change.service, problem ? m_connected.contains(change.service) : isConnected, problem);
+        Q_EMIT changed(); // it is no longer busy
         if (!problem)
             onChanged(change.service);
         done(problem);
     };
 }
 
+void WidgetAccounts::set(Service service, const SecretStore::Secret& found) {
+    set(service, found && found->has_value(), found ? std::nullopt : std::optional(found.error()));
+}
+
 void WidgetAccounts::set(Service service, bool isConnected, std::optional<Problem> problem) {
+    if (isConnected == m_connected.contains(service) && problem == this->problem(service))
+        return;
     if (isConnected)
         m_connected.insert(service);
     else

@@ -54,8 +54,11 @@ public:
     bool isRead() const { return m_isRead; } ///< whether all of them were looked at
     bool isBusy(Service service) const;      ///< a change is on its way, perhaps waiting for the user
 
-    /// The key of a service, which is not kept. Nothing where the keyring has none or doesn't give it.
-    Handle key(Service service, std::function<void(const std::optional<QString>&)> done) const;
+    /// The key of a service, which is not kept.
+    Handle secret(Service service, std::function<void(const SecretStore::Secret&)> done) const;
+    /// The same; nothing where the keyring has none or doesn't give it, which `connected` and `problem` know from then
+    /// on. The caller learns of a key that came or went by this, not by `onChanged`.
+    Handle key(Service service, std::function<void(const std::optional<QString>&)> done);
 
     /// Looks once which services have a key, one after the other.
     void read();
@@ -75,6 +78,7 @@ Q_SIGNALS:
 
 private:
     void readFrom(qsizetype position);
+    void set(Service service, const SecretStore::Secret& found);
     void set(Service service, bool isConnected, std::optional<Problem> problem);
     SecretStore::Done finishing(int number, bool isConnected, SecretStore::Done done);
 

@@ -1,5 +1,7 @@
 #include "Widgets/Widgets.h"
 
+#include "Widgets/WidgetSizes.h"
+
 #include <algorithm>
 
 namespace fendrel {
@@ -8,7 +10,8 @@ using namespace std::chrono_literals;
 using Service = WidgetAccounts::Service;
 
 Widgets::Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, WidgetAccounts& accounts)
-    : m_accounts(accounts),
+    : m_settings(settings),
+      m_accounts(accounts),
       m_linearClient(http),
       m_github(Service::github, accounts, clock, http, 300s,
                [&http](const QString& key, auto done) { return github::fetch(http, key, std::move(done)); }),
@@ -28,7 +31,7 @@ Widgets::Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, Widget
     m_accounts.onChanged = [this](Service service) {
         for (const auto& [widget, feed] : m_feeds)
             if (WidgetAccounts::usedBy(widget).contains(service))
-                feed->refresh(true);
+                feed->refreshForNewKey();
     };
 }
 
@@ -37,8 +40,37 @@ Widgets::~Widgets() {
 }
 
 void Widgets::sync(const Mode& current) {
+    const QList<WidgetItem> items = widgetItems(current.widgets);
+    const auto isPlaced = [&items](DockWidget widget) {
+        return std::ranges::find(items, widget, &WidgetItem::widget) != items.end();
+    };
+    // Their cards say whether there is a key.
+    if (std::ranges::any_of(items, [](const auto& item) { return !WidgetAccounts::usedBy(item.widget).isEmpty(); }))
+        m_accounts.read();
     for (const auto& [widget, feed] : m_feeds)
-        feed->setActive(current.widgets.contains(enumName(widget)));
+        feed->setActive(isPlaced(widget));
+}
+
+QHash<QString, StoredValue> Widgets::settings() {
+    return {{WidgetSizes::settingKey, QByteArray()},
+            {WeatherFeed::settingKey, QByteArray()},
+            {Ticker::settingKey, QStringList()}};
+}
+
+void Widgets::reset(const QStringList& keys) {
+    bool isChanged = false;
+    for (const auto& [key, kind] : settings().asKeyValueRange()) {
+        isChanged |= keys.contains(key);
+        if (keys.contains(key))
+            m_settings.remove(key);
+    }
+    if (isChanged)
+        reload();
+}
+
+void Widgets::reload() {
+    m_weather.reload();
+    m_ticker.reload();
 }
 
 Feed* Widgets::feed(DockWidget widget) {

@@ -29,6 +29,13 @@ public:
     /// To be told which mode is shown, and when its widgets change.
     void sync(const Mode& current);
 
+    /// The settings that are the widgets' own, each with a value of its type.
+    static QHash<QString, StoredValue> settings();
+    /// Lets defaults apply again; keys that are not its own stay as they are.
+    void reset(const QStringList& keys);
+    /// Takes over what was changed in the settings themselves.
+    void reload();
+
     /// The feed behind a widget; null for one that asks nobody.
     Feed* feed(DockWidget widget);
 
@@ -39,8 +46,16 @@ public:
     SentryFeed& sentry() { return m_sentry; }
     WeatherFeed& weather() { return m_weather; }
     Ticker& ticker() { return m_ticker; }
+    const GitHubFeed& github() const { return m_github; }
+    const RevenueFeed& revenue() const { return m_revenue; }
+    const DeploysFeed& deploys() const { return m_deploys; }
+    const LinearFeed& linear() const { return m_linear; }
+    const SentryFeed& sentry() const { return m_sentry; }
+    const WeatherFeed& weather() const { return m_weather; }
+    const Ticker& ticker() const { return m_ticker; }
 
 private:
+    SettingsStore& m_settings;
     WidgetAccounts& m_accounts;
     linear::Client m_linearClient;
     GitHubFeed m_github;

@@ -28,7 +28,7 @@ FakeHttp::Outcome deployed(const QByteArray& project) {
 struct World {
     World() {
         store.secrets[u"vercel"_s] = u"key"_s;
-        accounts.onChanged = [this](Service) { vercel.refresh(true); };
+        accounts.onChanged = [this](Service) { vercel.refreshForNewKey(); };
     }
     QString shown() const { return vercel.value() ? vercel.value()->value(0).project : QString(); }
     void show() {
@@ -156,6 +156,7 @@ private Q_SLOTS:
         QCOMPARE(world.http.requests.size(), 0);
         QCOMPARE(world.vercel.error(), u"Couldn't reach Vercel"_s);
         world.http.setOnline(true);
+        world.store.answer();
         world.http.setOnline(true);
         world.store.answer();
         QCOMPARE(world.http.requests.size(), 1);
@@ -166,19 +167,41 @@ private Q_SLOTS:
         world.clock.sleep(8h);
         world.store.answer();
         QCOMPARE(world.http.requests.size(), 2);
+        // Waking, it asked before the system saw that the network was gone.
+        world.http.setOnline(false);
+        world.http.setOnline(true);
+        world.store.answer();
+        QCOMPARE(world.http.requests.size(), 3);
+        QCOMPARE(world.http.waiting(), 1U);
     }
 
+    void leavesAServiceAloneThatAsksForIt_data() {
+        const Table<HttpHeaders, int> row("headers", "minutes");
+        row("for so long", {{"retry-after", "600"}}, 10);
+        row("until a date", {{"retry-after", "Mon, 05 Jan 2026 09:01:00 GMT"}}, 20);
+        row("and doesn't say how long", {}, 20);
+    }
     void leavesAServiceAloneThatAsksForIt() {
+        QFETCH(const HttpHeaders, headers);
+        QFETCH(const int, minutes);
         World world;
         world.show();
-        world.http.answerNext(FakeHttp::answer({}, 429, {{"retry-after", "600"}}));
+        world.http.answerNext(FakeHttp::answer({}, 429, headers));
         QCOMPARE(world.vercel.error(), u"Vercel answered 429"_s);
-        world.clock.advance(9min);
-        world.store.answer();
+        world.clock.advance(std::chrono::minutes(minutes - 1));
+        world.refresh(true); // who presses a button is no exception
+        world.http.setOnline(false);
+        world.refresh(true);
+        world.http.setOnline(true);
+        world.refresh(true);
         QCOMPARE(world.http.requests.size(), 1);
         world.clock.advance(4min);
         world.store.answer();
         QCOMPARE(world.http.requests.size(), 2);
+        world.http.answerNext(FakeHttp::answer({}, 429, headers));
+        world.accounts.save(u"another"_s, Service::vercel); // of which nobody asked for a pause
+        world.store.answer();
+        QCOMPARE(world.http.requests.size(), 3);
     }
 
     void weatherIsOfThePickedCity() {
@@ -204,23 +227,59 @@ private Q_SLOTS:
         QCOMPARE(report.hours.size(), 2); // those gone by, and one without a temperature, are left out
         QCOMPARE(report.hours.first().temperature, -1.6);
 
+        const auto askEveryHalfHour = world.http.requests.size();
+        world.clock.advance(30min);
+        world.clock.advance(300ms);
+        world.http.answerNext(recorded(u"forecast.json"_s)); // later than the timer
+        world.clock.advance(30min);
+        QCOMPARE(world.http.requests.size(), askEveryHalfHour + 2);
+        world.http.answerNext(recorded(u"forecast.json"_s));
+
         const auto asked = world.http.requests.size();
         weather.refresh(false);
         world.clock.advance(29min);
         QCOMPARE(world.http.requests.size(), asked);
+        world.clock.setNow(world.clock.now() - 24h);
+        world.clock.advance(30min);
+        QCOMPARE(world.http.requests.size(), asked + 1);
+        world.http.answerNext(recorded(u"forecast.json"_s));
 
         QList<bool> found;
-        weather.setCity(u" A+B "_s, [&](bool isFound) { found.append(isFound); });
+        weather.setCity(u" A+B "_s, [&](const auto& outcome) { found.append(outcome && *outcome); });
         QCOMPARE(world.http.requests.last().url.toEncoded(),
                  "https://geocoding-api.open-meteo.com/v1/search?name=A%2BB&count=1");
         world.http.answerNext(FakeHttp::answer(R"({"generationtime_ms":0.4})"));
-        weather.setCity(u"Berlin"_s, [&](bool isFound) { found.append(isFound); });
+        weather.setCity(u"Berlin"_s, [&](const auto& outcome) { found.append(outcome && *outcome); });
         world.http.answerNext(recorded(u"search.json"_s));
         QCOMPARE(found, (QList{false, true}));
         QVERIFY(!weather.isPlaceGuessed());
         world.clock.advance(0s);
         world.http.answerNext(FakeHttp::answer("<html>"));
         QCOMPARE(weather.error(), u"Can't reach Open-Meteo"_s);
+    }
+
+    void aGuessedCityGoesWithItsZone() {
+        const QByteArray home = qgetenv("TZ");
+        World world;
+        WeatherFeed weather(world.clock, world.http, world.settings);
+        const auto travel = [&](const QByteArray& zone) {
+            qputenv("TZ", zone);
+            world.clock.advance(30min);
+            return world.http.requests.last().url.query();
+        };
+        weather.setActive(true);
+        world.clock.advance(0s);
+        world.http.answerNext(recorded(u"search.json"_s));
+        world.http.answerNext(recorded(u"forecast.json"_s));
+        QCOMPARE(travel("Asia/Tokyo"), u"name=Tokyo&count=1"_s);
+        world.http.answerNext(FakeHttp::error());
+        QVERIFY(weather.report()); // better than nothing
+        world.clock.advance(30min);
+        world.http.answerNext(FakeHttp::answer(R"({"results":[{"name":"Tokyo","latitude":35.7,"longitude":139.7}]})"));
+        QCOMPARE(weather.place()->name, u"Tokyo"_s);
+        QVERIFY(!weather.report());
+        world.http.answerNext(recorded(u"forecast.json"_s));
+        QVERIFY(travel(home).startsWith(u"name="_s));
     }
 
     void weatherHasNames_data() {
@@ -279,10 +338,18 @@ private Q_SLOTS:
         QCOMPARE(quotes[1].move(), 3.5);
         QCOMPARE(quotes[1].points, (QList<double>{268.5, 270.0, 271.5}));
 
+        for (const auto& [body, status] : {std::pair("<html>", 200), {"", 503}, {"", 429}}) {
+            world.clock.advance(6min);
+            world.http.serve([=](const auto&) { return FakeHttp::answer(body, status); });
+            QCOMPARE(ticker.quotes().size(), 2); // old, and still right
+            QCOMPARE(ticker.error(), u"Couldn't load ^GSPC, A/../B, AAPL"_s);
+        }
+        const auto asked = world.http.requests.size();
+        world.clock.advance(18min);
+        QCOMPARE(world.http.requests.size(), asked); // after "too many requests"
         world.clock.advance(6min);
-        world.http.serve([](const auto&) { return FakeHttp::answer({}, 429, {{"retry-after", "60"}}); });
-        QCOMPARE(ticker.quotes().size(), 2);
-        QCOMPARE(ticker.error(), u"Couldn't load ^GSPC, A/../B, AAPL"_s);
+        world.http.serve([](const auto&) { return FakeHttp::answer(R"({"chart":{"result":[]}})"); });
+        QVERIFY(ticker.quotes().isEmpty());
     }
 };
 

@@ -34,7 +34,7 @@ FakeHttp::Outcome stripeSold(int amount) {
 struct World {
     explicit World(const QHash<QString, QString>& keys) {
         store.secrets = keys;
-        accounts.onChanged = [this](Service) { feed.refresh(true); };
+        accounts.onChanged = [this](Service) { feed.refreshForNewKey(); };
         accounts.read();
         store.answer();
         answers[u"open.er-api.com"_s] = [](const auto&) { return FakeHttp::answer(recorded(u"rates.json"_s)); };
@@ -171,6 +171,9 @@ private Q_SLOTS:
         world.refresh();
         QTEST(static_cast<int>(world.asked(host)), "pages");
         QVERIFY(!world.feed.isLoading());
+        QVERIFY(world.feed.today().isCut);
+        world.clock.advance(24h);
+        QVERIFY(!world.feed.today().isCut); // that was yesterday
     }
 
     void lemonSqueezyMayRefuseToSort() {
@@ -240,8 +243,16 @@ private Q_SLOTS:
 
     void ratesAreAskedOnceADay() {
         World world({{u"stripe"_s, u"s"_s}});
-        world.answers[u"api.stripe.com"_s] = constantly(stripeSold(1));
-        world.refresh();
+        const auto dollars = stripeSold(1)->body;
+        const auto euros = QByteArray(dollars).replace("usd", "eur");
+        world.answers[u"api.stripe.com"_s] =
+            constantly(FakeHttp::answer(dollars.chopped(2) + ',' + euros.sliced(euros.indexOf('[') + 1)));
+        world.feed.setActive(true);
+        world.store.answer();
+        world.http.answerNext(world.answers[u"api.stripe.com"_s]({}));
+        QVERIFY(!world.feed.today().combined);
+        world.serve();
+        QVERIFY(world.feed.today().combined);
         world.refresh();
         QCOMPARE(world.asked(u"open.er-api.com"_s), 1);
         QCOMPARE(world.settings.read<QString>(u"exchangeRatesDay"_s), u"2026-01-05"_s);
@@ -269,6 +280,11 @@ private Q_SLOTS:
         QCOMPARE(world.asked(u"paddle"_s), 1);
         QCOMPARE(world.asked(u"stripe"_s), 2);
         QCOMPARE(world.problem(Service::paddle), u"Paddle answered 429"_s);
+        world.http.setOnline(false);
+        world.refresh();
+        world.http.setOnline(true);
+        world.refresh();
+        QCOMPARE(world.asked(u"paddle"_s), 1);
         world.clock.advance(21s);
         world.refresh();
         QCOMPARE(world.asked(u"paddle"_s), 2);

@@ -138,10 +138,8 @@ private Q_SLOTS:
         const auto github = sayings(github::readSnapshot, u"GitHub"_s);
         row("vercel: a refused key", vercel, 403, "{}", u"Vercel didn't accept the key"_s);
         row("vercel: only 200 is good", vercel, 204, {}, u"Vercel answered 204"_s);
-        row("vercel: a page", vercel, 200, "<html>", u"Vercel sent something unexpected"_s);
         row("vercel: a redirect", vercel, 302, {}, u"Vercel answered 302"_s);
-        row("vercel: nothing", vercel, 200, {}, u"Vercel sent something unexpected"_s);
-        row("vercel: cut off", vercel, 200, R"({"deployments":[{"name":)", u"Vercel sent something unexpected"_s);
+        row("vercel: no list", vercel, 200, "{}", u"Vercel sent something unexpected"_s);
         row("linear: errors only", linear, 200, R"({"errors":[{}]})", u"Linear sent no data"_s);
         row("linear: data is null", linear, 200, R"({"data":null})", u"Linear sent no data"_s);
         row("linear: no list", linear, 200, R"({"data":{"viewer":null}})", u"Linear sent something unexpected"_s);

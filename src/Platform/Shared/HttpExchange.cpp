@@ -3,6 +3,7 @@
 #include <QMetaEnum>
 #include <QNetworkAccessManager>
 #include <QNetworkRequest>
+#include <QSslConfiguration>
 #include <QSslError>
 
 #include <utility>
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QNetworkRequest networkRequest(const HttpRequest& request) {
+QNetworkRequest networkRequest(const HttpRequest& request, const QSslConfiguration* security) {
     QNetworkRequest prepared(request.url);
     prepared.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     prepared.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
@@ -26,6 +27,8 @@ QNetworkRequest networkRequest(const HttpRequest& request) {
     prepared.setDecompressedSafetyCheckThreshold(request.sizeLimit);
     for (const auto& [name, value] : request.headers)
         prepared.setRawHeader(name, value);
+    if (security)
+        prepared.setSslConfiguration(*security);
     return prepared;
 }
 
@@ -51,15 +54,16 @@ void HttpExchange::Aborter::operator()(QNetworkReply* reply) const {
     reply->deleteLater(); // it may be its own signal that ends it
 }
 
-HttpExchange::HttpExchange(QNetworkAccessManager& manager, Clock& clock, const HttpRequest& request, Done done)
+HttpExchange::HttpExchange(QNetworkAccessManager& manager, Clock& clock, const HttpRequest& request,
+                           const QSslConfiguration* security, Done done)
     : m_done(std::move(done)),
       m_host(request.url.host()),
       m_sizeLimit(request.sizeLimit),
-      m_reply(manager.sendCustomRequest(networkRequest(request), request.method, request.body)),
+      m_reply(manager.sendCustomRequest(networkRequest(request, security), request.method, request.body)),
       m_deadline(clock.after(request.timeout, [this] { fail(HttpError::Kind::timedOut, u"no answer in time"_s); })) {
     auto* const reply = m_reply.get();
     // Without this a fast server could fill the memory between two reads.
-    reply->setReadBufferSize(256 * 1024);
+    reply->setReadBufferSize(qint64{256} * 1024);
     QObject::connect(reply, &QNetworkReply::readyRead, &m_context, [this] { read(); });
     QObject::connect(reply, &QNetworkReply::sslErrors, &m_context, [this](const QList<QSslError>& errors) {
         if (!errors.isEmpty())

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QNetworkAccessManager;
+class QSslConfiguration;
 
 namespace fendrel {
 
@@ -18,8 +19,9 @@ public:
     using Outcome = Result<HttpResponse, HttpError>;
     using Done = std::function<void(const Outcome&)>;
 
-    /// `done` runs once, from the event loop. It may destroy this.
-    HttpExchange(QNetworkAccessManager& manager, Clock& clock, const HttpRequest& request, Done done);
+    /// `security` may be null: the system's. `done` runs once, from the event loop. It may destroy this.
+    HttpExchange(QNetworkAccessManager& manager, Clock& clock, const HttpRequest& request,
+                 const QSslConfiguration* security, Done done);
 
 private:
     struct Aborter {

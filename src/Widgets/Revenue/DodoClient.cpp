@@ -14,7 +14,7 @@ constexpr int pageLimit = 10;
 constexpr int lookupsAtOnce = 4;
 
 template<class Item, class Request, class Read>
-Handle fetchPages(HttpClient& http, const Request& request, const Read& read, FetchDone<QList<Item>> done) {
+Handle fetchPages(HttpClient& http, const Request& request, const Read& read, FetchDone<revenue::Listed<Item>> done) {
     return revenue::Pages<Item>::fetch(
         http, request(0), pageLimit,
         [request, read](const HttpResponse& response, int position) { return read(response, request(position + 1)); },
@@ -27,7 +27,7 @@ Handle fetchPages(HttpClient& http, const Request& request, const Read& read, Fe
 class Client::Day {
 public:
     Day(HttpClient& http, std::shared_ptr<Settlements> settlements, QString key, WallTime since,
-        FetchDone<QList<Sale>> done)
+        FetchDone<revenue::Listed<Sale>> done)
         : m_http(http),
           m_settlements(std::move(settlements)),
           m_key(std::move(key)),
@@ -40,7 +40,8 @@ public:
             [this](const auto& fetched) {
                 if (!fetched)
                     return fail(fetched.error());
-                m_payments = *fetched;
+                m_payments = fetched->items;
+                m_isCut = fetched->isCut;
                 askRefunds();
             });
     }
@@ -57,7 +58,8 @@ private:
             [this](const auto& fetched) {
                 if (!fetched)
                     return fail(fetched.error());
-                m_refunds = *fetched;
+                m_refunds = fetched->items;
+                m_isCut = m_isCut || fetched->isCut;
                 askSettlements();
             });
     }
@@ -69,7 +71,7 @@ private:
             return askPayments();
         }
         const auto done = std::move(m_done); // it may drop the handle, and this object with it
-        done(Fetched<QList<Sale>>::failure(failure));
+        done(Fetched<revenue::Listed<Sale>>::failure(failure));
     }
 
     void askSettlements() {
@@ -100,24 +102,25 @@ private:
         if (m_underWay > 0)
             return;
         const auto done = std::move(m_done);
-        done(sales(m_payments, m_refunds, *m_settlements));
+        done(revenue::Listed<Sale>{.items = sales(m_payments, m_refunds, *m_settlements), .isCut = m_isCut});
     }
 
     HttpClient& m_http;
     std::shared_ptr<Settlements> m_settlements;
     QString m_key;
     WallTime m_since;
-    FetchDone<QList<Sale>> m_done;
+    FetchDone<revenue::Listed<Sale>> m_done;
     Mode m_mode = Mode::live;
     QList<Payment> m_payments;
     QList<Refund> m_refunds;
+    bool m_isCut = false;
     QStringList m_unsettled;
     int m_underWay = 0;
     Handle m_lists;
     std::map<QString, Handle> m_lookups;
 };
 
-Handle Client::fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
+Handle Client::fetch(const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done) {
     const auto day = std::make_shared<Day>(m_http, m_settlements, key, since, std::move(done));
     day->askPayments();
     return Handle([day] { day->cancel(); });

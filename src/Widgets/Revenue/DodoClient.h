@@ -11,7 +11,7 @@ namespace fendrel::dodo {
 class Client {
 public:
     explicit Client(HttpClient& http) : m_http(http) {}
-    Handle fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> done);
+    Handle fetch(const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done);
 
 private:
     using Settlements = QHash<QString, std::optional<Settlement>>;

@@ -79,7 +79,7 @@ Fetched<revenue::Page<Sale>> readOrders(const HttpResponse& response, const Http
     return page;
 }
 
-Handle Client::fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
+Handle Client::fetch(const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done) {
     const bool isSorted = *m_unsortedKey != digest(key);
     const auto first = ordersRequest(key, isSorted);
     auto read = [=, unsortedKey = m_unsortedKey, isRetried = false](const HttpResponse& response,

@@ -17,7 +17,7 @@ Fetched<revenue::Page<Sale>> readOrders(const HttpResponse& response, const Http
 class Client {
 public:
     explicit Client(HttpClient& http) : m_http(http) {}
-    Handle fetch(const QString& key, WallTime since, FetchDone<QList<Sale>> done);
+    Handle fetch(const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done);
 
 private:
     HttpClient& m_http;

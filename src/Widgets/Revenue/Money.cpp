@@ -26,6 +26,27 @@ struct Closer {
 using Formatter = std::unique_ptr<UNumberFormatter, Closer<unumf_close>>;
 using Formatted = std::unique_ptr<UFormattedNumber, Closer<unumf_closeResult>>;
 
+/// As a skeleton of ICU's says; nothing where it doesn't understand one of them.
+std::optional<QString> formatted(const QByteArray& number, const QString& skeleton, const QLocale& locale) {
+    UErrorCode error = U_ZERO_ERROR;
+    const Formatter formatter(unumf_openForSkeletonAndLocale(skeleton.toStdU16String().c_str(), -1,
+                                                             locale.bcp47Name().toLatin1().constData(), &error));
+    const Formatted result(unumf_openResult(&error));
+    unumf_formatDecimal(formatter.get(), number.constData(), static_cast<int32_t>(number.size()), result.get(), &error);
+    std::u16string text(128, u'\0');
+    const int32_t length = unumf_resultToString(result.get(), text.data(), static_cast<int32_t>(text.size()), &error);
+    return U_FAILURE(error) ? std::nullopt : std::optional(QString::fromUtf16(text.data(), length));
+}
+
+/// Written as a decimal number, so that no digit of a large amount is lost on the way.
+QByteArray exactNumber(const Money& money) {
+    return QByteArray::number(money.amount) + "E-" + QByteArray::number(fractionDigits(money.currency));
+}
+
+QString plainText(const Money& money, const QLocale& locale) {
+    return money.currency + u' ' + locale.toString(decimalAmount(money), 'f', fractionDigits(money.currency));
+}
+
 } // namespace
 
 int fractionDigits(const QString& currency) {
@@ -61,22 +82,16 @@ qint64 saturatingSum(qint64 left, qint64 right) {
 }
 
 QString text(const Money& money, const QLocale& locale) {
-    // Written as a decimal number, so that no digit of a large amount is lost on the way.
-    const QByteArray number =
-        QByteArray::number(money.amount) + "E-" + QByteArray::number(fractionDigits(money.currency));
-    const auto skeleton = (u"currency/"_s + money.currency).toStdU16String();
-    UErrorCode error = U_ZERO_ERROR;
-    const Formatter formatter(
-        unumf_openForSkeletonAndLocale(skeleton.c_str(), -1, locale.bcp47Name().toLatin1().constData(), &error));
-    const Formatted formatted(unumf_openResult(&error));
-    unumf_formatDecimal(formatter.get(), number.constData(), static_cast<int32_t>(number.size()), formatted.get(),
-                        &error);
-    std::u16string text(128, u'\0');
-    const int32_t length =
-        unumf_resultToString(formatted.get(), text.data(), static_cast<int32_t>(text.size()), &error);
-    if (U_FAILURE(error))
-        return money.currency + u' ' + locale.toString(decimalAmount(money), 'f', fractionDigits(money.currency));
-    return QString::fromUtf16(text.data(), length);
+    return formatted(exactNumber(money), u"currency/"_s + money.currency, locale).value_or(plainText(money, locale));
+}
+
+QString shortText(const Money& money, const QLocale& locale) {
+    return formatted(exactNumber(money), u"compact-short currency/"_s + money.currency, locale)
+        .value_or(plainText(money, locale));
+}
+
+QString shortText(qint64 count, const QLocale& locale) {
+    return formatted(QByteArray::number(count), u"compact-short"_s, locale).value_or(locale.toString(count));
 }
 
 } // namespace fendrel

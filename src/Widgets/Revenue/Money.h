@@ -32,5 +32,8 @@ qint64 saturatingSum(qint64 left, qint64 right);
 
 /// As people there write it.
 QString text(const Money& money, const QLocale& locale = QLocale());
+/// In as few characters as the language knows for it, rounded: "€1.2K".
+QString shortText(const Money& money, const QLocale& locale = QLocale());
+QString shortText(qint64 count, const QLocale& locale = QLocale());
 
 } // namespace fendrel

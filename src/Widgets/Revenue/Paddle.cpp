@@ -52,7 +52,7 @@ Fetched<revenue::Page<Sale>> readTransactions(const HttpResponse& response, cons
     return page;
 }
 
-Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
+Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done) {
     const auto first = transactionsRequest(key, since);
     return revenue::Pages<Sale>::fetch(
         http, first, pageLimit,

@@ -10,6 +10,6 @@ HttpRequest transactionsRequest(const QString& key, WallTime since);
 /// `request` is one of the list's.
 Fetched<revenue::Page<Sale>> readTransactions(const HttpResponse& response, const HttpRequest& request);
 
-Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<QList<Sale>> done);
+Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done);
 
 } // namespace fendrel::paddle

@@ -16,6 +16,13 @@ struct Page {
     std::optional<HttpRequest> next{};
 };
 
+/// What its pages brought together.
+template<class Item>
+struct Listed {
+    QList<Item> items{};
+    bool isCut{}; ///< there is more than the limit allows to ask for
+};
+
 /// Follows a list from page to page, up to a limit: a server that always names one more page is not followed for ever.
 template<class Item>
 class Pages {
@@ -23,14 +30,15 @@ public:
     /// `position` counts the answers before this one.
     using Read = std::function<Fetched<Page<Item>>(const HttpResponse& response, int position)>;
 
-    static Handle fetch(HttpClient& http, const HttpRequest& first, int limit, Read read, FetchDone<QList<Item>> done) {
+    static Handle fetch(HttpClient& http, const HttpRequest& first, int limit, Read read,
+                        FetchDone<Listed<Item>> done) {
         const auto pages = std::shared_ptr<Pages>(new Pages(http, limit, std::move(read), std::move(done)));
         pages->ask(first);
         return Handle([pages] { pages->m_request.reset(); });
     }
 
 private:
-    Pages(HttpClient& http, int limit, Read read, FetchDone<QList<Item>> done)
+    Pages(HttpClient& http, int limit, Read read, FetchDone<Listed<Item>> done)
         : m_http(http), m_limit(limit), m_read(std::move(read)), m_done(std::move(done)) {}
 
     void ask(const HttpRequest& request) {
@@ -41,18 +49,19 @@ private:
         const auto page =
             outcome ? m_read(*outcome, m_position) : Fetched<Page<Item>>::failure(failure(outcome.error()));
         if (page)
-            m_items.append(page->items);
+            m_listed.items.append(page->items);
         if (page && page->next && ++m_position < m_limit)
             return ask(*page->next);
+        m_listed.isCut = page && page->next;
         const auto done = std::move(m_done); // it may drop the handle, and this object with it
-        done(page ? Fetched<QList<Item>>(std::move(m_items)) : Fetched<QList<Item>>::failure(page.error()));
+        done(page ? Fetched<Listed<Item>>(std::move(m_listed)) : Fetched<Listed<Item>>::failure(page.error()));
     }
 
     HttpClient& m_http;
     int m_limit;
     Read m_read;
-    FetchDone<QList<Item>> m_done;
-    QList<Item> m_items;
+    FetchDone<Listed<Item>> m_done;
+    Listed<Item> m_listed;
     int m_position = 0;
     Handle m_request;
 };

@@ -31,6 +31,7 @@ struct RevenueDay {
     QList<qint64> cumulative{};
     QString cumulativeCurrency{}; ///< empty without sales
     QList<ServiceSale> entries{}; ///< sales and refunds, the newest first
+    bool isCut{};                 ///< there were more than a provider was asked for: all of this is "at least"
 
     QList<ServiceSale> latest(qsizetype count) const { return entries.first(std::min(count, entries.size())); }
     bool operator==(const RevenueDay&) const = default;

@@ -49,11 +49,20 @@ std::map<WidgetAccounts::Service, RevenueFeed::Outcome> RevenueFeed::results() c
 }
 
 RevenueDay RevenueFeed::today() const {
+    const QDate today = day();
+    const WallTime start = startOf(today);
+    if (m_today && m_today->first == start)
+        return m_today->second;
     QList<ServiceSale> sales;
-    for (const auto& [service, provider] : m_providers)
+    bool isCut = false;
+    for (const auto& [service, provider] : m_providers) {
+        isCut = isCut || (provider.outcome.isCut && provider.day == today);
         for (const Sale& sale : provider.outcome.sales)
             sales.append({.service = service, .sale = sale});
-    return revenueDay(day(), QTimeZone::systemTimeZone(), sales, rates());
+    }
+    RevenueDay folded = revenueDay(today, QTimeZone::systemTimeZone(), sales, rates());
+    folded.isCut = isCut;
+    return m_today.emplace(start, std::move(folded)).second;
 }
 
 QDate RevenueFeed::day() const {
@@ -92,7 +101,7 @@ void RevenueFeed::ask(const std::shared_ptr<Round>& round) {
         return clear();
     if (!http().isOnline())
         for (const auto& [service, key] : round->keys)
-            store(service, Fetched<QList<Sale>>::failure(FetchFailure::unreachable()));
+            store(service, Fetched<revenue::Listed<Sale>>::failure(FetchFailure::unreachable()));
     if (!begin())
         return;
     const auto isPaused = [this](const auto& entry) {
@@ -102,19 +111,19 @@ void RevenueFeed::ask(const std::shared_ptr<Round>& round) {
     std::erase_if(round->keys, isPaused);
     round->waiting = static_cast<qsizetype>(round->keys.size());
     for (const auto& [service, key] : round->keys)
-        round->requests[service] =
-            ask(service, key, startOf(round->day), [this, round, asked = service](const Fetched<QList<Sale>>& fetched) {
-                store(asked, fetched);
-                if (--round->waiting == 0)
-                    finish(round->day);
-                else
-                    Q_EMIT changed();
-            });
+        round->requests[service] = ask(service, key, startOf(round->day),
+                                       [this, round, asked = service](const Fetched<revenue::Listed<Sale>>& fetched) {
+                                           store(asked, fetched);
+                                           if (--round->waiting == 0)
+                                               finish(round->day);
+                                           else
+                                               Q_EMIT changed();
+                                       });
     if (round->keys.empty())
         finish(round->day);
 }
 
-Handle RevenueFeed::ask(Service service, const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
+Handle RevenueFeed::ask(Service service, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done) {
     switch (service) {
     case Service::stripe:
         return stripe::fetch(http(), key, since, std::move(done));
@@ -131,6 +140,7 @@ Handle RevenueFeed::ask(Service service, const QString& key, WallTime since, Fet
 
 /// What was sold on another day, or with another key, shows nowhere, not even beside a failure.
 void RevenueFeed::forgetOthers(const Round& round) {
+    m_today.reset();
     std::erase_if(m_providers, [&round](const auto& entry) { return !round.keys.contains(entry.first); });
     for (const auto& [service, key] : round.keys) {
         Provider& provider = m_providers[service];
@@ -138,18 +148,20 @@ void RevenueFeed::forgetOthers(const Round& round) {
         if (provider.keyDigest != keyDigest)
             provider = {.keyDigest = keyDigest};
         if (provider.day != round.day)
-            provider.outcome.sales.clear();
+            provider.outcome = {.problem = provider.outcome.problem};
         provider.day = round.day;
     }
 }
 
-void RevenueFeed::store(Service service, const Fetched<QList<Sale>>& fetched) {
+void RevenueFeed::store(Service service, const Fetched<revenue::Listed<Sale>>& fetched) {
+    m_today.reset();
     Provider& provider = m_providers[service];
     provider.isUnreachable = !fetched && fetched.error().kind == FetchFailure::Kind::unreachable;
-    provider.notBefore.reset();
     provider.outcome.problem.clear();
     if (fetched) {
-        provider.outcome.sales = *fetched;
+        provider.outcome.sales = fetched->items;
+        provider.outcome.isCut = fetched->isCut;
+        provider.outcome.updatedAt = clock().now();
         return;
     }
     provider.outcome.problem = message(fetched.error(), WidgetAccounts::description(service).name);
@@ -158,7 +170,10 @@ void RevenueFeed::store(Service service, const Fetched<QList<Sale>>& fetched) {
 }
 
 void RevenueFeed::finish(QDate day) {
-    m_rates.refresh(day, [this] { Q_EMIT changed(); });
+    m_rates.refresh(day, [this] {
+        m_today.reset();
+        Q_EMIT changed();
+    });
     const bool isCutOff = std::ranges::all_of(m_providers, [](const auto& each) { return each.second.isUnreachable; });
     isCutOff ? fail(FetchFailure::unreachable()) : succeed();
 }

@@ -16,8 +16,10 @@ public:
     using Service = WidgetAccounts::Service;
 
     struct Outcome {
-        QList<Sale> sales{}; ///< what the last good answer of the day brought
-        QString problem{};   ///< what the card says beside them; empty: the last fetch went well
+        QList<Sale> sales{};                 ///< what the last good answer of the day brought
+        bool isCut{};                        ///< there are more of them
+        std::optional<WallTime> updatedAt{}; ///< of that answer
+        QString problem{};                   ///< what the card says beside them; empty: the last fetch went well
         bool operator==(const Outcome&) const = default;
     };
 
@@ -44,9 +46,9 @@ private:
     };
 
     void ask(const std::shared_ptr<Round>& round);
-    Handle ask(Service service, const QString& key, WallTime since, FetchDone<QList<Sale>> done);
+    Handle ask(Service service, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done);
     void forgetOthers(const Round& round);
-    void store(Service service, const Fetched<QList<Sale>>& fetched);
+    void store(Service service, const Fetched<revenue::Listed<Sale>>& fetched);
     void finish(QDate day);
     QDate day() const;
 
@@ -56,6 +58,8 @@ private:
     ExchangeRates m_rates;
     std::map<Service, Provider> m_providers;
     Handle m_midnight;
+    /// What `today` came to, and the beginning of its day: views ask again and again.
+    mutable std::optional<std::pair<WallTime, RevenueDay>> m_today;
 };
 
 } // namespace fendrel

@@ -19,11 +19,10 @@ bool readSale(const QJsonObject& item, QList<Sale>& sales) {
     const auto money = providerMoney(item["amount"_L1], item["currency"_L1], stripeDigits);
     if (!money || (!isSale && !isRefund))
         return true; // a payout, a fee
-    const auto created = json::integer(item["created"_L1]);
-    if (!created || *created < 0 || *created > std::numeric_limits<qint32>::max() * qint64{1000})
-        return false;
-    sales.append({.money = *money, .created = WallTime(std::chrono::seconds(*created))});
-    return true;
+    const auto created = json::unixTime(item["created"_L1], std::chrono::seconds(1));
+    if (created)
+        sales.append({.money = *money, .created = *created});
+    return created.has_value();
 }
 
 } // namespace
@@ -55,7 +54,7 @@ Fetched<revenue::Page<Sale>> readTransactions(const HttpResponse& response, cons
     return page;
 }
 
-Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<QList<Sale>> done) {
+Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done) {
     return revenue::Pages<Sale>::fetch(
         http, transactionsRequest(key, since), pageLimit,
         [key, since](const HttpResponse& response, int) { return readTransactions(response, key, since); },

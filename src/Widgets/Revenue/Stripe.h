@@ -9,6 +9,6 @@ namespace fendrel::stripe {
 HttpRequest transactionsRequest(const QString& key, WallTime since, const QString& after = {});
 Fetched<revenue::Page<Sale>> readTransactions(const HttpResponse& response, const QString& key, WallTime since);
 
-Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<QList<Sale>> done);
+Handle fetch(HttpClient& http, const QString& key, WallTime since, FetchDone<revenue::Listed<Sale>> done);
 
 } // namespace fendrel::stripe

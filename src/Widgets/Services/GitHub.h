@@ -3,13 +3,16 @@
 #include "Widgets/FetchFailure.h"
 
 #include <QList>
+#include <QObject>
 #include <QUrl>
 
 #include <optional>
 
 namespace fendrel::github {
+Q_NAMESPACE
 
 enum class CI { passing, failing, running };
+Q_ENUM_NS(CI)
 
 struct PullRequest {
     QString title{};

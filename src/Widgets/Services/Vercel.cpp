@@ -34,7 +34,7 @@ Fetched<QList<Deploy>> readDeploys(const HttpResponse& response) {
     QList<Deploy> deploys;
     for (const auto& each : body->value("deployments"_L1).toArray()) {
         const auto item = each.toObject();
-        const auto created = json::integer(item["created"_L1]);
+        const auto created = json::unixTime(item["created"_L1], std::chrono::milliseconds(1));
         const QString project = item["name"_L1].toString();
         if (project.isEmpty() || !created)
             continue;
@@ -42,7 +42,7 @@ Fetched<QList<Deploy>> readDeploys(const HttpResponse& response) {
         deploys.append({.project = project,
                         .state = state(readyState.isEmpty() ? item["state"_L1].toString() : readyState),
                         .target = item["target"_L1].toString(),
-                        .created = WallTime(std::chrono::milliseconds(*created)),
+                        .created = *created,
                         .inspector = json::webAddress(item["inspectorUrl"_L1]),
                         .commitMessage = item["meta"_L1]["githubCommitMessage"_L1].toString()});
     }

@@ -4,12 +4,15 @@
 #include "Widgets/FetchFailure.h"
 
 #include <QList>
+#include <QObject>
 #include <QUrl>
 
 namespace fendrel::vercel {
+Q_NAMESPACE
 
 /// In the order in which the card counts them.
 enum class State { ready, building, error, canceled, queued };
+Q_ENUM_NS(State)
 
 struct Deploy {
     QString project{};

@@ -20,15 +20,21 @@ HttpRequest chartRequest(const QString& symbol) {
             .headers = {{"User-Agent", "Mozilla/5.0"}}};
 }
 
-Fetched<Quote> readChart(const HttpResponse& response, const QString& symbol) {
+Fetched<std::optional<Quote>> readChart(const HttpResponse& response, const QString& symbol) {
+    using Found = Fetched<std::optional<Quote>>;
+    if (response.status == 404)
+        return std::optional<Quote>();
     if (const auto refused = answered(response, symbol))
-        return Fetched<Quote>::failure(*refused);
+        return Found::failure(*refused);
     const auto body = json::object(response.body).value_or(QJsonObject());
-    const auto result = body["chart"_L1]["result"_L1].toArray().at(0);
+    const auto results = body["chart"_L1]["result"_L1];
+    if (results.isNull() || (results.isArray() && results.toArray().isEmpty()))
+        return std::optional<Quote>();
+    const auto result = results.toArray().at(0);
     const auto meta = result["meta"_L1];
     const auto price = meta["regularMarketPrice"_L1];
     if (!price.isDouble())
-        return Fetched<Quote>::failure(FetchFailure::undecodable());
+        return Found::failure(FetchFailure::undecodable());
     const auto chartClose = meta["chartPreviousClose"_L1];
     const auto close = chartClose.isDouble() ? chartClose : meta["previousClose"_L1];
     Quote quote{.symbol = symbol,
@@ -39,7 +45,7 @@ Fetched<Quote> readChart(const HttpResponse& response, const QString& symbol) {
     for (const auto& point : result["indicators"_L1]["quote"_L1].toArray().at(0)["close"_L1].toArray())
         if (point.isDouble())
             quote.points.append(point.toDouble());
-    return quote;
+    return std::optional(std::move(quote));
 }
 
 } // namespace fendrel::ticker

@@ -20,6 +20,7 @@ struct Quote {
 
 /// The chart that the service's own pages ask for; it is documented nowhere.
 HttpRequest chartRequest(const QString& symbol);
-Fetched<Quote> readChart(const HttpResponse& response, const QString& symbol);
+/// Nothing: there is no such symbol.
+Fetched<std::optional<Quote>> readChart(const HttpResponse& response, const QString& symbol);
 
 } // namespace fendrel::ticker

@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString symbolsKey = u"tickerSymbols"_s;
-
 QStringList tidy(const QStringList& symbols) {
     QStringList kept;
     for (const auto& each : symbols) {
@@ -23,18 +21,31 @@ QStringList tidy(const QStringList& symbols) {
     return kept;
 }
 
+/// Of several failures the one counts that says when to ask again.
+int urgency(const FetchFailure& failure) {
+    if (failure.retryAfter)
+        return 2;
+    return failure.kind == FetchFailure::Kind::unreachable ? 1 : 0;
+}
+
 } // namespace
+
+const QString Ticker::settingKey = u"tickerSymbols"_s;
 
 Ticker::Ticker(Clock& clock, HttpClient& http, SettingsStore& settings)
     : Feed(clock, http, {.interval = std::chrono::seconds(300), .tolerance = std::chrono::seconds(30)}),
       m_settings(settings) {}
 
 QStringList Ticker::symbols() const {
-    return tidy(m_settings.read<QStringList>(symbolsKey).value_or(QStringList()));
+    return tidy(m_settings.read<QStringList>(settingKey).value_or(QStringList()));
 }
 
 void Ticker::setSymbols(const QStringList& symbols) {
-    m_settings.set(symbolsKey, tidy(symbols));
+    m_settings.set(settingKey, tidy(symbols));
+    reload();
+}
+
+void Ticker::reload() {
     if (isActive())
         refresh(true);
     Q_EMIT changed();
@@ -67,23 +78,22 @@ Handle Ticker::fetch() {
 void Ticker::ask() {
     for (const auto& symbol : symbols()) {
         const auto read = [symbol](const HttpResponse& response) { return ticker::readChart(response, symbol); };
-        m_asked[symbol] = exchange<ticker::Quote>(http(), ticker::chartRequest(symbol), read,
-                                                  [this, symbol](const auto& fetched) { answered(symbol, fetched); });
+        m_asked[symbol] =
+            exchange<std::optional<ticker::Quote>>(http(), ticker::chartRequest(symbol), read,
+                                                   [this, symbol](const auto& fetched) { answered(symbol, fetched); });
     }
 }
 
-void Ticker::answered(const QString& symbol, const Fetched<ticker::Quote>& fetched) {
+void Ticker::answered(const QString& symbol, const Fetched<std::optional<ticker::Quote>>& fetched) {
     m_asked.erase(symbol);
-    if (fetched) {
-        m_quotes[symbol] = *fetched;
+    if (fetched && *fetched) {
+        m_quotes[symbol] = **fetched;
     } else {
-        const auto& failure = fetched.error();
         m_missing.append(symbol);
-        // What could not be asked for is still right; what was answered otherwise is no more.
-        const bool isAnswer = failure.kind != FetchFailure::Kind::unreachable && !failure.retryAfter;
-        if (isAnswer)
-            m_quotes.erase(symbol);
-        if (!m_failure || !isAnswer)
+        if (fetched)
+            m_quotes.erase(symbol); // what failed otherwise is still right, if old
+        const FetchFailure failure = fetched ? FetchFailure::told({}) : fetched.error();
+        if (!m_failure || urgency(failure) > urgency(*m_failure))
             m_failure = failure;
     }
     if (!m_asked.empty())

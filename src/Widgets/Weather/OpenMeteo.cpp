@@ -29,10 +29,6 @@ std::optional<Place> place(const QJsonObject& object) {
     return Place{.name = name, .latitude = latitude.toDouble(), .longitude = longitude.toDouble()};
 }
 
-WallTime fromUnix(const QJsonValue& seconds) {
-    return WallTime(std::chrono::seconds(seconds.toInteger()));
-}
-
 QList<Hour> comingHours(const QJsonObject& hourly, WallTime now) {
     const auto times = hourly["time"_L1].toArray();
     const auto temperatures = hourly["temperature_2m"_L1].toArray();
@@ -40,9 +36,9 @@ QList<Hour> comingHours(const QJsonObject& hourly, WallTime now) {
     const auto days = hourly["is_day"_L1].toArray();
     QList<Hour> hours;
     for (qsizetype i = 0; i < times.size(); ++i) {
-        const auto time = fromUnix(times[i]);
-        if (time + std::chrono::hours(1) > now && temperatures[i].isDouble() && codes[i].isDouble())
-            hours.append({.time = time,
+        const auto time = json::unixTime(times[i], std::chrono::seconds(1));
+        if (time && *time + std::chrono::hours(1) > now && temperatures[i].isDouble() && codes[i].isDouble())
+            hours.append({.time = *time,
                           .temperature = temperatures[i].toDouble(),
                           .code = codes[i].toInt(),
                           .isDay = days[i].toInt() == 1});

@@ -13,9 +13,9 @@ using weather::Place;
 
 namespace {
 
-const QString placeKey = u"weatherPlace"_s;
 const QString guessKey = u"weatherGuessedPlace"_s;
-constexpr auto interval = std::chrono::seconds(1800);
+const QString guessZoneKey = u"weatherGuessedZone"_s; // that the guess was made from
+constexpr std::chrono::seconds tolerance{60};
 
 std::optional<Place> stored(const SettingsStore& settings, const QString& key) {
     const auto data = settings.read<QByteArray>(key);
@@ -23,6 +23,8 @@ std::optional<Place> stored(const SettingsStore& settings, const QString& key) {
 }
 
 } // namespace
+
+const QString WeatherFeed::settingKey = u"weatherPlace"_s;
 
 QString cityOfZone(const QByteArray& zone) {
     const auto slash = zone.lastIndexOf('/');
@@ -32,15 +34,15 @@ QString cityOfZone(const QByteArray& zone) {
 }
 
 WeatherFeed::WeatherFeed(Clock& clock, HttpClient& http, SettingsStore& settings)
-    : Feed(clock, http, {.interval = interval, .tolerance = std::chrono::seconds(60)}), m_settings(settings) {}
+    : Feed(clock, http, {.interval = std::chrono::seconds(1800), .tolerance = tolerance}), m_settings(settings) {}
 
 std::optional<Place> WeatherFeed::place() const {
-    const auto picked = stored(m_settings, placeKey);
+    const auto picked = stored(m_settings, settingKey);
     return picked ? picked : stored(m_settings, guessKey);
 }
 
 bool WeatherFeed::isPlaceGuessed() const {
-    return !stored(m_settings, placeKey);
+    return !stored(m_settings, settingKey);
 }
 
 bool WeatherFeed::usesFahrenheit(const SettingsStore& settings) {
@@ -50,7 +52,11 @@ bool WeatherFeed::usesFahrenheit(const SettingsStore& settings) {
 }
 
 bool WeatherFeed::isFresh() const {
-    return Feed::isFresh() || (m_report && clock().now() - m_report->fetched < interval);
+    const WallTime now = clock().now();
+    // The timer's last tick may have come late, and this one not. A report from the future is from before the clock was
+    // set back.
+    const auto validity = interval() - 2 * tolerance;
+    return Feed::isFresh() || (m_report && m_report->fetched <= now && now - m_report->fetched < validity);
 }
 
 QString WeatherFeed::text(const FetchFailure& failure) const {
@@ -62,18 +68,22 @@ QString WeatherFeed::text(const FetchFailure& failure) const {
 Handle WeatherFeed::fetch() {
     // Later, as every answer: the caller keeps what this returns.
     return clock().after({}, [this] {
-        const auto known = place();
         if (!begin())
             return;
-        if (known)
+        const QByteArray zone = QTimeZone::systemTimeZoneId();
+        const bool isElsewhere = m_settings.read<QString>(guessZoneKey) != QString::fromLatin1(zone);
+        const auto known = place();
+        if (known && !(isPlaceGuessed() && isElsewhere))
             forecast(*known);
         else
-            hold(guess());
+            hold(guess(zone));
     });
 }
 
 void WeatherFeed::forecast(const Place& place) {
-    const auto read = [this](const HttpResponse& response) { return weather::readForecast(response, clock().now()); };
+    const auto read = [asked = clock().now()](const HttpResponse& response) {
+        return weather::readForecast(response, asked);
+    };
     const auto request = weather::forecastRequest(place, usesFahrenheit(m_settings));
     hold(exchange<weather::Report>(http(), request, read, [this](const auto& fetched) {
         if (fetched)
@@ -82,34 +92,50 @@ void WeatherFeed::forecast(const Place& place) {
     }));
 }
 
-Handle WeatherFeed::guess() {
-    const QString city = cityOfZone(QTimeZone::systemTimeZoneId());
+Handle WeatherFeed::guess(const QByteArray& zone) {
+    const QString city = cityOfZone(zone);
     if (city.isEmpty())
-        return clock().after({}, [this] { fail(FetchFailure::told({})); });
-    return search(city, [this](const Fetched<std::optional<Place>>& found) {
+        return clock().after({}, [this] { failToGuess(); });
+    return search(city, [this, zone](const Fetched<std::optional<Place>>& found) {
         if (found && *found) {
             m_settings.set(guessKey, weather::encode(**found));
+            m_settings.set(guessZoneKey, QString::fromLatin1(zone));
+            m_report.reset();
             forecast(**found);
+        } else if (found) {
+            failToGuess();
         } else {
-            fail(found ? FetchFailure::told({}) : found.error());
+            fail(found.error());
         }
     });
+}
+
+void WeatherFeed::failToGuess() {
+    m_settings.remove(guessKey);
+    m_report.reset();
+    fail(FetchFailure::told({}));
 }
 
 Handle WeatherFeed::search(const QString& name, FetchDone<std::optional<Place>> done) {
     return exchange<std::optional<Place>>(http(), weather::searchRequest(name), weather::readSearch, std::move(done));
 }
 
-void WeatherFeed::setCity(const QString& name, std::function<void(bool)> done) {
+void WeatherFeed::setCity(const QString& name, FetchDone<bool> done) {
     m_search = search(name.trimmed(), [this, done = std::move(done)](const Fetched<std::optional<Place>>& found) {
-        const bool isFound = found && *found;
-        if (isFound) {
-            m_settings.set(placeKey, weather::encode(**found));
-            m_report.reset(); // of another city
-            refresh(true);
+        if (found && *found) {
+            m_settings.set(settingKey, weather::encode(**found));
+            reload();
         }
-        done(isFound);
+        done(found ? Fetched<bool>(found->has_value()) : Fetched<bool>::failure(found.error()));
     });
+}
+
+void WeatherFeed::reload() {
+    m_search.reset();
+    m_report.reset(); // of another city
+    if (isActive())
+        refresh(true);
+    Q_EMIT changed();
 }
 
 } // namespace fendrel

@@ -10,6 +10,8 @@ namespace fendrel {
 class WeatherFeed final : public Feed {
     Q_OBJECT
 public:
+    static const QString settingKey; ///< of the place that the user picked
+
     WeatherFeed(Clock& clock, HttpClient& http, SettingsStore& settings);
 
     std::optional<weather::Place> place() const;
@@ -17,8 +19,11 @@ public:
     const std::optional<weather::Report>& report() const { return m_report; }
     static bool usesFahrenheit(const SettingsStore& settings);
 
-    /// Looks for a city of that name and shows its weather. `done`: whether there is one.
-    void setCity(const QString& name, std::function<void(bool isFound)> done);
+    /// Looks for a city of that name and shows its weather. `done`: whether there is one. A search before it is
+    /// dropped.
+    void setCity(const QString& name, FetchDone<bool> done);
+    /// Takes over a place that was changed in the settings themselves.
+    void reload();
 
 protected:
     Handle fetch() override;
@@ -27,7 +32,8 @@ protected:
 
 private:
     void forecast(const weather::Place& place);
-    Handle guess();
+    Handle guess(const QByteArray& zone);
+    void failToGuess();
     Handle search(const QString& name, FetchDone<std::optional<weather::Place>> done);
 
     SettingsStore& m_settings;

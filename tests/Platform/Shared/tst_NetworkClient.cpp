@@ -1,10 +1,8 @@
-#include "Files.h"
 #include "LocalServer.h"
 #include "Platform/Shared/NetworkClient.h"
+#include "TestAuthority.h"
 #include "fakes/FakeClock.h"
 
-#include <QSslCertificate>
-#include <QSslKey>
 #include <QtTest>
 
 #include <optional>
@@ -64,6 +62,20 @@ private Q_SLOTS:
             QCOMPARE(outcome->body, body);
             QCOMPARE(m_clock.pending(), std::size_t(0));
         }
+    }
+
+    void goesByTheSystemsProxy() {
+        qputenv("http_proxy", m_server->url({}).toEncoded());
+        const auto tidy = qScopeGuard([] { qunsetenv("http_proxy"); });
+        m_server->answers = {answer("200 OK", "by proxy")};
+        int answers = 0;
+        m_client->send({.url = QUrl(u"http://dropped.invalid/"_s)}, [&](const auto&) { ++answers; }).reset();
+        const auto outcome = exchange({.url = QUrl(u"http://service.invalid/a"_s)});
+        QVERIFY(outcome);
+        QCOMPARE(outcome->body, "by proxy");
+        QVERIFY(m_server->requests.constFirst().startsWith("GET http://service.invalid/a HTTP/1.1\r\n"));
+        QCOMPARE(answers, 0);
+        QCOMPARE(m_clock.pending(), std::size_t(0));
     }
 
     void sendsWhatItIsGivenAndFollowsNoRedirect() {
@@ -148,12 +160,8 @@ private Q_SLOTS:
     }
 
     void distrustsUnknownCertificates() {
-        const QByteArray pem = contentOf(QStringLiteral(TEST_DATA "/tls/self-signed.pem"));
-        QSslConfiguration configuration;
-        configuration.setPrivateKey(QSslKey(pem, QSsl::Ec));
-        configuration.setLocalCertificate(QSslCertificate(pem));
         auto secure = std::make_unique<QSslServer>();
-        secure->setSslConfiguration(configuration);
+        secure->setSslConfiguration(TestAuthority().certified(u"localhost"_s));
         LocalServer server(std::move(secure));
         server.answers = {answer("200 OK", "believed")};
         const auto outcome =
