@@ -53,12 +53,19 @@ AppController::AppController(Platform& platform)
       m_focus(*platform.settings, *platform.clock),
       m_messages(*platform.notificationLog, *platform.languageModel, *platform.clock, m_engine.catalog().sharedApps),
       m_accounts(*platform.secrets),
+      m_widgets(*platform.clock, *platform.http, *platform.settings, m_accounts),
+      m_widgetSizes(*platform.settings),
       m_titles(*platform.accessibility),
       m_bridge(*platform.applications, platform.isPeerOwnUser),
       m_workspace(*platform.applications, *platform.accessibility, *platform.shell),
       m_minimized(m_workspace),
       m_undo(*platform.clock),
-      m_edits(m_engine, m_undo, [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
+      m_edits(
+          m_engine, m_undo, [this](const QString& bundleID) { return m_workspace.displayName(bundleID); },
+          [](const QString& widgetID) {
+              const auto widget = enumValue<DockWidget>(widgetID);
+              return widget ? kind(*widget).title() : widgetID;
+          }),
       m_classifier(m_engine, *platform.languageModel, *platform.clock,
                    VerdictCache(platform.folders.data, *platform.disk),
                    [this](const QString& bundleID) { return m_workspace.displayName(bundleID); }),
@@ -96,6 +103,7 @@ void AppController::start() {
     installHostManifests();
     m_bridge.listen(m_platform.folders.data);
     registerHotKeys();
+    m_widgets.sync(m_engine.current());
     m_router.appDidActivate(m_platform.applications->frontmost());
 }
 

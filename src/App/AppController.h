@@ -27,7 +27,8 @@
 #include "Modes/ModeEngine.h"
 #include "Modes/ModeStore.h"
 #include "Ports/Platform.h"
-#include "Widgets/WidgetAccounts.h"
+#include "Widgets/WidgetSizes.h"
+#include "Widgets/Widgets.h"
 
 #include <QObject>
 
@@ -94,6 +95,8 @@ public:
     FocusSession& focus() { return m_focus; }
     HeldMessages& messages() { return m_messages; }
     WidgetAccounts& accounts() { return m_accounts; }
+    Widgets& widgets() { return m_widgets; }
+    WidgetSizes& widgetSizes() { return m_widgetSizes; }
     WindowTitles& titles() { return m_titles; }
     BrowserBridge& bridge() { return m_bridge; }
     Workspace& workspace() { return m_workspace; }
@@ -140,6 +143,8 @@ private:
     FocusSession m_focus;
     HeldMessages m_messages;
     WidgetAccounts m_accounts;
+    Widgets m_widgets;
+    WidgetSizes m_widgetSizes;
     WindowTitles m_titles;
     BrowserBridge m_bridge;
     Workspace m_workspace;

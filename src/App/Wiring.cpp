@@ -79,6 +79,7 @@ void AppController::wire() {
     };
     m_engine.onCommit = [this](const Mode& mode) { modeDidChange(mode); };
     m_engine.onEdit = [this] {
+        m_widgets.sync(m_engine.current());
         m_messages.modesEdited();
         m_classifier.checkModel(); // the model is told of the modes
         m_drift.modesChanged();
@@ -87,6 +88,10 @@ void AppController::wire() {
     m_classifier.onForgotten = [this] {
         m_drift.modesChanged();
         m_router.judgeFrontAgain();
+    };
+    m_backup.onSettingsChanged = [this] {
+        m_widgetSizes.reload();
+        m_widgets.reload();
     };
     m_focus.onChange = [this](bool isOn) { focusDidChange(isOn); };
     m_budget.current = [this] { return std::optional(m_engine.current()); };
@@ -129,6 +134,7 @@ void AppController::chooseModel() {
 
 /// After every committed switch.
 void AppController::modeDidChange(const Mode& mode) {
+    m_widgets.sync(mode);
     play(Sound::modeSwitch);
     const auto destination = m_messages.modeChanged(mode);
     if (m_preferences.tidyOnSwitch())

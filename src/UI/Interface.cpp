@@ -25,6 +25,7 @@ Q_IMPORT_QML_PLUGIN(Fendrel_ModesPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_SettingsPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_SetupPlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_TrayPlugin)
+Q_IMPORT_QML_PLUGIN(Fendrel_WidgetsPlugin)
 
 /// Generated with the module Fendrel.Types. It registers itself before main, if only the linker keeps it.
 void qml_register_types_Fendrel_Types(); // NOLINT(readability-identifier-naming): the name is Qt's

@@ -28,14 +28,20 @@ struct World {
         for (const char* flag : {"sitesSeeded", "widgetsSeeded", "budgetsSeeded"})
             settings.values.insert(QString::fromLatin1(flag), true);
         store.load();
-        store.save({{.id = u"a"_s, .name = u"Writing"_s, .tint = Tint::amber, .apps = {u"x"_s, u"y"_s, u"z"_s}},
+        store.save({{.id = u"a"_s,
+                     .name = u"Writing"_s,
+                     .tint = Tint::amber,
+                     .apps = {u"x"_s, u"y"_s, u"z"_s},
+                     .widgets = {u"p"_s, u"q"_s, u"r"_s}},
                     {.id = u"b"_s, .name = u"Social"_s, .tint = Tint::teal, .apps = {u"z"_s}}});
         engine.emplace(store, settings, clock, ModeCatalog::with({}), [](const QString&) { return true; });
-        edits.emplace(*engine, undo, [](const QString& bundleID) { return bundleID.toUpper(); });
+        const auto name = [](const QString& id) { return id.toUpper(); };
+        edits.emplace(*engine, undo, name, name);
     }
     QString apps() const {
         return engine->mode(u"a"_s)->apps.join(u' ') + u'|' + engine->mode(u"b"_s)->apps.join(u' ');
     }
+    QString widgets() const { return engine->mode(u"a"_s)->widgets.join(u' '); }
     QString offer() const { return undo.offer() ? undo.offer()->text : QString(); }
 };
 
@@ -77,6 +83,43 @@ private Q_SLOTS:
         world.engine->removeApp(u"z"_s, u"a"_s); // its neighbour
         world.undo.runUndo();
         QCOMPARE(world.apps(), u"x y|z"_s);
+    }
+
+    void takesWidgetsBack_data() {
+        const Table<QByteArray, QByteArray, QString, QString> row("edit", "meanwhile", "widgets", "after");
+        row("added", "add s", "", u"p q r s"_s, u"p q r"_s);
+        row("removed", "remove q", "", u"p r"_s, u"p q r"_s);
+        row("removed, and its neighbour too", "remove q", "r", u"p r"_s, u"p q"_s);
+        row("removed, and back already", "remove q", "+q", u"p r"_s, u"p r q"_s);
+        row("the last", "remove r", "", u"p q"_s, u"p q r"_s);
+    }
+    void takesWidgetsBack() {
+        QFETCH(const QByteArray, edit);
+        QFETCH(const QByteArray, meanwhile);
+        World world;
+        const QString id = QString::fromLatin1(edit.last(1));
+        edit.startsWith("add") ? world.edits->addWidget(id, u"a"_s) : world.edits->removeWidget(id, u"a"_s);
+        QTEST(world.widgets(), "widgets");
+        Mode mode = *world.engine->mode(u"a"_s);
+        if (meanwhile.startsWith('+'))
+            mode.widgets.append(QString::fromLatin1(meanwhile.mid(1)));
+        else
+            mode.widgets.removeAll(QString::fromLatin1(meanwhile));
+        world.engine->update(mode);
+        world.undo.runUndo();
+        QTEST(world.widgets(), "after");
+    }
+
+    void arrangesWidgetsAroundOthers_data() {
+        const Table<QString, QString> row("order", "widgets");
+        row("around one that has no card", u"r p"_s, u"r q p"_s);
+        row("with one that is gone", u"q x p"_s, u"q p r"_s);
+    }
+    void arrangesWidgetsAroundOthers() {
+        QFETCH(const QString, order);
+        World world;
+        world.edits->arrangeWidgets(order.split(u' '), u"a"_s);
+        QTEST(world.widgets(), "widgets");
     }
 
     void goesByItself() {

@@ -3,6 +3,8 @@
 #include "UI/Interface.h"
 #include "UI/Settings/SettingsCatalog.h"
 #include "UI/Settings/SettingsSearch.h"
+#include "fakes/FakeHttp.h"
+#include "fakes/FakeSecretStore.h"
 
 #include <QGuiApplication>
 #include <QMetaProperty>
@@ -19,6 +21,12 @@ namespace {
 struct Window {
     explicit Window(const QString& pane, double textScale = 1) {
         world.fake.look->scale = textScale;
+        auto madeHttp = std::make_unique<FakeHttp>();
+        http = madeHttp.get();
+        world.fake.platform.http = std::move(madeHttp);
+        auto madeStore = std::make_unique<FakeSecretStore>();
+        store = madeStore.get();
+        world.fake.platform.secrets = std::move(madeStore);
         controller = &world.controller.emplace(world.fake.platform);
         interface.emplace(*controller);
         controller->onAlert = [this](const Alert& alert) { lastAlert = alert; };
@@ -75,6 +83,8 @@ struct Window {
     }
 
     ControllerWorld world;
+    FakeHttp* http{};
+    FakeSecretStore* store{};
     AppController* controller{};
     std::optional<Interface> interface;
     Alert lastAlert;
@@ -116,7 +126,7 @@ private Q_SLOTS:
             if (meta.property(index).isWritable() && name != u"appearance")
                 QVERIFY2(!settingsCatalog::entry(name).label.isEmpty(), qPrintable(name));
         }
-        for (const QString& pane : {u"general"_s, u"dock"_s}) {
+        for (const QString& pane : {u"general"_s, u"dock"_s, u"widgets"_s}) {
             const Window window(pane);
             for (const QString& setting : settingsCatalog::settingsOf(pane))
                 QVERIFY2(setting == pane || window.row(setting), qPrintable(setting));
@@ -193,6 +203,70 @@ private Q_SLOTS:
         QTest::keyClick(window.view, Qt::Key_Return);
         QCOMPARE(window.controller->preferences().breakThrough(), u"urgent, asap, fire"_s);
         QCOMPARE(field->property("text").toString(), u"urgent, asap, fire"_s);
+    }
+
+    void theCityIsAskedForOnceItIsTyped() {
+        const Window window(u"widgets"_s);
+        QVERIFY(window.isShown);
+        const QQuickItem* row = window.row(u"weatherPlace"_s);
+        QQuickItem* field = window.find("isClearable", {}, window.row(u"weatherPlace"_s));
+        QVERIFY(row && field);
+        field->forceActiveFocus(Qt::TabFocusReason);
+        const auto asked = [&window](const QString& name) {
+            return std::ranges::count_if(window.http->requests,
+                                         [&](const auto& request) { return request.url.toString().contains(name); });
+        };
+        window.type("Atlantis");
+        QCOMPARE(asked(u"Atl"_s), 0);
+        QTest::keyClick(window.view, Qt::Key_Return);
+        QCOMPARE(asked(u"Atlantis"_s), 1);
+        QVERIFY(window.http->answerNext(FakeHttp::answer("{}"), u"Atlantis"_s));
+        QCOMPARE(row->property("problem").toString(), u"No city called “Atlantis” was found."_s);
+        QCOMPARE(field->property("text").toString(), u"Atlantis"_s); // to be corrected
+        field->setProperty("text", u"Oslo"_s);
+        QTest::keyClick(window.view, Qt::Key_Return);
+        QVERIFY(window.http->answerNext(FakeHttp::error(), u"Oslo"_s));
+        QCOMPARE(row->property("problem").toString(), u"Couldn't reach Open-Meteo"_s);
+        QTest::keyClick(window.view, Qt::Key_Return);
+        QVERIFY(window.http->answerNext(
+            FakeHttp::answer(R"({"results":[{"name":"Oslo","latitude":60,"longitude":11}]})"), u"Oslo"_s));
+        QCOMPARE(row->property("problem").toString(), QString());
+        QCOMPARE(window.controller->widgets().weather().place()->name, u"Oslo"_s);
+        QTest::keyClick(window.view, Qt::Key_Tab);
+        QCOMPARE(asked(u"Oslo"_s), 2);
+
+        field = window.find("isClearable", {}, window.row(u"tickerSymbols"_s));
+        field->forceActiveFocus(Qt::TabFocusReason);
+        window.type("aapl;^gspc  AAPL, btc-usd");
+        QTest::keyClick(window.view, Qt::Key_Tab);
+        QCOMPARE(field->property("text").toString(), u"AAPL, ^GSPC, BTC-USD"_s);
+        window.controller->widgets().reset(settingsCatalog::settingsOf(u"widgets"_s));
+        QVERIFY(!window.world.fake.settings->values.contains(Ticker::settingKey));
+        QCOMPARE(field->property("text").toString(), QString());
+    }
+
+    void anAccountIsTested() {
+        const Window window(u"accounts"_s);
+        QVERIFY(window.isShown);
+        const auto news = [&window](const QString& text) { return window.find("text", text) != nullptr; };
+        window.store->answer();
+        auto* accounts = window.view->rootObject()->property("settings").value<SettingsController*>()->accounts();
+        accounts->save(0, u"a key"_s); // GitHub's
+        window.store->answer();
+        QVERIFY(news(u"Asking GitHub…"_s));
+        QVERIFY(window.http->answerNext(FakeHttp::answer(R"({"data":{"search":{}}})"), u"github"_s));
+        QVERIFY(news(u"Connected, and GitHub took the key"_s));
+        QQuickItem* button = window.find("text", u"Test"_s);
+        QVERIFY(button);
+        window.click(button);
+        window.click(button); // one at a time
+        window.store->answer();
+        QVERIFY(window.http->answerNext(FakeHttp::answer({}, 401), u"github"_s));
+        QVERIFY(!window.http->answerNext(FakeHttp::answer({}, 401), u"github"_s));
+        QVERIFY(news(u"GitHub didn't accept the token"_s));
+        window.controller->accounts().remove(WidgetAccounts::Service::github);
+        window.store->answer();
+        QVERIFY(!news(u"GitHub didn't accept the token"_s));
     }
 
     void searchLeadsToTheSetting() {

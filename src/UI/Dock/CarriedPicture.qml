@@ -2,30 +2,28 @@ import QtQuick
 import QtQuick.Window
 import Fendrel.Style
 
-// The icon that the pointer carries, in a window of its own: it goes beyond the bar, and above everything.
+// What the pointer carries, in a window of its own: it goes beyond the bar, and above everything.
 Window {
     id: carried
 
-    property string icon: ""
-    property int size: 46 // pixels
+    required property size area // of what is carried
+    default property alias content: picture.data
     property string hint: "" // what letting go would do
     property bool isFading: false
     property point pointer: Qt.point(0, 0) // on the desktop
 
     flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.BypassWindowManagerHint | Qt.WindowTransparentForInput | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
-    width: Math.max(size, label.width) + 16
-    height: size + 2 * (label.height + 8)
+    width: Math.max(area.width, label.width) + 16
+    height: area.height + 2 * (label.height + 8)
     x: Math.round(pointer.x - width / 2)
     y: Math.round(pointer.y - height / 2)
 
-    AppPicture {
-        anchors.fill: undefined
+    Item {
+        id: picture
         anchors.centerIn: parent
-        width: carried.size
-        height: carried.size
-        source: carried.icon
-        size: carried.size
+        width: carried.area.width
+        height: carried.area.height
         opacity: carried.isFading ? 0.45 : 0.95
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
     }

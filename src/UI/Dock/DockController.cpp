@@ -19,7 +19,9 @@ DockController::DockController(AppController& controller, AppIcons& icons, Messa
       m_undo(controller),
       m_previews(*controller.platform().previews),
       m_restingPointer(*controller.platform().clock),
-      m_windows(controller) {
+      m_windows(controller),
+      m_widgets(controller),
+      m_widgetActions(controller, m_widgets) {
     connect(&controller.engine(), &ModeEngine::changed, this, &DockController::modeChanged);
     connect(&controller.preferences(), &Preferences::changed, this, &DockController::lookChanged);
     connect(&controller.replacement(), &DockReplacement::changed, this, &DockController::replacementChanged);

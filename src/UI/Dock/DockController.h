@@ -11,6 +11,8 @@
 #include "UI/Dock/UndoController.h"
 #include "UI/Dock/WindowsModel.h"
 #include "UI/Modes/ModesModel.h"
+#include "UI/Widgets/WidgetActions.h"
+#include "UI/Widgets/WidgetCardsModel.h"
 
 #include <QColor>
 #include <QObject>
@@ -38,6 +40,8 @@ class DockController : public QObject {
     Q_PROPERTY(fendrel::PreviewSource* previews READ previews CONSTANT)
     Q_PROPERTY(fendrel::RestingPointer* restingPointer READ restingPointer CONSTANT)
     Q_PROPERTY(fendrel::WindowsModel* windows READ windows CONSTANT)
+    Q_PROPERTY(fendrel::WidgetCardsModel* widgets READ widgets CONSTANT)
+    Q_PROPERTY(fendrel::WidgetActions* widgetActions READ widgetActions CONSTANT)
     Q_PROPERTY(QString modeID READ modeID NOTIFY modeChanged)
     Q_PROPERTY(QString modeName READ modeName NOTIFY modeChanged)
     Q_PROPERTY(QColor tint READ tint NOTIFY modeChanged)
@@ -70,6 +74,8 @@ public:
     PreviewSource* previews() { return &m_previews; }
     RestingPointer* restingPointer() { return &m_restingPointer; }
     WindowsModel* windows() { return &m_windows; } ///< of the application that the pointer rests on
+    WidgetCardsModel* widgets() { return &m_widgets; }
+    WidgetActions* widgetActions() { return &m_widgetActions; }
     QString modeID() const;
     QString modeName() const;
     QColor tint() const;
@@ -117,6 +123,8 @@ private:
     PreviewSource m_previews;
     RestingPointer m_restingPointer;
     WindowsModel m_windows;
+    WidgetCardsModel m_widgets;
+    WidgetActions m_widgetActions;
 };
 
 } // namespace fendrel

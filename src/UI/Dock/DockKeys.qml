@@ -8,6 +8,7 @@ QtObject {
     required property DockPanel panel
     required property DockController dock
     required property DockDrops drops
+    required property CardDrag cards
     required property ModeSection modes
     required property AppSection apps
 
@@ -17,10 +18,12 @@ QtObject {
         event.accepted = true
         const forward = [Qt.Key_Right, Qt.Key_Down].includes(event.key)
         const backward = [Qt.Key_Left, Qt.Key_Up].includes(event.key)
-        if (drops.isActive) {
+        if (drops.isActive || cards.isActive) {
             // Nothing else goes on while something is carried.
-            if (event.key === Qt.Key_Escape)
+            if (event.key === Qt.Key_Escape) {
                 drops.end()
+                cards.end()
+            }
         } else if (event.matches(StandardKey.Undo)) {
             dock.undo.undo()
         } else if (forward || backward) {

@@ -30,7 +30,7 @@ QtObject {
 
     function correct(item: Item) {
         const entries = [{ header: qsTr("%1 belongs to").arg(verdict.what) },
-                         ...dock.modes.entries.map(mode => ({ text: mode.name, value: mode.modeID, symbol: mode.symbol, tint: mode.tint,
+                         ...main.allModes.map(mode => ({ text: mode.name, value: mode.modeID, symbol: mode.symbol, tint: mode.tint,
                                                               isChecked: mode.modeID === verdict.modeID })),
                          { separator: true },
                          { text: qsTr("None of them"), value: "", symbol: "xmark", isChecked: verdict.modeID === "" }]
@@ -94,8 +94,17 @@ QtObject {
         offer(item, [{ header: name },
                      ...main.parted(budget === "" ? [] : [{ text: budget, symbol: "hourglass" }], [...change, ...held],
                                [{ text: qsTr("Edit Mode…"), value: () => dock.editMode(modeID), symbol: "pencil" },
+                                ...isCurrent ? widgets.adding() : [],
                                 { text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" },
                                 { text: qsTr("Settings…"), value: () => dock.openSettings("general"), symbol: "gearshape" }])])
+    }
+
+    readonly property WidgetMenu widgets: WidgetMenu {
+        dock: menus.dock
+        main: menus.main
+    }
+    function showWidgetMenu(tile: WidgetTile, size: string, sizes: var) {
+        offer(tile, widgets.entries(tile, size, sizes))
     }
 
     function showWindowMenu(item: Item, window: real, title: string) {
@@ -118,7 +127,7 @@ QtObject {
     }
     // As the status icon has it, which not every desktop has a place for.
     function mainEntries(): var {
-        return [{ text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" }, { separator: true }, ...main.entries(panel.hasKeyboard)]
+        return [{ text: qsTr("Dock"), page: dockEntries(), symbol: "dock.rectangle" }, ...widgets.adding(), { separator: true }, ...main.entries(panel.hasKeyboard)]
     }
     function dockEntries(): var {
         const settings = dock.preferences

@@ -60,6 +60,7 @@ DockPanel::DockPanel(QQmlEngine& engine, AppController& controller, DockControll
 
 DockPanel::~DockPanel() {
     m_dock.apps()->letGo(); // a display can go while something is carried on it
+    m_dock.widgets()->letGo();
 }
 
 void DockPanel::place(const Display& display) {

@@ -48,6 +48,9 @@ FocusScope {
         appCount: apps.count + end.tileCount
         fullIconSize: root.dock.iconSize
         fullSpacing: root.spacing - 4 // icons keep two pixels at least
+        cards: end.cards.lengths
+        cardSpacing: end.cards.spacing
+        cardsFrame: end.cards.frame
         swelling: root.swells ? (root.dock.magnification - 1) * 2.5 * (fullIconSize + iconRoom + fullSpacing) : 0
     }
 
@@ -70,7 +73,7 @@ FocusScope {
     Binding { target: root.panel; property: "swelling"; value: root.swollen }
     Binding { target: root.panel; property: "surface"; value: root.seen }
     Binding { target: root.panel; property: "isPointerInside"; value: hover.hovered }
-    Binding { target: root.panel; property: "isHeld"; value: menu.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive }
+    Binding { target: root.panel; property: "isHeld"; value: menu.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive || cardDrag.isActive }
 
     HoverHandler {
         id: hover
@@ -86,6 +89,7 @@ FocusScope {
         panel: root.panel
         dock: root.dock
         drops: drops
+        cards: cardDrag
         modes: modes
         apps: apps
     }
@@ -190,6 +194,8 @@ FocusScope {
                     spacing: root.spacing
                     colors: lookColors
                     tip: dockTip
+                    panel: root.panel
+                    drag: cardDrag
                     dock: root.dock
                     focusState: root.focusState
                     verdict: root.verdict
@@ -210,14 +216,17 @@ FocusScope {
             anchors.fill: parent
             edge: root.edge
             bar: bar
-            isSuppressed: menu.visible || popover.isWanted || (drops.isActive && !drops.target)
-            scrolled: apps.position + modes.position
+            isSuppressed: menu.visible || popover.isWanted || (drops.isActive && !drops.target) || cardDrag.isActive
+            scrolled: apps.position + modes.position + end.cards.position
         }
     }
 
     Connections {
         target: root.panel
-        function onLeaves() { drops.end() }
+        function onLeaves() {
+            drops.end()
+            cardDrag.end()
+        }
     }
 
     DockDrops {
@@ -233,13 +242,39 @@ FocusScope {
         pitch: layout.pitch
     }
 
+    CardDrag {
+        id: cardDrag
+        panel: root.panel
+        dock: root.dock
+        view: root
+        bar: bar
+        reach: layout.iconSize
+    }
+
     CarriedPicture {
         visible: drops.isActive && drops.load.isOurs
-        icon: visible ? root.dock.apps.icon(drops.load.app) : ""
-        size: layout.iconSize
+        area: Qt.size(layout.iconSize, layout.iconSize)
         pointer: Qt.point(root.panel.x + apps.hand.x, root.panel.y + apps.hand.y)
         isFading: drops.isLeaving && root.dock.apps.isInMode(drops.load?.app ?? "")
         hint: isFading ? qsTr("Remove") : ""
+
+        AppPicture {
+            source: drops.isActive && drops.load.isOurs ? root.dock.apps.icon(drops.load.app) : ""
+            size: layout.iconSize
+        }
+    }
+    CarriedPicture {
+        visible: cardDrag.isActive
+        area: end.cards.carriedArea
+        pointer: Qt.point(root.panel.x + end.cards.hand.x, root.panel.y + end.cards.hand.y)
+        isFading: cardDrag.isLeaving
+        hint: isFading ? qsTr("Remove") : ""
+
+        Loader {
+            anchors.fill: parent
+            active: cardDrag.isActive
+            sourceComponent: end.cards.carriedCard
+        }
     }
 
     // What comes from other programs. It is asked at every move whether this place takes it.

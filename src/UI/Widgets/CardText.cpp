@@ -1,0 +1,52 @@
+#include "UI/Widgets/CardText.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace fendrel::card {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+QString age(WallTime moment, WallTime now) {
+    const auto passed = now - moment;
+    const auto said = [passed](const char* text, auto unit) {
+        return QCoreApplication::translate("Card", text).arg(QLocale().toString(qint64(passed / unit)));
+    };
+    if (passed < 1min)
+        return QCoreApplication::translate("Card", "now");
+    if (passed < 1h)
+        return said(QT_TRANSLATE_NOOP("Card", "%1 min"), 1min);
+    if (passed < 24h)
+        return said(QT_TRANSLATE_NOOP("Card", "%1 h"), 1h);
+    return said(QT_TRANSLATE_NOOP("Card", "%1 d"), 24h);
+}
+
+QString joined(const QStringList& parts) {
+    QStringList said = parts;
+    said.removeAll(QString());
+    return said.join(u" · "_s);
+}
+
+QString hour(WallTime time) {
+    const QLocale locale;
+    const QTime local = toDateTime(time).toLocalTime().time();
+    const bool hasHalves = locale.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
+    return locale.toString(local, hasHalves ? u"h AP"_s : u"HH"_s);
+}
+
+QList<qreal> scaled(const std::vector<double>& values) {
+    if (values.empty())
+        return {};
+    const auto [least, most] = std::ranges::minmax(values);
+    const double range = most - least;
+    QList<qreal> points;
+    for (const double value : values)
+        points.append(std::isfinite(range) && range > 0 ? (value - least) / range : 0.5);
+    return points;
+}
+
+} // namespace fendrel::card

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Base/WallTime.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <vector>
+
+namespace fendrel::card {
+
+/// How long ago that was, in few characters: "3 min". What is to come is "now".
+QString age(WallTime moment, WallTime now);
+
+/// Those that say something, with a dot between them.
+QString joined(const QStringList& parts);
+
+/// An hour of the day as short as the user's country writes it: "14", "2 PM".
+QString hour(WallTime time);
+
+/// Values drawn into 0 to 1, the least and the largest at the ends. All are 0.5 where they don't differ, or differ too
+/// much to be counted with.
+QList<qreal> scaled(const std::vector<double>& values);
+
+} // namespace fendrel::card
