@@ -5,6 +5,7 @@
 #include "Base/Worker.h"
 #include "Focus/Classifier.h"
 #include "Modes/ModeEngine.h"
+#include "Widgets/Widgets.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -68,7 +69,7 @@ Handle Backup::read(const QString& path, std::function<void(const Result<Archive
     using Answer = Result<Archive, QString>;
     return onWorker<Answer>(
         m_disk,
-        [path, settings = m_preferences.values()] {
+        [path, settings = known()] {
             QFile file(path);
             // Neither a folder nor a pipe, which would be waited for.
             if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
@@ -95,10 +96,17 @@ void Backup::undo() {
     }
 }
 
-/// What the user sets is in the preferences. All else in the store is this computer's, or of today.
+/// What the user sets is in the preferences, or the widgets' own. All else in the store is this computer's, or of
+/// today.
+QHash<QString, StoredValue> Backup::known() const {
+    QHash<QString, StoredValue> settings = m_preferences.values();
+    settings.insert(Widgets::settings());
+    return settings;
+}
+
 Archive Backup::current() const {
     QHash<QString, std::optional<StoredValue>> settings;
-    for (const QString& key : m_preferences.values().keys())
+    for (const QString& key : known().keys())
         settings.insert(key, m_settings.value(key));
     return {.modes = m_engine.modes(), .settings = settings, .answers = m_classifier.answers()};
 }
@@ -111,6 +119,7 @@ void Backup::apply(const Archive& archive) {
             m_settings.remove(setting.key());
     }
     m_preferences.reload();
+    onSettingsChanged();
     m_engine.replaceModes(archive.modes); // before the answers, which name them
     m_classifier.replaceAnswers(archive.answers);
 }

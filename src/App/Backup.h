@@ -20,6 +20,9 @@ class Worker;
 class Backup : public QObject {
     Q_OBJECT
 public:
+    /// Settings that are not preferences were changed in the store.
+    std::function<void()> onSettingsChanged = [] {};
+
     Backup(ModeEngine& engine, Preferences& preferences, SettingsStore& settings, Classifier& classifier,
            const Clock& clock, Worker& disk, QString folder);
 
@@ -43,6 +46,7 @@ Q_SIGNALS:
     void changed(); ///< whether there is something to undo
 
 private:
+    QHash<QString, StoredValue> known() const;
     Archive current() const;
     void apply(const Archive& archive);
 

@@ -57,6 +57,9 @@ QStringList privateTextsOf(AppController& controller) {
     QStringList texts = preferences.breakThroughWords();
     texts << preferences.modelServer() << preferences.modelName() << QDir::homePath() << QDir::home().dirName()
           << QSysInfo::machineHostName();
+    texts << controller.widgets().ticker().symbols();
+    if (const auto place = controller.widgets().weather().place())
+        texts << place->name;
     for (const Mode& mode : controller.engine().modes()) {
         texts << mode.name << mode.sites << mode.apps;
         for (const QString& app : mode.apps)

@@ -3,14 +3,14 @@
 namespace fendrel {
 
 RecentLog::RecentLog() {
-    s_current = this;
+    current = this;
     // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): the handler needs us first
     m_next = qInstallMessageHandler(&RecentLog::handle);
 }
 
 RecentLog::~RecentLog() {
     qInstallMessageHandler(m_next);
-    s_current = nullptr;
+    current = nullptr;
 }
 
 QStringList RecentLog::lines() const {
@@ -19,9 +19,9 @@ QStringList RecentLog::lines() const {
 }
 
 void RecentLog::handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    s_current->add(type, context, text);
-    if (s_current->m_next != nullptr)
-        s_current->m_next(type, context, text);
+    current->add(type, context, text);
+    if (current->m_next != nullptr)
+        current->m_next(type, context, text);
 }
 
 void RecentLog::add(QtMsgType type, const QMessageLogContext& context, const QString& text) {

@@ -24,7 +24,7 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
     void add(QtMsgType type, const QMessageLogContext& context, const QString& text);
 
-    static inline RecentLog* s_current = nullptr;
+    static inline RecentLog* current = nullptr;
     QtMessageHandler m_next;
     mutable std::mutex m_mutex;
     std::deque<QString> m_lines;

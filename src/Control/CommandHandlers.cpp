@@ -7,6 +7,7 @@
 #include "Control/MessageStatus.h"
 #include "Control/SettingsAccess.h"
 #include "Control/Status.h"
+#include "Control/WidgetCommands.h"
 #include "Modes/SiteName.h"
 
 #include <QJsonArray>
@@ -135,6 +136,7 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
         {u"answers"_s,
          [&](const Request& request) -> Answer { return QJsonValue(learnedAnswers(controller, request.arguments)); }},
         {u"answers forget"_s, [&](const Request& request) { return forgetAnswers(controller.classifier(), request); }},
+        {u"widget"_s, [&](const Request& request) { return showWidget(controller, request.arguments[0]); }},
         {u"import undo"_s,
          [&](const Request&) {
              if (!controller.backup().canUndo())
@@ -164,6 +166,7 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
          [&](const Request& request, const Answered& answered) {
              return removeAccount(controller.accounts(), request, answered);
          }},
+        {u"widgets"_s, [&](const Request&, const Answered& answered) { return listWidgets(controller, answered); }},
         {u"export"_s, [this](const Request& request, const Answered& answered) { return exportTo(request, answered); }},
         {u"import"_s,
          [this](const Request& request, const Answered& answered) { return importFrom(request, answered); }},

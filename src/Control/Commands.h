@@ -10,7 +10,7 @@
 namespace fendrel::control {
 
 /// What a parameter or an option takes; completions are made from it.
-enum class Takes { nothing, text, file, mode, app, setting, service, gateAnswer, duration };
+enum class Takes { nothing, text, file, mode, app, setting, service, widget, gateAnswer, duration };
 
 struct Parameter {
     QString name{};

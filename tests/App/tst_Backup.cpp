@@ -66,12 +66,22 @@ private Q_SLOTS:
         preferences.setFocusShortcut({});
         preferences.setDockPosition(DockPosition::left);
         preferences.setAppearance(DockAppearance::preset(u"Graphite"_s).value());
+        old.controller->widgetSizes().set(mode.id, DockWidget::clock, WidgetSize::medium);
+        old.controller->widgets().ticker().setSymbols({u"AAPL"_s});
+        const weather::Place place{.name = u"Oslo"_s, .latitude = 59.9, .longitude = 10.7};
+        old.fake.settings->values.insert(WeatherFeed::settingKey, weather::encode(place));
+        const auto shown = [](AppController& controller) {
+            return std::tuple(controller.widgetSizes().items(controller.engine().modes().first()),
+                              controller.widgets().ticker().symbols(), controller.widgets().weather().place());
+        };
         old.classifier().correct(forum, u"social"_s);
         QCOMPARE(old.write(), QString());
         QCOMPARE(permissionsOf(old.file), 0600U);
 
         World fresh;
         fresh.controller->preferences().setSounds(true); // a default over there
+        fresh.fake.settings->values.insert(u"weatherGuessedPlace"_s, QByteArray("here"));
+        const auto shownBefore = shown(*fresh.controller);
         fresh.classifier().correct(SiteSubject{.host = u"gone.org"_s}, {});
         putFile(fresh.file, contentOf(old.file));
         const auto before = fresh.all();
@@ -84,9 +94,12 @@ private Q_SLOTS:
         QCOMPARE(fresh.controller->preferences().values(), preferences.values());
         QCOMPARE(fresh.fake.settings->values.contains(u"sounds"_s), false);
         QCOMPARE(fresh.classifier().answers(), old.classifier().answers());
+        QVERIFY(shown(*fresh.controller) == shown(*old.controller));
+        QVERIFY(!contentOf(old.file).contains("weatherGuessedPlace"));
 
         fresh.controller->backup().undo();
         QVERIFY(fresh.all() == before);
+        QVERIFY(shown(*fresh.controller) == shownBefore);
         QVERIFY(fresh.controller->preferences().sounds());
         QVERIFY(!fresh.controller->backup().canUndo());
         fresh.fake.platform.disk->flush();

@@ -131,10 +131,10 @@ class Changes(Panes):
         self.assertEqual((look["background"], look["iconScale"]), ("#1c1d22", 1.02))
 
     def change_widgets(self):
-        self.click("Clock in Writing")
+        self.click("Focus Garden in Writing")
 
     def see_widgets(self):
-        self.sees("Clock in Writing", on=True)
+        self.sees("Focus Garden in Writing", on=True)
 
     def change_modes(self):
         self.click("Edit Building")

@@ -100,6 +100,25 @@ def held(cases):
     ]
 
 
+PAGES = {
+    "stripe": "100 Stripe transactions", "lemonSqueezy": "100 Lemon Squeezy orders", "paddle": "30 Paddle transactions",
+    "dodo": "100 Dodo payments", "dodoRefunds": "100 Dodo refunds", "github": "20 GitHub pull requests",
+    "linear": "50 Linear issues", "vercel": "10 Vercel deployments", "sentry": "5 Sentry issues",
+    "forecast": "48 hours of Open-Meteo", "chart": "96 points of a quote chart",
+}
+
+
+def widgets(cases):
+    def microseconds(name):
+        return cases[name]["ns"] / 1e3
+    rows = []
+    for name, page in PAGES.items():
+        parse = microseconds(f"parse/{name}")
+        rows.append(Row(f"Reading {page}", microseconds(f"read/{name}"), "us", 3 * parse, parse, "a Qt JSON document",
+                        f"{cases[f'read/{name}']['bytes'] / 1024:.1f} KiB"))
+    return rows + [Row("A day of 10,000 sales", microseconds("fold"), "us", None, microseconds("sum"), "their sum alone")]
+
+
 def front(answer):
     def both(what, name, goal):
         ours, floor = answer[name], answer[f"{name}Floor"]

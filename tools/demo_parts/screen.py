@@ -74,7 +74,7 @@ class Screen:
         size = xdotool("getactivewindow", "getwindowgeometry", "--shell")
         width, height = (int(line.split("=")[1]) for line in size.splitlines()[3:5])
         xdotool("getactivewindow", "mousemove", "--window", "%1", str(width // 2), str(height // 2),
-                "click", "--repeat", "60", "--delay", "5", "5", "mousemove", "10", "10")
+                "click", "--repeat", "240", "--delay", "5", "5", "mousemove", "10", "10")
 
     def type(self, text):
         for line in text.splitlines(keepends=True):

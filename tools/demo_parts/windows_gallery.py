@@ -63,7 +63,7 @@ VIEWS = {
     "general": (GENERAL, (), (), "Strictness"),
     "general-end": (GENERAL, (END,), (), "Learned answers"),
     "dock": (DOCK, (), (), "Position"),
-    "appearance": (LOOK, (), (), "Icon size"),
+    "appearance": (LOOK, (), (), "Look of the dock"),
     "appearance-end": (LOOK, (END,), (), "Border"),
     "color-picker": (LOOK, (*found("Color"), *["Down"] * 10), (), "Hue"),
     "widgets": (WIDGETS, (), (), "Search widgets"),
@@ -79,10 +79,10 @@ VIEWS = {
     "permissions-end": (("settings", "open", "permissions"), (END,), (), "Calendar"),
     "about": (("settings", "open", "about"), (), (), "Your data stays here"),
     "about-end": (("settings", "open", "about"), (END,), (), "License of %1"),
-    "search": (GENERAL, ("ctrl+f", Words("Dock")), ("Escape",), "Search results"),
+    "search": (GENERAL, ("ctrl+f", Words("Dock")), ("Escape",), "Go to the dock"),
     "search-none": (GENERAL, ("ctrl+f", Typed("xyzzy")), ("Escape",),
                     "Nothing here is called “%1”. Perhaps in other words?"),
-    "search-led": (GENERAL, found("Magnification"), (), "Magnification"),
+    "search-led": (GENERAL, found("Opacity"), (), "Opacity"),
     "hot-key": (GENERAL, (*found("Start or stop focus"), "Return"), ("Escape",), "Press the keys…"),
     "hot-key-refused": (GENERAL, (*found("Start or stop focus"), "Return", "a"), ("Escape",),
                         "Hold Control, Alt or Super with it"),
@@ -224,9 +224,9 @@ class WindowsGallery:
                    "/org/freedesktop/secrets", "--method"]
         subprocess.run(["gdbus", "wait", "--session", "--timeout", "10", "org.freedesktop.secrets"], check=True)
         subprocess.run([str(self.programs / "fendrelctl"), "account", "set", "github"], input="a key", text=True, check=True)
-        self.view("accounts-field", watch, ACCOUNTS, ("Tab",) * 11 + ("Return",), ("Escape",), "Key of %1")
+        self.view("accounts-field", watch, ACCOUNTS, ("Tab",) * 12 + ("Return",), ("Escape",), "Key of %1")
         keyring.send_signal(signal.SIGSTOP)
-        self.view("accounts-asked", watch, ACCOUNTS, ("Tab",) * 11 + ("Return", Typed("another"), "Return"), (), "Asking the keyring…")
+        self.view("accounts-asked", watch, ACCOUNTS, ("Tab",) * 12 + ("Return", Typed("another"), "Return"), (), "Asking the keyring…")
         keyring.send_signal(signal.SIGCONT)
         subprocess.run([*secrets, "org.freedesktop.Secret.Service.Lock", "['/org/freedesktop/secrets/collection/login']"],
                        check=True, stdout=subprocess.DEVNULL)

@@ -37,6 +37,8 @@ QString candidates(Takes takes) {
         return u"$(compgen -f -- \"$current\")"_s;
     case Takes::service:
         return u"$(fendrelctl account list 2>/dev/null | cut -d: -f1)"_s;
+    case Takes::widget:
+        return u"$(fendrelctl widgets 2>/dev/null | cut -f1)"_s;
     case Takes::nothing:
     case Takes::text:
     case Takes::app:

@@ -75,4 +75,31 @@ QString answersText(const QJsonValue& answers) {
     return text;
 }
 
+QString widgetsText(const QJsonValue& widgets) {
+    const auto pairs = [](const QJsonValue& value) {
+        QStringList texts;
+        const QJsonObject object = value.toObject();
+        for (auto member = object.begin(); member != object.end(); ++member)
+            texts.append(u"%1 (%2)"_s.arg(member.key(), scalar(*member)));
+        return texts.isEmpty() ? u"-"_s : texts.join(u", "_s);
+    };
+    QString text;
+    for (const auto& each : widgets.toArray()) {
+        const QJsonObject widget = each.toObject();
+        QStringList sizes;
+        for (const auto& size : widget[u"sizes"].toArray())
+            sizes.append(size.toString());
+        text += QStringList{widget[u"id"].toString(),
+                            widget[u"title"].toString(),
+                            widget[u"category"].toString(),
+                            sizes.join(u", "_s),
+                            widget[u"hasCard"].toBool() ? u"card"_s : u"no card yet"_s,
+                            pairs(widget[u"modes"]),
+                            pairs(widget[u"accounts"])}
+                    .join(u'\t') +
+                u'\n';
+    }
+    return text;
+}
+
 } // namespace fendrel::control

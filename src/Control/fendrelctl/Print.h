@@ -14,4 +14,8 @@ QString modesText(const QJsonValue& modes);
 /// A line for each learned answer: key, mode, what it is, source, certainty and date, with tabs between them.
 QString answersText(const QJsonValue& answers);
 
+/// A line for each kind of widget: identifier, title, category, sizes, whether it has a card, the modes that have it
+/// with its size there, and its accounts with whether they are connected; with tabs between them.
+QString widgetsText(const QJsonValue& widgets);
+
 } // namespace fendrel::control

@@ -68,6 +68,7 @@ int run(const Request& request, bool asJson) {
         else
             print(stdout, request.command == u"modes"     ? modesText(answer[u"result"])
                           : request.command == u"answers" ? answersText(answer[u"result"])
+                          : request.command == u"widgets" ? widgetsText(answer[u"result"])
                                                           : plainText(answer[u"result"]));
         return false;
     });

@@ -145,7 +145,7 @@ void ModeEditor::edit(const QString& modeID) {
     m_apps.show(apps);
     m_sites.show(sites);
     m_widgets.show(widgets);
-    m_widgetKinds.show(m_mode.widgets, m_widgetWords);
+    showWidgetKinds();
     search(m_words);
     Q_EMIT changed();
 }
@@ -263,7 +263,13 @@ void ModeEditor::chooseWidget(const QString& widget, bool isChosen) {
 
 void ModeEditor::searchWidgets(const QString& words) {
     m_widgetWords = words;
-    m_widgetKinds.show(m_mode.widgets, words);
+    showWidgetKinds();
+}
+
+void ModeEditor::showWidgetKinds() {
+    m_widgetKinds.show(m_mode.widgets, m_widgetWords, [&widgets = m_controller.widgets()](auto& row) {
+        row.isDrawn = widgets.feed(*enumValue<DockWidget>(row.id)) != nullptr;
+    });
 }
 
 } // namespace fendrel

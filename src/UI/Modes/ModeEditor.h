@@ -86,6 +86,7 @@ Q_SIGNALS:
 
 private:
     void refresh();
+    void showWidgetKinds();
     QString alsoIn(QStringList Mode::*list, const QString& entry) const;
 
     AppController& m_controller;

@@ -17,12 +17,13 @@ SettingsGroup {
         required property string symbol
         required property color accent
         required property bool isChosen
+        required property string note
         width: ListView.view.width
         height: words.height + 18
         activeFocusOnTab: true
         Accessible.role: Accessible.CheckBox
         Accessible.name: title
-        Accessible.description: detail
+        Accessible.description: note === "" ? detail : detail + ". " + note
         Accessible.checkable: true
         Accessible.checked: isChosen
         Accessible.focusable: true
@@ -44,6 +45,7 @@ SettingsGroup {
             height: width
             radius: Math.round(width * 0.28)
             color: kind.accent
+            opacity: kind.note === "" ? 1 : 0.45
             Symbol {
                 anchors.centerIn: parent
                 name: kind.symbol
@@ -60,6 +62,16 @@ SettingsGroup {
                 colors: group.colors
                 color: group.colors.secondaryText
                 text: kind.detail
+                font.pixelSize: Theme.textHelp
+                wrapMode: Text.Wrap
+                width: parent.width
+                Accessible.ignored: true
+            }
+            Label {
+                colors: group.colors
+                color: group.colors.secondaryText
+                visible: kind.note !== ""
+                text: kind.note
                 font.pixelSize: Theme.textHelp
                 wrapMode: Text.Wrap
                 width: parent.width
@@ -91,7 +103,7 @@ SettingsGroup {
     SettingRow {
         colors: group.colors
         label: qsTr("Widgets")
-        help: qsTr("Small cards in the dock while you are in this mode. The dock doesn't draw them yet: what is chosen here is kept for then.")
+        help: qsTr("Small cards in the dock while you are in this mode.")
         PushButton {
             id: chooser
             colors: group.colors

@@ -7,6 +7,11 @@
 
 namespace fendrel {
 
+/// What is to be known before it is chosen.
+QString WidgetsModel::note(const Row& row) {
+    return row.isDrawn ? QString() : tr("The dock can't show this one yet.");
+}
+
 void WidgetsModel::show(const QStringList& chosen, const QString& words, const std::function<void(Row&)>& complete) {
     const QStringList wanted = words.split(u' ', Qt::SkipEmptyParts);
     QList<DockWidgetKind> kinds = dockWidgetKinds();

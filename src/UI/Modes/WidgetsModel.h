@@ -29,7 +29,10 @@ public:
         QString modeNames{};
         bool needsAccount{};
         bool isConnected{};
-        QString account{}; ///< what is to be said about it
+        QString account{};   ///< what is to be said about it
+        bool isDrawn{true};  ///< there is a card for it
+        QStringList sizes{}; ///< to choose from, the smallest first; empty: there is no choice
+        int size{-1};        ///< the chosen one's place among them
         bool operator==(const Row&) const = default;
     };
 
@@ -52,6 +55,8 @@ private:
     template<class, class>
     friend class RowSync;
 
+    static QString note(const Row& row);
+
     std::optional<WidgetCategory> m_category;
     const RowRoles<Row> m_roles{{"widgetID", &Row::id},
                                 {"title", &Row::title},
@@ -64,7 +69,10 @@ private:
                                 {"modeNames", &Row::modeNames},
                                 {"needsAccount", &Row::needsAccount},
                                 {"isConnected", &Row::isConnected},
-                                {"account", &Row::account}};
+                                {"account", &Row::account},
+                                {"note", &WidgetsModel::note},
+                                {"sizes", &Row::sizes},
+                                {"size", &Row::size}};
     QList<Row> m_rows;
 };
 

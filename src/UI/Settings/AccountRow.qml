@@ -16,11 +16,14 @@ FocusScope {
     required property string standing
     required property bool isConnected
     required property bool busy
+    required property bool isTesting
+    required property string news // how a test of the key went
+    required property bool isRefused
     property bool isOpen: false
 
     readonly property int margin: 18
     readonly property real scaling: Math.max(1, Theme.textScale)
-    readonly property bool isNarrow: width < 480 * scaling
+    readonly property bool isNarrow: width < 560 * scaling
 
     width: parent?.width ?? 0
     height: content.height + 28
@@ -37,6 +40,34 @@ FocusScope {
         isOpen = false
         if (activeFocus)
             opener.forceActiveFocus(Qt.TabFocusReason)
+    }
+    component Standing: Item {
+        id: line
+        property alias text: caption.text
+        property string sign
+        property color shade
+        width: parent.width
+        height: caption.height
+        Accessible.name: text
+        Symbol {
+            id: symbol
+            name: line.sign
+            anchors.left: parent.left
+            y: (caption.height / Math.max(1, caption.lineCount) - height) / 2
+            visible: name !== ""
+            size: Math.round(13 * Math.max(1, Theme.textScale))
+            color: line.shade
+        }
+        Label {
+            id: caption
+            anchors { left: symbol.visible ? symbol.right : parent.left; leftMargin: symbol.visible ? 5 : 0; right: parent.right }
+            colors: row.colors
+            color: line.shade
+            font.pixelSize: Theme.textHelp
+            font.weight: symbol.visible ? Font.Medium : Font.Normal
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
     }
     Connections {
         target: row.accounts
@@ -105,34 +136,39 @@ FocusScope {
                     Accessible.role: Accessible.StaticText
                     Accessible.name: text
                 }
-                Row {
-                    anchors.left: parent.left
-                    spacing: 5
-                    visible: row.standing !== "" && (row.busy || row.accounts.problem === "") // the pane says what is wrong with all
-                    Symbol {
-                        anchors.verticalCenter: parent.verticalCenter
-                        visible: row.isConnected && !row.busy
-                        name: "checkmark"
-                        size: Math.round(13 * row.scaling)
-                        color: row.colors.well
-                    }
-                    Label {
-                        colors: row.colors
-                        color: row.isConnected && !row.busy ? row.colors.well : row.colors.secondaryText
-                        text: row.standing
-                        font.pixelSize: Theme.textHelp
-                        font.weight: row.isConnected ? Font.Medium : Font.Normal
-                        Accessible.role: Accessible.StaticText
-                        Accessible.name: text
-                    }
+                Standing {
+                    visible: row.news === "" && row.standing !== "" && (row.busy || row.accounts.problem === "") // the pane says what is wrong with all
+                    text: row.standing
+                    sign: row.isConnected && !row.busy && !row.isTesting ? "checkmark" : ""
+                    shade: sign === "" ? row.colors.secondaryText : row.colors.well
+                    Accessible.role: Accessible.StaticText
+                }
+                Standing {
+                    visible: row.news !== ""
+                    text: row.news
+                    sign: row.isRefused ? "info.circle" : "checkmark"
+                    shade: row.isRefused ? row.colors.warning : row.colors.well
+                    Accessible.role: Accessible.AlertMessage // it comes by itself
                 }
             }
-            Row {
+            Flow {
                 id: buttons
+                readonly property real line: opener.implicitWidth + (row.isConnected ? test.implicitWidth + remove.implicitWidth + 2 * spacing : 0)
                 anchors.right: parent.right
+                width: Math.min(Math.ceil(line), parent.width)
                 y: parent.height - (row.isNarrow ? height : (parent.height + height) / 2)
                 spacing: 8
                 PushButton {
+                    id: test
+                    colors: row.colors
+                    visible: row.isConnected
+                    isEnabled: !row.busy && !row.isTesting
+                    text: qsTr("Test")
+                    Accessible.description: qsTr("Asks %1 whether it takes the key").arg(row.name)
+                    onClicked: row.accounts.test(row.index)
+                }
+                PushButton {
+                    id: remove
                     colors: row.colors
                     visible: row.isConnected
                     isEnabled: !row.busy

@@ -1,6 +1,7 @@
 #include "UI/Settings/AccountsController.h"
 
 #include "App/AppController.h"
+#include "Widgets/AccountTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -17,7 +18,18 @@ namespace {
 using Service = WidgetAccounts::Service;
 using Problem = WidgetAccounts::Problem;
 
-enum Role { nameRole = Qt::UserRole + 1, useRole, letterRole, tintRole, stateRole, isConnectedRole, isBusyRole };
+enum Role {
+    nameRole = Qt::UserRole + 1,
+    useRole,
+    letterRole,
+    tintRole,
+    stateRole,
+    isConnectedRole,
+    isBusyRole,
+    isTestingRole,
+    newsRole,
+    isRefusedRole
+};
 
 /// Apart from one another in the list, and nobody's own colours.
 Tint tintOf(Service service) {
@@ -49,10 +61,15 @@ QString useOf(Service service) {
 
 AccountsController::AccountsController(AppController& controller)
     : m_controller(controller), m_accounts(controller.accounts()) {
-    connect(&m_accounts, &WidgetAccounts::changed, this, [this] {
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
-        Q_EMIT changed();
+    connect(&m_accounts, &WidgetAccounts::changed, this, &AccountsController::accountsChanged);
+}
+
+void AccountsController::accountsChanged() {
+    std::erase_if(m_tests, [this](const auto& entry) {
+        return !m_accounts.connected().contains(entry.first) || m_accounts.isBusy(entry.first);
     });
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    Q_EMIT changed();
 }
 
 int AccountsController::rowCount(const QModelIndex& parent) const {
@@ -63,6 +80,7 @@ QVariant AccountsController::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const auto& row = WidgetAccounts::all()[index.row()];
+    const auto test = m_tests.find(row.service);
     switch (role) {
     case Qt::DisplayRole:
     case nameRole:
@@ -79,19 +97,40 @@ QVariant AccountsController::data(const QModelIndex& index, int role) const {
         return m_accounts.connected().contains(row.service);
     case isBusyRole:
         return m_accounts.isBusy(row.service);
+    case isTestingRole:
+        return test != m_tests.end() && test->second.isRunning;
+    case newsRole:
+        return newsText(row.service);
+    case isRefusedRole:
+        return test != m_tests.end() && !test->second.problem.isEmpty();
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> AccountsController::roleNames() const {
-    return {{nameRole, "name"},      {useRole, "use"},     {letterRole, "letter"},          {tintRole, "tint"},
-            {stateRole, "standing"}, {isBusyRole, "busy"}, {isConnectedRole, "isConnected"}};
+    return {{nameRole, "name"},      {useRole, "use"},
+            {letterRole, "letter"},  {tintRole, "tint"},
+            {stateRole, "standing"}, {isConnectedRole, "isConnected"},
+            {isBusyRole, "busy"},    {isTestingRole, "isTesting"},
+            {newsRole, "news"},      {isRefusedRole, "isRefused"}};
+}
+
+/// How the last test went; empty while there was none, and while it runs.
+QString AccountsController::newsText(Service service) const {
+    const auto test = m_tests.find(service);
+    if (test == m_tests.end() || test->second.isRunning)
+        return {};
+    return test->second.problem.isEmpty()
+               ? tr("Connected, and %1 took the key").arg(WidgetAccounts::description(service).name)
+               : test->second.problem;
 }
 
 QString AccountsController::stateText(Service service) const {
     if (m_accounts.isBusy(service))
         return tr("Asking the keyring…");
+    if (const auto test = m_tests.find(service); test != m_tests.end() && test->second.isRunning)
+        return tr("Asking %1…").arg(WidgetAccounts::description(service).name);
     if (const auto problem = m_accounts.problem(service)) {
         switch (*problem) {
         case Problem::missing:
@@ -183,9 +222,29 @@ void AccountsController::openKeyPage(int row) {
 void AccountsController::save(int row, const QString& key) {
     m_accounts.save(key, WidgetAccounts::all()[row].service,
                     [self = QPointer(this), row](std::optional<Problem> problem) {
-                        if (self && !problem)
-                            Q_EMIT self->saved(row);
+                        if (!self || problem)
+                            return;
+                        self->test(row);
+                        Q_EMIT self->saved(row);
                     });
+}
+
+void AccountsController::test(int row) {
+    const Service service = WidgetAccounts::all()[row].service;
+    m_tests[service] = {}; // one at a time: a test before it is dropped
+    const Platform& platform = m_controller.platform();
+    m_tests[service].handle =
+        testAccount(service, m_accounts, *platform.http, platform.clock->now(), [this, service](const auto& problem) {
+            m_tests[service].isRunning = false;
+            m_tests[service].problem = problem.value_or(QString());
+            show(service);
+        });
+    show(service);
+}
+
+void AccountsController::show(Service service) {
+    const QModelIndex place = index(static_cast<int>(service));
+    Q_EMIT dataChanged(place, place);
 }
 
 void AccountsController::askToRemove(int row) {

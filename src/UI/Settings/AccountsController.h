@@ -5,6 +5,8 @@
 #include <QAbstractListModel>
 #include <QtQmlIntegration>
 
+#include <map>
+
 namespace fendrel {
 
 class AppController;
@@ -36,7 +38,8 @@ public:
     Q_INVOKABLE void look(); ///< into the keyring, which others may have changed
     Q_INVOKABLE void runRemedy();
     Q_INVOKABLE void openKeyPage(int row);
-    Q_INVOKABLE void save(int row, const QString& key);
+    Q_INVOKABLE void save(int row, const QString& key); ///< and tests it
+    Q_INVOKABLE void test(int row);                     ///< whether the service takes the key that is there
     Q_INVOKABLE void askToRemove(int row);
     Q_INVOKABLE QString clipboardText() const;
 
@@ -47,9 +50,19 @@ Q_SIGNALS:
 private:
     std::optional<WidgetAccounts::Problem> keyringProblem() const;
     QString stateText(WidgetAccounts::Service service) const;
+    QString newsText(WidgetAccounts::Service service) const;
+    void accountsChanged();
+    void show(WidgetAccounts::Service service);
+
+    struct Test {
+        Handle handle{};
+        bool isRunning{true};
+        QString problem{}; ///< empty: the key was taken
+    };
 
     AppController& m_controller;
     WidgetAccounts& m_accounts;
+    std::map<WidgetAccounts::Service, Test> m_tests; ///< of the keys that are there now
 };
 
 } // namespace fendrel

@@ -14,12 +14,6 @@ Column {
     spacing: 18
     Component.onCompleted: accounts.look()
 
-    StateLine {
-        colors: page.colors
-        margin: 0
-        problem: qsTr("The dock doesn't draw widgets yet. Keys that you enter here are kept for then.")
-        well: ""
-    }
     Label {
         colors: page.colors
         color: page.colors.secondaryText

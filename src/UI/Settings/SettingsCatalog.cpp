@@ -152,6 +152,15 @@ constexpr auto rows = std::to_array<Row>({
 
     {"widgets", "widgets", QT_TRANSLATE_NOOP("SettingsCatalog", "Widgets"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "What the dock shows beside your applications."), ""},
+    {"weatherPlace", "widgets", QT_TRANSLATE_NOOP("SettingsCatalog", "City"),
+     QT_TRANSLATE_NOOP("SettingsCatalog",
+                       "The weather widget shows its weather, in the temperature unit that your system uses."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "weather forecast temperature place town location")},
+    {"tickerSymbols", "widgets", QT_TRANSLATE_NOOP("SettingsCatalog", "Symbols"),
+     QT_TRANSLATE_NOOP("SettingsCatalog",
+                       "The ticker widget follows up to 20 of them, such as AAPL, ^GSPC or BTC-USD. Commas or spaces "
+                       "between them."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "ticker stocks shares index crypto finance quotes market")},
 
     {"modes", "modes", QT_TRANSLATE_NOOP("SettingsCatalog", "Modes"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Your modes, and the applications and web sites of each."),

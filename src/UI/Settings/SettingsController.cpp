@@ -143,8 +143,11 @@ void SettingsController::askToReset(const QString& pane) {
          .buttons = {tr("Reset"), tr("Cancel")},
          .isGrave = true,
          .answered = [self = QPointer(this), pane](int button) {
-             if (self && button == 0)
-                 self->m_controller.preferences().reset(settingsCatalog::settingsOf(pane));
+             if (!self || button != 0)
+                 return;
+             const QStringList settings = settingsCatalog::settingsOf(pane);
+             self->m_controller.preferences().reset(settings);
+             self->m_controller.widgets().reset(settings);
          }});
 }
 

@@ -2,11 +2,14 @@
 
 #include "App/AppController.h"
 
+#include <algorithm>
+
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-WidgetsController::WidgetsController(AppController& controller) : m_controller(controller) {
+WidgetsController::WidgetsController(AppController& controller)
+    : m_controller(controller), m_subjects(controller.widgets(), *controller.platform().shell) {
     const QMetaEnum categories = QMetaEnum::fromType<WidgetCategory>();
     for (int index = 0; index < categories.keyCount(); ++index)
         m_groups.push_back(std::make_unique<WidgetsModel>(static_cast<WidgetCategory>(categories.value(index))));
@@ -14,6 +17,7 @@ WidgetsController::WidgetsController(AppController& controller) : m_controller(c
         group->setParent(this); // else views would think that they own it
     connect(&controller.engine(), &ModeEngine::changed, this, &WidgetsController::refresh);
     connect(&controller.accounts(), &WidgetAccounts::changed, this, &WidgetsController::refresh);
+    connect(&controller.widgetSizes(), &WidgetSizes::changed, this, &WidgetsController::refresh);
     controller.accounts().read();
     refresh();
 }
@@ -53,6 +57,13 @@ void WidgetsController::choose(const QString& widgetID, bool on) {
     m_controller.engine().update(mode);
 }
 
+void WidgetsController::setSize(const QString& widgetID, const QString& size) {
+    const auto widget = enumValue<DockWidget>(widgetID);
+    const auto wanted = enumValue<WidgetSize>(size);
+    if (widget && wanted)
+        m_controller.widgetSizes().set(m_controller.engine().current().id, *widget, *wanted);
+}
+
 void WidgetsController::refresh() {
     for (const auto& group : m_groups)
         group->show(m_controller.engine().current().widgets, m_words, [this](auto& row) { complete(row); });
@@ -60,6 +71,18 @@ void WidgetsController::refresh() {
 }
 
 void WidgetsController::complete(WidgetsModel::Row& row) const {
+    const auto widget = *enumValue<DockWidget>(row.id);
+    row.isDrawn = m_controller.widgets().feed(widget) != nullptr;
+    QList<WidgetSize> sizes = kind(widget).sizes;
+    std::ranges::sort(sizes);
+    const auto items = m_controller.widgetSizes().items(m_controller.engine().current());
+    const auto item = std::ranges::find(items, widget, &WidgetItem::widget);
+    if (row.isDrawn && item != items.end() && sizes.size() > 1) {
+        for (const WidgetSize size : sizes)
+            row.sizes.append(enumName(size));
+        row.size = static_cast<int>(sizes.indexOf(item->size));
+    }
+
     QStringList names;
     for (const Mode& mode : m_controller.engine().modes()) {
         if (!mode.widgets.contains(row.id))
@@ -71,7 +94,7 @@ void WidgetsController::complete(WidgetsModel::Row& row) const {
 
     QStringList connected;
     QStringList possible;
-    for (const auto service : WidgetAccounts::usedBy(*enumValue<DockWidget>(row.id))) {
+    for (const auto service : WidgetAccounts::usedBy(widget)) {
         const QString& name = WidgetAccounts::description(service).name;
         possible.append(name);
         if (m_controller.accounts().connected().contains(service))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/Modes/WidgetsModel.h"
+#include "UI/Settings/WidgetSubjects.h"
 
 #include <memory>
 #include <vector>
@@ -18,6 +19,7 @@ class WidgetsController : public QObject {
     Q_PROPERTY(int found READ found NOTIFY changed)      ///< in all of them
     Q_PROPERTY(QString modeName READ modeName NOTIFY changed)
     Q_PROPERTY(QColor modeTint READ modeTint NOTIFY changed)
+    Q_PROPERTY(fendrel::WidgetSubjects* subjects READ subjects CONSTANT)
 
 public:
     explicit WidgetsController(AppController& controller);
@@ -26,9 +28,11 @@ public:
     int found() const;
     QString modeName() const;
     QColor modeTint() const;
+    WidgetSubjects* subjects() { return &m_subjects; }
 
     Q_INVOKABLE void search(const QString& words); ///< all of them are in what is shown
     Q_INVOKABLE void choose(const QString& widgetID, bool on);
+    Q_INVOKABLE void setSize(const QString& widgetID, const QString& size); ///< in the current mode
 
 Q_SIGNALS:
     void changed();
@@ -40,6 +44,7 @@ private:
     AppController& m_controller;
     std::vector<std::unique_ptr<WidgetsModel>> m_groups;
     QString m_words;
+    WidgetSubjects m_subjects;
 };
 
 } // namespace fendrel

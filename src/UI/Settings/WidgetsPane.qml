@@ -13,12 +13,6 @@ Column {
     width: parent?.width ?? 0
     spacing: 18
 
-    StateLine {
-        colors: page.colors
-        margin: 0
-        problem: qsTr("The dock doesn't draw widgets yet. What is chosen here is kept for then.")
-        well: ""
-    }
     Item {
         width: parent.width
         height: Math.max(dot.height, intro.height)
@@ -74,4 +68,5 @@ Column {
         visible: page.widgets.found === 0
         text: qsTr("No widget is called that. Perhaps in other words?")
     }
+    ResetButton { colors: page.colors; settings: page.settings; pane: "widgets" }
 }

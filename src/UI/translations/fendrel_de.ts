@@ -122,16 +122,43 @@
         <source>Opens a page of %1 in your browser</source>
         <translation>Öffnet eine Seite von %1 in deinem Browser</translation>
     </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Asks %1 whether it takes the key</source>
+        <translation>Fragt %1, ob der Schlüssel angenommen wird</translation>
+    </message>
+</context>
+<context>
+    <name>AccountTest</name>
+    <message>
+        <source>There is no key for it</source>
+        <translation>Dafür gibt es keinen Schlüssel</translation>
+    </message>
+    <message>
+        <source>Your desktop has no keyring</source>
+        <translation>Deine Arbeitsfläche hat keinen Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>Your keyring is locked</source>
+        <translation>Dein Schlüsselbund ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Your keyring doesn&apos;t work</source>
+        <translation>Dein Schlüsselbund funktioniert nicht</translation>
+    </message>
+    <message>
+        <source>There is no network connection</source>
+        <translation>Es gibt keine Netzwerkverbindung</translation>
+    </message>
 </context>
 <context>
     <name>AccountsPane</name>
     <message>
         <source>Some widgets show what a service knows about you, and need a key for it. Keys are kept in your keyring and nowhere else.</source>
         <translation>Manche Widgets zeigen, was ein Dienst über dich weiß, und brauchen dafür einen Schlüssel. Schlüssel liegen in deinem Schlüsselbund und nirgends sonst.</translation>
-    </message>
-    <message>
-        <source>The dock doesn&apos;t draw widgets yet. Keys that you enter here are kept for then.</source>
-        <translation>Das Dock zeichnet noch keine Widgets. Schlüssel, die du hier eingibst, werden dafür aufgehoben.</translation>
     </message>
 </context>
 <context>
@@ -451,6 +478,293 @@
     <message>
         <source>Command</source>
         <translation>Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>Card</name>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <extracomment>Weather of now, the day&apos;s highest and lowest temperature.</extracomment>
+        <translation>%1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Nothing sold yet</source>
+        <translation>Noch nichts verkauft</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sale(s)</source>
+        <translation>
+            <numerusform>%n Verkauf</numerusform>
+            <numerusform>%n Verkäufe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>at least, with %1</source>
+        <translation>mindestens, mit %1</translation>
+    </message>
+    <message>
+        <source>Rates by Exchange Rate API</source>
+        <translation>Kurse von Exchange Rate API</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>%1 ready</source>
+        <translation>%1 bereit</translation>
+    </message>
+    <message>
+        <source>Building</source>
+        <translation>Im Bau</translation>
+    </message>
+    <message>
+        <source>%1 building</source>
+        <translation>%1 wird gebaut</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Gescheitert</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 gescheitert</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 canceled</source>
+        <translation>%1 abgebrochen</translation>
+    </message>
+    <message>
+        <source>Queued</source>
+        <translation>In der Schlange</translation>
+    </message>
+    <message>
+        <source>%1 queued</source>
+        <translation>%1 wartet</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Dringend</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>No reviews waiting</source>
+        <translation>Keine Reviews offen</translation>
+    </message>
+    <message numerus="yes">
+        <source>review(s) waiting</source>
+        <translation>
+            <numerusform>Review offen</numerusform>
+            <numerusform>Reviews offen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of your own</source>
+        <translation>
+            <numerusform>%n eigener</numerusform>
+            <numerusform>%n eigene</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No deploys yet</source>
+        <translation>Noch keine Deploys</translation>
+    </message>
+    <message>
+        <source>Nothing assigned</source>
+        <translation>Nichts zugewiesen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n assigned</source>
+        <translation>
+            <numerusform>%n zugewiesen</numerusform>
+            <numerusform>%n zugewiesen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation>
+            <numerusform>%n Ereignis</numerusform>
+            <numerusform>%n Ereignisse</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n user(s)</source>
+        <translation>
+            <numerusform>%n Person</numerusform>
+            <numerusform>%n Personen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No errors today</source>
+        <translation>Heute keine Fehler</translation>
+    </message>
+    <message numerus="yes">
+        <source>error(s) in 24 hours</source>
+        <translation>
+            <numerusform>Fehler in 24 Stunden</numerusform>
+            <numerusform>Fehler in 24 Stunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <extracomment>A share in percent.</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>jetzt</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 Min.</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>%1 d</source>
+        <translation>%1 T</translation>
+    </message>
+    <message>
+        <source>Refund</source>
+        <translation>Erstattung</translation>
+    </message>
+    <message>
+        <source>Checks passing</source>
+        <translation>Prüfungen bestanden</translation>
+    </message>
+    <message>
+        <source>Checks running</source>
+        <translation>Prüfungen laufen</translation>
+    </message>
+    <message>
+        <source>Checks failing</source>
+        <translation>Prüfungen schlagen fehl</translation>
+    </message>
+    <message>
+        <source>Fatal</source>
+        <translation>Schwerwiegend</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message numerus="yes">
+        <source>review(s)</source>
+        <translation>
+            <numerusform>Review</numerusform>
+            <numerusform>Reviews</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <translation>
+            <numerusform>%n überfällig</numerusform>
+            <numerusform>%n überfällig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>error(s)</source>
+        <translation>
+            <numerusform>Fehler</numerusform>
+            <numerusform>Fehler</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 ago</source>
+        <translation>vor %1</translation>
+    </message>
+    <message>
+        <source>Unlock your keyring</source>
+        <translation>Schlüsselbund entsperren</translation>
+    </message>
+    <message>
+        <source>The key for this card is in there.</source>
+        <translation>Darin liegt der Schlüssel für diese Karte.</translation>
+    </message>
+    <message>
+        <source>No keyring found</source>
+        <translation>Kein Schlüsselbund gefunden</translation>
+    </message>
+    <message>
+        <source>Keys are kept there and nowhere else.</source>
+        <translation>Schlüssel liegen dort und nirgends sonst.</translation>
+    </message>
+    <message>
+        <source>The keyring doesn&apos;t answer</source>
+        <translation>Der Schlüsselbund antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Connect %1</source>
+        <translation>%1 verbinden</translation>
+    </message>
+    <message>
+        <source>Connect a payment provider</source>
+        <translation>Zahlungsdienst verbinden</translation>
+    </message>
+    <message>
+        <source>Weather data by Open-Meteo.com</source>
+        <translation>Wetterdaten von Open-Meteo.com</translation>
+    </message>
+    <message>
+        <source>Pick symbols</source>
+        <translation>Symbole wählen</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Morgen</translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>Überfällig</translation>
+    </message>
+    <message>
+        <source>in progress</source>
+        <translation>in Arbeit</translation>
+    </message>
+    <message>
+        <source>assigned</source>
+        <translation>zugewiesen</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>Heute fällig</translation>
     </message>
 </context>
 <context>
@@ -1731,8 +2045,8 @@
         <translation>Kein Widget gefunden</translation>
     </message>
     <message>
-        <source>Small cards in the dock while you are in this mode. The dock doesn&apos;t draw them yet: what is chosen here is kept for then.</source>
-        <translation>Kleine Karten im Dock, während du in diesem Modus bist. Das Dock zeichnet sie noch nicht: Was du hier wählst, wird dafür aufgehoben.</translation>
+        <source>Small cards in the dock while you are in this mode.</source>
+        <translation>Kleine Karten im Dock, während du in diesem Modus bist.</translation>
     </message>
 </context>
 <context>
@@ -2448,6 +2762,30 @@
     <message>
         <source>Writes modes, settings and learned answers to a file, without keys of accounts.</source>
         <translation>Schreibt Modi, Einstellungen und gelernte Antworten in eine Datei, ohne die Schlüssel der Konten.</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>The weather widget shows its weather, in the temperature unit that your system uses.</source>
+        <translation>Das Wetter-Widget zeigt ihr Wetter, in der Temperatureinheit deines Systems.</translation>
+    </message>
+    <message>
+        <source>weather forecast temperature place town location</source>
+        <translation>Wetter Vorhersage Temperatur Ort Stadt Standort</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>The ticker widget follows up to 20 of them, such as AAPL, ^GSPC or BTC-USD. Commas or spaces between them.</source>
+        <translation>Das Ticker-Widget verfolgt bis zu 20 davon, etwa AAPL, ^GSPC oder BTC-USD. Dazwischen Kommas oder Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>ticker stocks shares index crypto finance quotes market</source>
+        <translation>Ticker Aktien Börse Index Krypto Finanzen Kurse Markt</translation>
     </message>
 </context>
 <context>
@@ -3203,6 +3541,84 @@
     </message>
 </context>
 <context>
+    <name>WeatherRow</name>
+    <message>
+        <source>Looking for it…</source>
+        <translation>Wird gesucht …</translation>
+    </message>
+    <message>
+        <source>%1 is guessed from your time zone. Type another one to change that.</source>
+        <translation>%1 ist aus deiner Zeitzone geraten. Gib eine andere ein, um das zu ändern.</translation>
+    </message>
+    <message>
+        <source>Name of a city</source>
+        <translation>Name einer Stadt</translation>
+    </message>
+    <message>
+        <source>Weather data by Open-Meteo.com</source>
+        <translation>Wetterdaten von Open-Meteo.com</translation>
+    </message>
+    <message>
+        <source>Opens its page in your browser</source>
+        <translation>Öffnet ihre Seite in deinem Browser</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetMenu</name>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Remove from %1</source>
+        <translation>Aus %1 entfernen</translation>
+    </message>
+    <message>
+        <source>Widget Settings…</source>
+        <translation>Widget-Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Open in Browser</source>
+        <translation>Im Browser öffnen</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Move Right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Add Widget</source>
+        <translation>Widget hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>WidgetRow</name>
     <message>
         <source>In %1</source>
@@ -3215,6 +3631,29 @@
     <message>
         <source>%1 in %2</source>
         <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Size of %1 in %2</source>
+        <translation>Größe von %1 in %2</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetStrip</name>
+    <message>
+        <source>Widgets</source>
+        <translation>Widgets</translation>
     </message>
 </context>
 <context>
@@ -3234,10 +3673,6 @@
     <message>
         <source>No widget is called that. Perhaps in other words?</source>
         <translation>Kein Widget heißt so. Vielleicht mit anderen Worten?</translation>
-    </message>
-    <message>
-        <source>The dock doesn&apos;t draw widgets yet. What is chosen here is kept for then.</source>
-        <translation>Das Dock zeichnet noch keine Widgets. Was du hier wählst, wird dafür aufgehoben.</translation>
     </message>
 </context>
 <context>
@@ -3386,6 +3821,14 @@
     <message>
         <source>Show Permissions</source>
         <translation>Berechtigungen zeigen</translation>
+    </message>
+    <message>
+        <source>Connected, and %1 took the key</source>
+        <translation>Verbunden, und %1 hat den Schlüssel angenommen</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>%1 wird gefragt …</translation>
     </message>
 </context>
 <context>
@@ -4324,6 +4767,43 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
 </context>
 <context>
+    <name>fendrel::WidgetActions</name>
+    <message>
+        <source>Opens the accounts in the settings</source>
+        <translation>Öffnet die Konten in den Einstellungen</translation>
+    </message>
+    <message>
+        <source>Opens the widgets in the settings</source>
+        <translation>Öffnet die Widgets in den Einstellungen</translation>
+    </message>
+    <message>
+        <source>Opens it in the browser</source>
+        <translation>Öffnet es im Browser</translation>
+    </message>
+    <message>
+        <source>Asks for what is new</source>
+        <translation>Fragt nach Neuem</translation>
+    </message>
+    <message>
+        <source>Is being asked for what is new</source>
+        <translation>Wird gerade aktualisiert</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::WidgetSubjects</name>
+    <message>
+        <source>No city called “%1” was found.</source>
+        <translation>Keine Stadt namens „%1“ gefunden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only the first %n are kept.</source>
+        <translation>
+            <numerusform>Nur der erste wird behalten.</numerusform>
+            <numerusform>Nur die ersten %n werden behalten.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>fendrel::WidgetsController</name>
     <message>
         <source>Connected to %1</source>
@@ -4336,6 +4816,13 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>Needs an account of %1</source>
         <translation>Braucht ein Konto bei %1</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::WidgetsModel</name>
+    <message>
+        <source>The dock can&apos;t show this one yet.</source>
+        <translation>Das Dock kann dieses noch nicht zeigen.</translation>
     </message>
 </context>
 </TS>

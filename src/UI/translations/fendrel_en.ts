@@ -12,6 +12,79 @@
     </message>
 </context>
 <context>
+    <name>Card</name>
+    <message numerus="yes">
+        <source>%n sale(s)</source>
+        <translation>
+            <numerusform>%n sale</numerusform>
+            <numerusform>%n sales</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>review(s) waiting</source>
+        <translation>
+            <numerusform>review waiting</numerusform>
+            <numerusform>reviews waiting</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of your own</source>
+        <translation>
+            <numerusform>%n of your own</numerusform>
+            <numerusform>%n of your own</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n assigned</source>
+        <translation>
+            <numerusform>%n assigned</numerusform>
+            <numerusform>%n assigned</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation>
+            <numerusform>%n event</numerusform>
+            <numerusform>%n events</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n user(s)</source>
+        <translation>
+            <numerusform>%n user</numerusform>
+            <numerusform>%n users</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>error(s) in 24 hours</source>
+        <translation>
+            <numerusform>error in 24 hours</numerusform>
+            <numerusform>errors in 24 hours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>review(s)</source>
+        <translation>
+            <numerusform>review</numerusform>
+            <numerusform>reviews</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <translation>
+            <numerusform>%n overdue</numerusform>
+            <numerusform>%n overdue</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>error(s)</source>
+        <translation>
+            <numerusform>error</numerusform>
+            <numerusform>errors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ModePill</name>
     <message numerus="yes">
         <source>%n held message(s)</source>
@@ -86,6 +159,16 @@
         <translation>
             <numerusform>%n of them is on the list already.</numerusform>
             <numerusform>%n of them are on the list already.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::WidgetSubjects</name>
+    <message numerus="yes">
+        <source>Only the first %n are kept.</source>
+        <translation>
+            <numerusform>Only the first is kept.</numerusform>
+            <numerusform>Only the first %n are kept.</numerusform>
         </translation>
     </message>
 </context>
