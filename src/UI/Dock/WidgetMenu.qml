@@ -24,7 +24,8 @@ QtObject {
 
     // How it stands, as far as the header and the rows don't say it.
     function standing(content: var): var {
-        const said = spoken(content.headline, content.caption, content.note)
+        const lead = content.unit === "" ? [content.headline, content.caption] : [content.headline + " " + content.caption] // "3 reviews"
+        const said = spoken(...lead, content.note)
         const now = content.state === "ready" && said.length > 0 ? [said.join(" · ")] : said // sentences have a line each
         const credit = content.source === "" ? []
             : actions.isOpenable(content.sourceAddress) ? [{ text: content.source, value: () => menu.actions.open(content.sourceAddress), symbol: "info.circle" }]

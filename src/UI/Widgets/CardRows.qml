@@ -15,6 +15,10 @@ Column {
     readonly property int entryHeight: isNarrow ? 2 * ink.line + 4 : ink.line
     readonly property int fitting: Math.max(0, Math.floor((height + 4) / entryHeight))
 
+    FontMetrics {
+        id: metrics
+        font.pixelSize: list.ink.textSize
+    }
     Repeater {
         model: Math.min(list.rows.length, list.fitting)
         Item {
@@ -71,7 +75,7 @@ Column {
             CardLabel {
                 id: amount
                 anchors { right: parent.right; top: list.isNarrow ? title.bottom : parent.top }
-                width: list.isNarrow ? parent.width - entry.start : implicitWidth
+                width: list.isNarrow ? parent.width - entry.start : Math.ceil(metrics.advanceWidth(entry.value))
                 height: entry.lineHeight
                 visible: entry.hasValue
                 ink: list.ink
