@@ -23,6 +23,7 @@ QList<Dependency> dependencies() {
          Texts::tr("questions to a language model on this computer"),
          {u"libcurl4"_s, u"libcurl4-openssl-dev"_s}},
         {u"D-Bus"_s, u"AFL-2.1 or GPL-2.0-or-later"_s, Texts::tr("talks to the desktop"), {u"dbus"_s}},
+        {u"file"_s, u"BSD-2-Clause"_s, Texts::tr("tells folders from files"), {u"file"_s}},
         {u"freedesktop.org icons"_s, u"GPL-2.0"_s, Texts::tr("the folders of icon themes"), {u"hicolor-icon-theme"_s}},
         {u"GLib"_s,
          u"LGPL-2.1-or-later"_s,

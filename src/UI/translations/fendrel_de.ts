@@ -4130,6 +4130,10 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <source>amounts of money</source>
         <translation>Geldbeträge</translation>
     </message>
+    <message>
+        <source>tells folders from files</source>
+        <translation>unterscheidet Ordner und Dateien</translation>
+    </message>
 </context>
 <context>
     <name>fendrel::DiagnosticBundle</name>
