@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Base/Handle.h"
+
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+
+namespace fendrel {
+
+/// A file that an application has open for its user.
+struct OpenDocument {
+    QString bundleID{};
+    QUrl file{}; ///< a local one
+    bool operator==(const OpenDocument&) const = default;
+};
+
+/// A running application, and what its windows are called.
+struct DocumentOwner {
+    QString bundleID{};
+    QList<qint64> pids{};
+    QStringList titles{};
+    bool operator==(const DocumentOwner&) const = default;
+};
+
+/// Which of the user's files are open. Main thread; nothing blocks.
+class Documents {
+public:
+    using Found = std::function<void(const QList<OpenDocument>&)>;
+    virtual ~Documents() = default;
+
+    /// `done` comes later, once, and never after the handle is dropped. An application that can't be asked, or does not
+    /// answer in time, has none.
+    virtual Handle find(const QList<DocumentOwner>& owners, Found done) = 0;
+};
+
+} // namespace fendrel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Ports/Documents.h"
+
+#include <memory>
+#include <utility>
+
+namespace fendrel {
+
+/// Answers only when told to.
+class FakeDocuments final : public Documents {
+public:
+    Handle find(const QList<DocumentOwner>& owners, Found done) override {
+        asked.append(owners);
+        *m_waiting = std::move(done);
+        return Handle([waiting = m_waiting] { *waiting = {}; });
+    }
+
+    /// Whether anybody waited for it.
+    bool answer(const QList<OpenDocument>& found) {
+        const auto told = std::exchange(*m_waiting, {});
+        if (told)
+            told(found);
+        return static_cast<bool>(told);
+    }
+
+    QList<QList<DocumentOwner>> asked;
+
+private:
+    std::shared_ptr<Found> m_waiting = std::make_shared<Found>(); ///< the latest question's
+};
+
+} // namespace fendrel
