@@ -3,6 +3,7 @@
 option(FENDREL_TESTS "Build the tests" ON)
 option(FENDREL_BENCHMARKS "Build the benchmarks" OFF)
 option(FENDREL_FUZZ "Build the fuzz targets and nothing else; wants clang" OFF)
+option(FENDREL_TIME_TRAVEL "Build `fendrelctl debug skip`, by which tests let minutes pass" OFF)
 set(FENDREL_SANITIZE "" CACHE STRING "Sanitizers to build with: empty, address,undefined or thread")
 
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
@@ -43,6 +44,11 @@ function(fendrel_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC fendrel_rules ${arg_LINKS})
     target_precompile_headers(${name} REUSE_FROM fendrel_headers)
+endfunction()
+
+# fendrel_time_travel(<target>): lets it, and what links to it, know whether time travel is built in.
+function(fendrel_time_travel target)
+    target_compile_definitions(${target} PUBLIC $<$<BOOL:${FENDREL_TIME_TRAVEL}>:FENDREL_TIME_TRAVEL>)
 endfunction()
 
 # fendrel_test(<name> [LINKS <targets>] [COMMAND <what runs it>]): one test program from <name>.cpp, run without a

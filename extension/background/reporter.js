@@ -59,7 +59,7 @@ export class Reporter {
         if (!isNews && !this.#isDue)
             return;
         this.#isDue = false;
-        this.#last = { type: "tab", tabId: tab.id, url, title, focused };
+        this.#last = { type: "tab", tabId: tab.id, url, title, focused, ...tab.incognito && { private: true } };
         this.#send(this.#last);
     }
 

@@ -37,7 +37,8 @@ export function judgementWords({ site, state, mode, isCurrent, isAllowed, what, 
 }
 
 export const privateWindowNote = "Where it is allowed, sites in them are judged and veiled like all others, "
-    + "and Fendrel remembers on this computer what it found or was told about a site, with no regard to the kind of window.";
+    + "and Fendrel remembers on this computer what it found or was told about a site, with no regard to the kind of window. "
+    + "Pages in them are never among those that it offers to bring back.";
 
 /** Where each browser has the switch for private windows, in its own words. */
 export function privateWindowWords(userAgent, isFirefox) {

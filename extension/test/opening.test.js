@@ -13,10 +13,15 @@ const opened = async (urls, front, browsing) => {
 
 test("pages are opened where the user browses", async () => {
     const [a, b] = ["https://a.example/", "https://b.example/"];
+    const [both, browsing] = [id => [{ windowId: id, url: a, active: true }, { windowId: id, url: b, active: false }], [{ windowId: 4, active: true }]];
+    const isThere = [{ windowId: 4, url: `${a}#part`, active: true }], isPrivate = [{ windowId: 4, url: a, active: true, incognito: true }];
     const rows = [
-        ["in the window in front", { id: 3, type: "normal" }, [{ windowId: 4 }], [{ windowId: 3, url: a, active: true }, { windowId: 3, url: b, active: false }]],
-        ["past a window that is not for browsing", { id: 5, type: "popup" }, [{ windowId: 4 }], [{ windowId: 4, url: a, active: true }, { windowId: 4, url: b, active: false }]],
+        ["in the window in front", { id: 3, type: "normal" }, browsing, both(3)],
+        ["past a window that is not for browsing", { id: 5, type: "popup" }, browsing, both(4)],
+        ["past a private window", { id: 5, type: "normal", incognito: true }, browsing, both(4)],
         ["with no window left", { id: 5, type: "popup" }, [], [{ url: [a, b] }]],
+        ["with none but a private one", { id: 4, type: "normal", incognito: true }, isPrivate, [{ url: [a, b] }]],
+        ["once", { id: 4, type: "normal" }, isThere, [{ windowId: 4, url: b, active: true }]],
     ];
     for (const [name, front, browsing, expected] of rows)
         assert.deepEqual(await opened([a, "file:///etc/passwd", b], front, browsing), expected, name);

@@ -88,6 +88,17 @@ test("who comes to the front says so, and who leaves it says nothing", async () 
     assert.deepEqual(told.map(message => message.focused), [true, false, true]);
 });
 
+test("a page in a private window is told as such", async () => {
+    tabs.put(1, "https://a.example/", { incognito: true });
+    await reporter.changed();
+    tabs.put(1, "https://a.example/", { incognito: true, title: "Later" });
+    await reporter.changed();
+    tabs.put(1, undefined, { active: false });
+    tabs.put(2, "https://b.example/", { incognito: false });
+    await reporter.changed();
+    assert.deepEqual(told.map(message => message.private), [true, true, undefined]);
+});
+
 test("what is told has an end", async () => {
     tabs.put(1, `https://a.example/?${"x".repeat(2_000_000)}`, { title: "y".repeat(2_000_000) });
     await reporter.changed();

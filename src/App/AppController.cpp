@@ -3,6 +3,7 @@
 #include "Base/Log.h"
 #include "Focus/HostManifests.h"
 #include "Widgets/DockWidget.h"
+#include "Widgets/Usage/UsageRoots.h"
 
 #include <algorithm>
 #include <utility>
@@ -53,7 +54,8 @@ AppController::AppController(Platform& platform)
       m_focus(*platform.settings, *platform.clock),
       m_messages(*platform.notificationLog, *platform.languageModel, *platform.clock, m_engine.catalog().sharedApps),
       m_accounts(*platform.secrets),
-      m_widgets(*platform.clock, *platform.http, *platform.settings, m_accounts),
+      m_widgets(*platform.clock, *platform.http, *platform.settings, *platform.calendar, m_accounts,
+                usageRoots()),
       m_widgetSizes(*platform.settings),
       m_titles(*platform.accessibility),
       m_bridge(*platform.applications, platform.isPeerOwnUser),
@@ -72,7 +74,10 @@ AppController::AppController(Platform& platform)
       m_gate(*platform.clock),
       m_drift(m_engine, m_classifier, m_focus, m_gate, m_bridge, m_workspace, *platform.applications, *platform.clock),
       m_browserStates(m_engine, m_classifier, m_focus, m_drift.sites(), m_bridge),
-      m_router(m_titles, m_classifier, m_drift),
+      m_suggestions(m_engine, *platform.idleTime, *platform.clock),
+      m_context(m_engine, m_workspace, *platform.documents, *platform.languageModel, *platform.clock, *platform.disk,
+                platform.folders.data),
+      m_router(m_titles, m_classifier, m_drift, m_suggestions, m_context),
       m_tidyUp(m_workspace, m_engine.catalog()),
       m_seen(*platform.settings, *platform.clock),
       m_hotKeys(*platform.hotKeys),

@@ -24,8 +24,10 @@
 #include "Focus/SeenApps.h"
 #include "Focus/WindowTitles.h"
 #include "Messages/HeldMessages.h"
+#include "Modes/ModeContext.h"
 #include "Modes/ModeEngine.h"
 #include "Modes/ModeStore.h"
+#include "Modes/ModeSuggestions.h"
 #include "Ports/Platform.h"
 #include "Widgets/WidgetSizes.h"
 #include "Widgets/Widgets.h"
@@ -103,6 +105,8 @@ public:
     Classifier& classifier() { return m_classifier; }
     Gate& gate() { return m_gate; }
     DriftHandling& drift() { return m_drift; }
+    ModeSuggestions& suggestions() { return m_suggestions; }
+    ModeContext& context() { return m_context; }
     MinimizedWindows& minimized() { return m_minimized; }
     DockUndo& undo() { return m_undo; }
     DockEdits& edits() { return m_edits; }
@@ -155,6 +159,8 @@ private:
     Gate m_gate;
     DriftHandling m_drift;
     BrowserStates m_browserStates;
+    ModeSuggestions m_suggestions;
+    ModeContext m_context;
     EventRouter m_router;
     TidyUp m_tidyUp;
     SeenApps m_seen;

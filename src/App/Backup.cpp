@@ -2,41 +2,19 @@
 
 #include "App/Preferences.h"
 #include "Base/JsonFile.h"
-#include "Base/Worker.h"
+#include "Base/OnWorker.h"
 #include "Focus/Classifier.h"
 #include "Modes/ModeEngine.h"
 #include "Widgets/Widgets.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
-#include <memory>
 #include <utility>
 
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Runs `work` on the worker and hands what it gives to `done` on the main thread.
-template<class Value>
-Handle onWorker(Worker& worker, std::function<Value()> work, std::function<void(const Value&)> done) {
-    const auto waiting = std::make_shared<std::function<void(const Value&)>>(std::move(done));
-    worker.post({}, [work = std::move(work), waiting] {
-        QMetaObject::invokeMethod(
-            qApp,
-            [waiting, value = work()] {
-                if (const auto told = std::exchange(*waiting, {}))
-                    told(value);
-            },
-            Qt::QueuedConnection);
-    });
-    return Handle([waiting] { *waiting = {}; });
-}
-
-} // namespace
 
 Backup::Backup(ModeEngine& engine, Preferences& preferences, SettingsStore& settings, Classifier& classifier,
                const Clock& clock, Worker& disk, QString folder)

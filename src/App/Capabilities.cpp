@@ -57,8 +57,12 @@ Capability pointer(const CapabilityFacts& facts) {
 
 Capability calendar(const CapabilityFacts& facts) {
     Capability capability{.id = u"calendar"_s};
-    if (facts.remedies)
-        capability.state = facts.remedies->value(capability.id).page.isEmpty() ? State::absent : State::works;
+    if (facts.calendar != CalendarStore::Source::none)
+        capability.state = State::works;
+    else if (facts.calendarAccess == CalendarStore::Access::denied)
+        capability.state = State::missing;
+    else if (facts.calendarAccess == CalendarStore::Access::missing && facts.remedies) // how to get one comes with it
+        capability.state = State::absent;
     return capability;
 }
 
@@ -122,6 +126,7 @@ Capabilities::Capabilities(AppController& controller) : m_controller(controller)
     // A browser that is started for the first time has its folder from now on.
     connect(&controller.workspace(), &Workspace::runningChanged, this, &Capabilities::look);
     connect(&controller.hotKeys(), &HotKeyRegistry::changed, this, &Capabilities::gather);
+    connect(&controller.widgets().calendar(), &WidgetFeed::changed, this, &Capabilities::gather);
 }
 
 void Capabilities::refresh() {
@@ -135,6 +140,9 @@ void Capabilities::refresh() {
         m_keyring = stateOf(secret);
         gather();
     });
+    // A store is looked for by the first question. This one is for nothing.
+    const WallTime now = m_controller.platform().clock->now();
+    m_readingCalendar = m_controller.platform().calendar->events(now, now, [this](const auto&) { gather(); });
     look();
 }
 
@@ -171,6 +179,8 @@ void Capabilities::gather() {
                                    .takenHotKeys = takenHotKeys(),
                                    .hasStatusArea = platform.statusArea->isAvailable(),
                                    .hasTransparency = platform.panels->hasTransparency(),
+                                   .calendar = platform.calendar->source(),
+                                   .calendarAccess = platform.calendar->access(CalendarStore::Kind::events),
                                    .remedies = m_remedies});
     if (all == m_all)
         return;

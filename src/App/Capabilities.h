@@ -55,6 +55,8 @@ struct CapabilityFacts {
     QStringList takenHotKeys{}; ///< wanted, but another program's, or no keys of this keyboard
     bool hasStatusArea{};
     bool hasTransparency{};
+    CalendarStore::Source calendar{};
+    CalendarStore::Access calendarAccess{};
     std::optional<QHash<QString, Remedy>> remedies{}; ///< nothing before the first look
 };
 
@@ -69,8 +71,8 @@ public:
     explicit Capabilities(AppController& controller);
 
     const QList<Capability>& all() const { return m_all; }
-    /// Asks again what does not tell by itself: the keyring, which browsers were used, what is installed, and
-    /// hot keys that were refused.
+    /// Asks again what does not tell by itself: the keyring, the calendar, which browsers were used, what is installed,
+    /// and hot keys that were refused.
     void refresh();
 
 Q_SIGNALS:
@@ -89,6 +91,7 @@ private:
     QList<BrowserHome> m_usedBrowsers;
     std::optional<QHash<QString, Remedy>> m_remedies;
     Handle m_reading;
+    Handle m_readingCalendar;
     std::unique_ptr<Worker> m_worker; ///< the last: nothing it posts arrives once it has ended
 };
 

@@ -10,6 +10,7 @@
 #include <QMetaProperty>
 #include <QRegularExpression>
 #include <QSysInfo>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -60,6 +61,18 @@ QStringList privateTextsOf(AppController& controller) {
     texts << controller.widgets().ticker().symbols();
     if (const auto place = controller.widgets().weather().place())
         texts << place->name;
+    texts << controller.platform().calendar->folders();
+    for (const auto& event : controller.widgets().calendar().upcoming())
+        texts << event.title << event.location;
+    for (const auto& reminder : controller.widgets().reminders().items())
+        texts << reminder.title;
+    for (const ModeSnapshot& snapshot : controller.context().snapshots()) {
+        texts << snapshot.titles << snapshot.note.value_or(QString());
+        for (const auto& page : snapshot.pages)
+            texts << page.title;
+        for (const auto& document : snapshot.documents)
+            texts << QUrl(document.url).fileName();
+    }
     for (const Mode& mode : controller.engine().modes()) {
         texts << mode.name << mode.sites << mode.apps;
         for (const QString& app : mode.apps)

@@ -2,6 +2,8 @@
 
 #include "Focus/Classifier.h"
 #include "Focus/DriftHandling.h"
+#include "Modes/ModeContext.h"
+#include "Modes/ModeSuggestions.h"
 
 #include <QCoreApplication>
 
@@ -9,13 +11,15 @@
 
 namespace fendrel {
 
-EventRouter::EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift)
-    : m_titles(titles), m_classifier(classifier), m_drift(drift) {}
+EventRouter::EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift,
+                         ModeSuggestions& suggestions, ModeContext& context)
+    : m_titles(titles), m_classifier(classifier), m_drift(drift), m_suggestions(suggestions), m_context(context) {}
 
 void EventRouter::appDidActivate(const std::optional<RunningApp>& app) {
     if (!isOnboardingDone() || (app && app->pid == QCoreApplication::applicationPid()))
         return;
     m_drift.frontChanged(app);
+    m_suggestions.frontChanged(app ? app->bundleID : QString());
     // A change of the front is judged once, by what follows it. Coming back to the same window changes nothing there,
     // yet it is a new attempt to use what may be gated.
     const auto before = m_titles.front();
@@ -49,10 +53,14 @@ void EventRouter::judgeFrontAgain() {
 }
 
 void EventRouter::tabDidChange(const BrowserTab& tab) {
-    if (isOnboardingDone())
+    if (isOnboardingDone()) {
+        // What a browser shows behind the window that its user looks at is not seen.
+        if (tab.isFocused && !tab.isPrivate)
+            m_context.saw({.url = tab.url.toString(QUrl::FullyEncoded), .title = tab.title});
         m_drift.judge(tab);
-    else
+    } else {
         m_drift.sites().remember(tab);
+    }
 }
 
 void EventRouter::pageAskedFor(TabKey tab) {

@@ -10,11 +10,14 @@ namespace fendrel {
 
 class Classifier;
 class DriftHandling;
+class ModeContext;
+class ModeSuggestions;
 
 /// Takes what happens on the desktop to the parts that judge it. Main thread.
 class EventRouter {
 public:
-    EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift);
+    EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift, ModeSuggestions& suggestions,
+                ModeContext& context);
 
     std::function<bool()> isOnboardingDone = [] { return true; };
 
@@ -33,6 +36,8 @@ private:
     WindowTitles& m_titles;
     Classifier& m_classifier;
     DriftHandling& m_drift;
+    ModeSuggestions& m_suggestions;
+    ModeContext& m_context;
     qint64 m_frontPid = 0; ///< 0: nothing is in front
 };
 

@@ -93,6 +93,31 @@ void AppController::wire() {
         m_widgetSizes.reload();
         m_widgets.reload();
     };
+    m_suggestions.readCalendar = [this] { m_widgets.calendar().refresh(false); };
+    m_suggestions.calls = [this] {
+        QList<ModeSuggestions::Call> calls;
+        for (const auto& event : m_widgets.calendar().upcoming())
+            if (event.joinURL)
+                calls.append({.title = event.title, .start = event.start, .host = event.joinURL->host().toLower()});
+        return calls;
+    };
+    m_suggestions.hasCalendar = [this] {
+        const auto access = m_widgets.calendar().access();
+        return access != CalendarStore::Access::missing && access != CalendarStore::Access::denied;
+    };
+    m_suggestions.isAllowed = [this](const QString& bundleID) { return m_drift.isAllowedOnce(bundleID); };
+    m_suggestions.mayPropose = [this] { return isOnboardingDone() && !m_gate.blocked(); };
+    connect(&m_engine, &ModeEngine::changed, &m_suggestions, &ModeSuggestions::update);
+    connect(&m_gate, &Gate::changed, &m_suggestions, &ModeSuggestions::update);
+    connect(&m_widgets.calendar(), &WidgetFeed::changed, &m_suggestions, &ModeSuggestions::update);
+    connect(this, &AppController::onboardingChanged, &m_suggestions, &ModeSuggestions::update);
+    m_suggestions.displayName = [this](const QString& bundleID) { return m_workspace.displayName(bundleID); };
+    connect(&m_engine, &ModeEngine::changed, &m_context, &ModeContext::modesEdited);
+    m_context.onOpenPages = [this](const QStringList& urls) {
+        if (!m_bridge.open(urls))
+            for (const QString& url : urls)
+                m_platform.shell->openAddress(QUrl(url));
+    };
     m_focus.onChange = [this](bool isOn) { focusDidChange(isOn); };
     m_budget.current = [this] { return std::optional(m_engine.current()); };
     m_budget.spending = [this] { return spendingMode(); };
@@ -136,9 +161,11 @@ void AppController::chooseModel() {
 void AppController::modeDidChange(const Mode& mode) {
     m_widgets.sync(mode);
     play(Sound::modeSwitch);
+    m_suggestions.dismiss();
     const auto destination = m_messages.modeChanged(mode);
     if (m_preferences.tidyOnSwitch())
         m_tidyUp.tidy(mode);
+    m_context.modeChanged(mode);
     m_drift.modesChanged();
     if (destination)
         m_workspace.open(*destination);
@@ -155,6 +182,7 @@ void AppController::focusDidChange(bool isOn) {
         m_router.judgeFrontAgain();
     else
         m_drift.focusStopped();
+    m_suggestions.update(); // what was allowed for the session no longer is
 }
 
 /// The mode whose allowance is being spent now: the current one, while something that is certainly another mode's is in

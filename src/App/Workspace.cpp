@@ -58,6 +58,10 @@ std::optional<QString> Workspace::applicationAt(const QUrl& file) const {
     return m_applications.applicationAt(file);
 }
 
+bool Workspace::isBrowser(const QString& bundleID) const {
+    return m_applications.isBrowser(bundleID);
+}
+
 bool Workspace::wantsAttention(const QString& bundleID) const {
     return std::ranges::any_of(instances(bundleID), &RunningApp::wantsAttention);
 }

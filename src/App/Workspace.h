@@ -29,6 +29,7 @@ public:
     AppIcon icon(const QString& bundleID) const;
     QList<AppAction> actions(const QString& bundleID) const;
     std::optional<QString> applicationAt(const QUrl& file) const;
+    bool isBrowser(const QString& bundleID) const;
     bool wantsAttention(const QString& bundleID) const;
     QString displayName(const QString& bundleID) const; ///< the bundle identifier when nobody knows a name
 

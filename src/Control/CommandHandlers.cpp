@@ -3,6 +3,7 @@
 #include "App/AppController.h"
 #include "Control/AccountCommands.h"
 #include "Control/AnswerCommands.h"
+#include "Control/ContextCommands.h"
 #include "Control/Duration.h"
 #include "Control/MessageStatus.h"
 #include "Control/SettingsAccess.h"
@@ -136,6 +137,12 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
         {u"answers"_s,
          [&](const Request& request) -> Answer { return QJsonValue(learnedAnswers(controller, request.arguments)); }},
         {u"answers forget"_s, [&](const Request& request) { return forgetAnswers(controller.classifier(), request); }},
+        {u"suggestion"_s, [&](const Request& request) { return answerSuggestion(controller, request.arguments[0]); }},
+        {u"context list"_s, [&](const Request&) -> Answer { return QJsonValue(listContexts(controller)); }},
+        {u"context restore"_s,
+         [&](const Request& request) { return restoreContext(controller, request.arguments.value(0)); }},
+        {u"context dismiss"_s, [&](const Request&) { return dismissContext(controller); }},
+        {u"context forget"_s, [&](const Request& request) { return forgetContext(controller, request); }},
         {u"widget"_s, [&](const Request& request) { return showWidget(controller, request.arguments[0]); }},
         {u"import undo"_s,
          [&](const Request&) {
@@ -154,6 +161,9 @@ CommandHandlers::CommandHandlers(AppController& controller) : m_controller(contr
              controller.startedAgain(request.arguments.value(0));
              return done();
          }},
+#ifdef FENDREL_TIME_TRAVEL
+        {u"debug skip"_s, [this](const Request& request) { return skipTime(request.arguments[0]); }},
+#endif
     };
     m_lateHandlers = {
         {u"account list"_s,
@@ -250,6 +260,18 @@ Answer CommandHandlers::startFocus(const Request& request) {
     m_controller.focus().start(*duration);
     return done();
 }
+
+#ifdef FENDREL_TIME_TRAVEL
+Answer CommandHandlers::skipTime(const QString& text) {
+    const auto duration = parseDuration(text);
+    if (!duration)
+        return Answer::failure(u"'%1' is no duration: 25m or 1h30m is expected"_s.arg(text));
+    if (!m_controller.platform().skipTime)
+        return Answer::failure(u"time can't be skipped"_s);
+    m_controller.platform().skipTime(std::chrono::duration_cast<Clock::Duration>(*duration));
+    return done();
+}
+#endif
 
 Answer CommandHandlers::answerGate(const QString& answer) {
     if (!gateAnswers().contains(answer))

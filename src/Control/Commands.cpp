@@ -34,6 +34,18 @@ const QList<Command>& commands() {
          .parameters = {{.name = u"MODE|none"_s, .takes = Takes::mode}},
          .help = u"Tell which mode the thing in front belongs to."_s},
         {.name = u"explain"_s, .help = u"Say why the thing in front was judged as it was."_s},
+        {.name = u"suggestion"_s,
+         .parameters = {{.name = u"ANSWER"_s, .takes = Takes::text}},
+         .help = u"Answer the suggestion of another mode: accept or dismiss."_s},
+        {.name = u"context list"_s, .help = u"List what was open in each mode when you left it."_s},
+        {.name = u"context restore"_s,
+         .parameters = {{.name = u"MODE"_s, .takes = Takes::mode, .count = Count::optional}},
+         .help = u"Open again what was open in a mode, or what is offered."_s},
+        {.name = u"context dismiss"_s, .help = u"Put the offer away, and what is told of documents that are gone."_s},
+        {.name = u"context forget"_s,
+         .parameters = {{.name = u"MODE"_s, .takes = Takes::mode, .count = Count::optional}},
+         .options = {{.name = u"all"_s, .takes = Takes::nothing, .help = u"forget that of every mode"_s}},
+         .help = u"Forget what was open in a mode."_s},
         {.name = u"held"_s, .parameters = {mode}, .help = u"Show the newest messages that are held for a mode."_s},
         {.name = u"alert"_s,
          .parameters = {{.name = u"ANSWER"_s, .takes = Takes::text}},
@@ -97,6 +109,11 @@ const QList<Command>& commands() {
         {.name = u"activate"_s,
          .parameters = {{.name = u"PANE"_s, .takes = Takes::text, .count = Count::optional}},
          .isInternal = true},
+#ifdef FENDREL_TIME_TRAVEL
+        {.name = u"debug skip"_s,
+         .parameters = {{.name = u"DURATION"_s, .takes = Takes::duration}},
+         .isInternal = true},
+#endif
     };
     return table;
 }

@@ -33,6 +33,8 @@ ControlServer::ControlServer(AppController& controller, const QString& dataFolde
     connect(&controller.budget(), &DriftBudget::changed, this, &ControlServer::scheduleReport);
     connect(&controller.replacement(), &DockReplacement::changed, this, &ControlServer::scheduleReport);
     connect(&controller.undo(), &DockUndo::changed, this, &ControlServer::scheduleReport);
+    connect(&controller.suggestions(), &ModeSuggestions::changed, this, &ControlServer::scheduleReport);
+    connect(&controller.context(), &ModeContext::changed, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::dockVisibilityChanged, this, &ControlServer::scheduleReport);
     connect(&controller, &AppController::onboardingChanged, this, &ControlServer::scheduleReport);
 }

@@ -3,6 +3,7 @@
 #include "App/AppController.h"
 #include "Base/EnumNames.h"
 #include "Base/Overloaded.h"
+#include "Control/ContextCommands.h"
 #include "Control/MessageStatus.h"
 
 #include <QJsonArray>
@@ -180,6 +181,9 @@ QJsonObject status(AppController& controller, StatusForm form) {
         {u"veils"_s, veils(controller)},
         {u"budgets"_s, budgets(controller)},
         {u"messages"_s, messagesObject(controller)},
+        {u"suggestion"_s, suggestionObject(controller)},
+        {u"offer"_s, offerObject(controller)},
+        {u"missing"_s, QJsonArray::fromStringList(controller.context().missing())},
         {u"model"_s, model(controller)},
         {u"dock"_s, dock(controller)},
         {u"undo"_s, controller.undo().offer() ? QJsonValue(controller.undo().offer()->text) : QJsonValue()},

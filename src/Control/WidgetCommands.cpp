@@ -58,7 +58,7 @@ Answer showWidget(AppController& controller, const QString& name) {
     const auto widget = enumValue<DockWidget>(name);
     if (!widget)
         return Answer::failure(u"unknown widget '%1'; see fendrelctl widgets"_s.arg(name));
-    const Feed* feed = controller.widgets().feed(*widget);
+    const WidgetFeed* feed = controller.widgets().feed(*widget);
     if (!feed)
         return Answer::failure(u"%1 has no data: this version has no card for it"_s.arg(name));
     const auto updated = feed->updatedAt();

@@ -155,6 +155,61 @@ QJsonObject object(const Ticker& ticker) {
     return {{u"symbols"_s, QJsonArray::fromStringList(ticker.symbols())}, {u"quotes"_s, list(ticker.quotes(), quote)}};
 }
 
+QJsonObject object(const usage::Summary& summary) {
+    QJsonObject models;
+    for (const auto& [model, tokens] : summary.models.asKeyValueRange())
+        models.insert(model, tokens);
+    QJsonValue window;
+    if (summary.window)
+        window = QJsonObject{{u"start"_s, json::text(summary.window->start)},
+                             {u"end"_s, json::text(summary.window->end())},
+                             {u"tokens"_s, summary.window->tokens},
+                             {u"messages"_s, summary.window->messages}};
+    return {{u"hasLogs"_s, summary.hasLogs},
+            {u"tokensToday"_s, summary.tokensToday},
+            {u"outputToday"_s, summary.outputToday},
+            {u"messagesToday"_s, summary.messagesToday},
+            {u"cumulativeByHour"_s, numbers(summary.cumulativeByHour)},
+            {u"models"_s, models},
+            {u"window"_s, window}};
+}
+
+QString name(CalendarStore::Access access) {
+    switch (access) {
+    case CalendarStore::Access::granted:
+        return u"granted"_s;
+    case CalendarStore::Access::denied:
+        return u"denied"_s;
+    case CalendarStore::Access::missing:
+        return u"missing"_s;
+    case CalendarStore::Access::unknown:
+        break;
+    }
+    return u"unknown"_s;
+}
+
+QJsonObject object(const CalendarFeed& feed) {
+    const auto event = [](const CalendarFeed::Event& each) {
+        return QJsonObject{{u"title"_s, each.title},
+                           {u"start"_s, json::text(each.start)},
+                           {u"end"_s, json::text(each.end)},
+                           {u"isAllDay"_s, each.isAllDay},
+                           {u"location"_s, text(each.location)},
+                           {u"joinURL"_s, each.joinURL ? text(*each.joinURL) : QJsonValue()}};
+    };
+    return {{u"access"_s, name(feed.access())}, {u"upcoming"_s, list(feed.upcoming(), event)}};
+}
+
+QJsonObject object(const RemindersFeed& feed) {
+    const auto item = [](const RemindersFeed::Item& each) {
+        return QJsonObject{{u"id"_s, each.id},
+                           {u"title"_s, each.title},
+                           {u"due"_s, json::text(each.due)},
+                           {u"hasTime"_s, each.hasTime}};
+    };
+    return {{u"access"_s, name(feed.access())}, {u"items"_s, list(feed.items(), item)}};
+}
+
 QJsonValue ofService(const auto& feed) {
     return feed.value() ? QJsonValue(object(*feed.value())) : QJsonValue();
 }
@@ -181,6 +236,12 @@ QJsonValue value(Widgets& widgets, DockWidget widget) {
         return object(widgets.weather());
     case DockWidget::ticker:
         return object(widgets.ticker());
+    case DockWidget::calendar:
+        return object(widgets.calendar());
+    case DockWidget::reminders:
+        return object(widgets.reminders());
+    case DockWidget::aiUsage:
+        return widgets.aiUsage().summary() ? QJsonValue(object(*widgets.aiUsage().summary())) : QJsonValue();
     default:
         return {};
     }

@@ -32,11 +32,16 @@ std::optional<Message> hello(const QJsonObject& object) {
 
 std::optional<Message> tabReport(const QJsonObject& object) {
     const auto id = tabID(object);
-    const QJsonValue url = object["url"_L1], title = object["title"_L1], focused = object["focused"_L1];
-    if (!id || !url.isString() || !title.isString() || !(focused.isBool() || focused.isUndefined()))
+    const QJsonValue url = object["url"_L1], title = object["title"_L1];
+    const QJsonValue focused = object["focused"_L1], isPrivate = object["private"_L1];
+    const auto mayBeFlag = [](const QJsonValue& value) { return value.isBool() || value.isUndefined(); };
+    if (!id || !url.isString() || !title.isString() || !mayBeFlag(focused) || !mayBeFlag(isPrivate))
         return {};
-    return TabReport{
-        .tabID = *id, .url = webAddress(url.toString()), .title = title.toString(), .isFocused = focused.toBool(true)};
+    return TabReport{.tabID = *id,
+                     .url = webAddress(url.toString()),
+                     .title = title.toString(),
+                     .isFocused = focused.toBool(true),
+                     .isPrivate = isPrivate.toBool()};
 }
 
 } // namespace

@@ -20,6 +20,7 @@ struct TabReport {
     QUrl url{};
     QString title{};
     bool isFocused{true};
+    bool isPrivate{};
 };
 struct Ask {
     TabID tabID{};

@@ -66,7 +66,8 @@ void BrowserBridge::received(BrowserID id, const QList<QByteArray>& lines) {
                                          .tabID = report.tabID,
                                          .url = report.url,
                                          .title = report.title,
-                                         .isFocused = report.isFocused});
+                                         .isFocused = report.isFocused,
+                                         .isPrivate = report.isPrivate});
                               },
                               [&](const bridge::Ask& ask) { onAsk(id, ask.tabID); },
                               [&](const bridge::Closed& closed) { onClosed(id, closed.tabID); }},

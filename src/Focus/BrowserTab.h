@@ -29,6 +29,7 @@ struct BrowserTab {
     QUrl url{};
     QString title{};
     bool isFocused{true}; ///< its window was the one that its browser has in front
+    bool isPrivate{};     ///< nothing of it may be kept
     bool operator==(const BrowserTab&) const = default;
 
     TabKey key() const { return {.browser = browser, .tab = tabID}; }

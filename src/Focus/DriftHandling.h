@@ -47,6 +47,7 @@ public:
     void letThrough(const Gate::Blocked& blocked);
     bool fits(const QString& bundleID) const; ///< whether an application belongs to the current mode or to all
     bool fits(const Gate::Blocked& blocked) const;
+    bool isAllowedOnce(const QString& bundleID) const { return m_allowedOnce.contains(bundleID); }
 
     // The answers to the gate; without an open gate they do nothing
     void stay();

@@ -60,6 +60,7 @@ public:
     virtual std::optional<QString> location(const QString& bundleID) const = 0;
     virtual AppIcon icon(const QString& bundleID) const = 0;
     virtual QString fileManager() const = 0; ///< bundle identifier; empty when there is none
+    virtual bool isBrowser(const QString& bundleID) const = 0; ///< whether it opens pages of the web
     virtual NativeApps nativeApps() const = 0;
     virtual QList<AppAction> actions(const QString& bundleID) const = 0; ///< in the application's order
     /// The application that a file stands for, as one that is dragged from a menu or a file manager.

@@ -19,6 +19,7 @@ struct FileQuestion {
     };
     QString title{};
     QList<Filter> filters{}; ///< the first is in force at first; none: all files
+    bool isForFolder{};      ///< to open: a folder, not a file
     QString suggestedName{}; ///< of a file to save, without its folder
     QString folder{};        ///< where to begin; empty: where the desktop thinks best
     quintptr window{};       ///< native id of the window that asks, which has to wait; 0: none
@@ -42,7 +43,7 @@ public:
     virtual bool isAvailable() const = 0;
     std::function<void()> onChanged = [] {};
 
-    virtual Handle open(const FileQuestion& question, Done done) = 0; ///< a file that is there
+    virtual Handle open(const FileQuestion& question, Done done) = 0; ///< what is there
     /// A place to write to. That a file there is replaced, the user agreed to.
     virtual Handle save(const FileQuestion& question, Done done) = 0;
 };

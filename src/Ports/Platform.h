@@ -4,8 +4,10 @@
 #include "Ports/Accessibility.h"
 #include "Ports/Applications.h"
 #include "Ports/Badges.h"
+#include "Ports/CalendarStore.h"
 #include "Ports/Clock.h"
 #include "Ports/Displays.h"
+#include "Ports/Documents.h"
 #include "Ports/FileChooser.h"
 #include "Ports/HotKeys.h"
 #include "Ports/HttpClient.h"
@@ -57,6 +59,8 @@ struct Platform {
     QString extension{};           ///< folder of the browsers' companion extension
     /// Whether the process at the other end of a connected local socket is this user's.
     std::function<bool(int socket)> isPeerOwnUser = [](int) { return false; };
+    /// Lets both clocks leap ahead by as much, in builds that can do that; what falls due on the way runs at once.
+    std::function<void(Clock::Duration)> skipTime{};
     std::function<QStringList()> recentLog = [] { return QStringList(); }; ///< what was logged last, oldest first
     std::unique_ptr<Worker> disk{}; ///< writes what the services save, off the main thread
     std::unique_ptr<Clock> clock{};
@@ -81,6 +85,8 @@ struct Platform {
     std::unique_ptr<NotificationLog> notificationLog{};
     std::unique_ptr<NotificationBanners> notificationBanners{};
     std::unique_ptr<SecretStore> secrets{};
+    std::unique_ptr<CalendarStore> calendar{};
+    std::unique_ptr<Documents> documents{};
     std::unique_ptr<LoginItem> loginItem{};
     std::unique_ptr<SoundPlayer> sounds{};
     std::unique_ptr<HttpClient> http{};

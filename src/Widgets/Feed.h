@@ -1,19 +1,15 @@
 #pragma once
 
-#include "Base/WallTime.h"
 #include "Ports/Clock.h"
 #include "Ports/HttpClient.h"
 #include "Widgets/FetchFailure.h"
-
-#include <QObject>
-
-#include <optional>
+#include "Widgets/WidgetFeed.h"
 
 namespace fendrel {
 
-/// When a feed asks its service: at once when its widget shows, then again and again, never while it does not show, and
+/// When a feed asks its service in the network: at once when its widget shows, then again and again, never while it does not show, and
 /// never without a network. What it got, and how it asks, is its own. Main thread.
-class Feed : public QObject {
+class Feed : public WidgetFeed {
     Q_OBJECT
 public:
     struct Pace {
@@ -24,23 +20,19 @@ public:
 
     Feed(Clock& clock, HttpClient& http, Pace pace);
 
-    /// Whether its widget shows anywhere.
-    bool isActive() const { return m_timer.has_value(); }
-    void setActive(bool isActive);
+    bool isActive() const override { return m_timer.has_value(); }
+    void setActive(bool isActive) override;
 
     /// A forced one doesn't heed what was fetched a moment ago, or is under way: an answer to that no longer counts.
     /// The pause that a service asks for is heeded by both.
-    void refresh(bool force);
+    void refresh(bool force) override;
     /// Asks with another key, for which no pause was asked, or learns that there is none.
     void refreshForNewKey();
 
     std::chrono::seconds interval() const { return m_pace.interval; }
-    bool isLoading() const { return m_isLoading; }
-    const QString& error() const { return m_error; }                  ///< empty: the last fetch went well
-    std::optional<WallTime> updatedAt() const { return m_updatedAt; } ///< of what it has
-
-Q_SIGNALS:
-    void changed();
+    bool isLoading() const override { return m_isLoading; }
+    QString error() const override { return m_error; }
+    std::optional<WallTime> updatedAt() const override { return m_updatedAt; }
 
 protected:
     Clock& clock() const { return m_clock; }

@@ -9,8 +9,10 @@ namespace fendrel {
 using namespace std::chrono_literals;
 using Service = WidgetAccounts::Service;
 
-Widgets::Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, WidgetAccounts& accounts)
+Widgets::Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, CalendarStore& calendar,
+                 WidgetAccounts& accounts, const QStringList& usageRoots)
     : m_settings(settings),
+      m_calendarStore(calendar),
       m_accounts(accounts),
       m_linearClient(http),
       m_github(Service::github, accounts, clock, http, 300s,
@@ -24,18 +26,29 @@ Widgets::Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, Widget
                [&http](const QString& key, auto done) { return sentry::fetch(http, key, std::move(done)); }),
       m_weather(clock, http, settings),
       m_ticker(clock, http, settings),
-      m_feeds{{DockWidget::github, &m_github}, {DockWidget::revenue, &m_revenue}, {DockWidget::deploys, &m_deploys},
-              {DockWidget::linear, &m_linear}, {DockWidget::sentry, &m_sentry},   {DockWidget::weather, &m_weather},
-              {DockWidget::ticker, &m_ticker}} {
+      m_calendar(calendar, clock),
+      m_reminders(calendar, clock),
+      m_aiUsage(clock, usageRoots),
+      m_feeds{{DockWidget::github, &m_github},       {DockWidget::revenue, &m_revenue},
+              {DockWidget::deploys, &m_deploys},     {DockWidget::linear, &m_linear},
+              {DockWidget::sentry, &m_sentry},       {DockWidget::weather, &m_weather},
+              {DockWidget::ticker, &m_ticker},       {DockWidget::calendar, &m_calendar},
+              {DockWidget::reminders, &m_reminders}, {DockWidget::aiUsage, &m_aiUsage}} {
+    m_calendarStore.onChanged = [this] {
+        m_calendar.storeChanged();
+        m_reminders.storeChanged();
+    };
+    chooseCalendar();
     // A key that goes takes with it what it brought, whether the widget shows or not.
     m_accounts.onChanged = [this](Service service) {
         for (const auto& [widget, feed] : m_feeds)
             if (WidgetAccounts::usedBy(widget).contains(service))
-                feed->refreshForNewKey();
+                static_cast<Feed*>(feed)->refreshForNewKey(); // whatever has a key asks a service
     };
 }
 
 Widgets::~Widgets() {
+    m_calendarStore.onChanged = [] {};
     m_accounts.onChanged = [](Service) {};
 }
 
@@ -54,7 +67,8 @@ void Widgets::sync(const Mode& current) {
 QHash<QString, StoredValue> Widgets::settings() {
     return {{WidgetSizes::settingKey, QByteArray()},
             {WeatherFeed::settingKey, QByteArray()},
-            {Ticker::settingKey, QStringList()}};
+            {Ticker::settingKey, QStringList()},
+            {CalendarFeed::settingKey, QString()}};
 }
 
 void Widgets::reset(const QStringList& keys) {
@@ -68,12 +82,17 @@ void Widgets::reset(const QStringList& keys) {
         reload();
 }
 
+void Widgets::chooseCalendar() {
+    m_calendarStore.choose({.folder = m_settings.read<QString>(CalendarFeed::settingKey).value_or(QString())});
+}
+
 void Widgets::reload() {
+    chooseCalendar();
     m_weather.reload();
     m_ticker.reload();
 }
 
-Feed* Widgets::feed(DockWidget widget) {
+WidgetFeed* Widgets::feed(DockWidget widget) {
     const auto found = m_feeds.find(widget);
     return found == m_feeds.end() ? nullptr : found->second;
 }

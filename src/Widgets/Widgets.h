@@ -2,6 +2,8 @@
 
 #include "Modes/Mode.h"
 #include "Ports/SettingsStore.h"
+#include "Widgets/Calendar/CalendarFeed.h"
+#include "Widgets/Calendar/RemindersFeed.h"
 #include "Widgets/Revenue/RevenueFeed.h"
 #include "Widgets/ServiceFeed.h"
 #include "Widgets/Services/GitHub.h"
@@ -9,6 +11,7 @@
 #include "Widgets/Services/Sentry.h"
 #include "Widgets/Services/Vercel.h"
 #include "Widgets/Ticker/Ticker.h"
+#include "Widgets/Usage/AIUsage.h"
 #include "Widgets/Weather/WeatherFeed.h"
 
 #include <map>
@@ -23,7 +26,9 @@ using SentryFeed = ServiceFeed<sentry::Snapshot>;
 /// Every feed, made once, and which of them run: only those whose widget shows. Main thread.
 class Widgets {
 public:
-    Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, WidgetAccounts& accounts);
+    /// `usageRoots` are the folders of the coding agent's logs.
+    Widgets(Clock& clock, HttpClient& http, SettingsStore& settings, CalendarStore& calendar, WidgetAccounts& accounts,
+            const QStringList& usageRoots);
     ~Widgets();
 
     /// To be told which mode is shown, and when its widgets change.
@@ -36,8 +41,8 @@ public:
     /// Takes over what was changed in the settings themselves.
     void reload();
 
-    /// The feed behind a widget; null for one that asks nobody.
-    Feed* feed(DockWidget widget);
+    /// The feed behind a widget; null for one that has none.
+    WidgetFeed* feed(DockWidget widget);
 
     GitHubFeed& github() { return m_github; }
     RevenueFeed& revenue() { return m_revenue; }
@@ -46,6 +51,9 @@ public:
     SentryFeed& sentry() { return m_sentry; }
     WeatherFeed& weather() { return m_weather; }
     Ticker& ticker() { return m_ticker; }
+    CalendarFeed& calendar() { return m_calendar; }
+    RemindersFeed& reminders() { return m_reminders; }
+    AIUsage& aiUsage() { return m_aiUsage; }
     const GitHubFeed& github() const { return m_github; }
     const RevenueFeed& revenue() const { return m_revenue; }
     const DeploysFeed& deploys() const { return m_deploys; }
@@ -53,9 +61,15 @@ public:
     const SentryFeed& sentry() const { return m_sentry; }
     const WeatherFeed& weather() const { return m_weather; }
     const Ticker& ticker() const { return m_ticker; }
+    const CalendarFeed& calendar() const { return m_calendar; }
+    const RemindersFeed& reminders() const { return m_reminders; }
+    const AIUsage& aiUsage() const { return m_aiUsage; }
 
 private:
+    void chooseCalendar();
+
     SettingsStore& m_settings;
+    CalendarStore& m_calendarStore;
     WidgetAccounts& m_accounts;
     linear::Client m_linearClient;
     GitHubFeed m_github;
@@ -65,7 +79,10 @@ private:
     SentryFeed m_sentry;
     WeatherFeed m_weather;
     Ticker m_ticker;
-    std::map<DockWidget, Feed*> m_feeds;
+    CalendarFeed m_calendar;
+    RemindersFeed m_reminders;
+    AIUsage m_aiUsage;
+    std::map<DockWidget, WidgetFeed*> m_feeds;
 };
 
 } // namespace fendrel

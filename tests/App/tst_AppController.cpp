@@ -197,6 +197,25 @@ private Q_SLOTS:
         QCOMPARE(world.gated(), world.chat);
     }
 
+    void remembersOnlyPagesThatTheUserLooksAt() {
+        ControllerWorld world;
+        AppController& controller = world.launch();
+        const auto tell = [&](const char* url, bool isFocused, bool isPrivate) {
+            controller.bridge().onTab({.url = QUrl(QString::fromLatin1(url)),
+                                       .title = u"A page"_s,
+                                       .isFocused = isFocused,
+                                       .isPrivate = isPrivate});
+        };
+        tell("https://seen.example/", true, false);
+        tell("https://private.example/", true, true);
+        tell("https://behind.example/", false, false);
+        world.fake.clock->advance(120s);
+        world.commit(u"social"_s);
+        const ModeSnapshot saved = controller.context().snapshots()[u"writing"_s];
+        QCOMPARE(saved.titles, QStringList{u"A page"_s});
+        QCOMPARE(saved.pages, (QList<ModeSnapshot::Page>{{u"https://seen.example/"_s, u"A page"_s}}));
+    }
+
     void placesTheDocks() {
         ControllerWorld world;
         auto& displays = *world.fake.displays;

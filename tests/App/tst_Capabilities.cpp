@@ -37,10 +37,14 @@ private Q_SLOTS:
             QVERIFY2(stateOf(all, QString::fromLatin1(id)) == State::missing, id);
         QVERIFY(stateOf(all, u"keyring"_s) == State::locked);
         QVERIFY(std::ranges::find(all, u"hotKeys"_s, &Capability::id)->reason.contains(u"⌥1"));
+        using Calendar = CalendarStore;
         QVERIFY(stateOf(all, u"calendar"_s) == State::unknown); // nobody has looked yet
-        facts.remedies = {{u"calendar"_s, {.command = u"get one"_s}}};
+        facts.remedies = {{u"calendar"_s, {.page = {u"a program that shares nothing"_s}}}};
+        facts.calendarAccess = Calendar::Access::missing;
         QVERIFY(stateOf(capabilities(facts), u"calendar"_s) == State::absent);
-        facts.remedies = {{u"calendar"_s, {.page = {u"open it"_s}}}};
+        facts.calendarAccess = Calendar::Access::denied;
+        QVERIFY(stateOf(capabilities(facts), u"calendar"_s) == State::missing);
+        facts.calendar = Calendar::Source::folders;
         QVERIFY(stateOf(capabilities(facts), u"calendar"_s) == State::works);
         facts.canHoldPointer = false;
         QVERIFY(stateOf(capabilities(facts), u"pointer"_s) == State::absent);

@@ -85,6 +85,14 @@ private Q_SLOTS:
                                                    "\"modifiers\": ..., \"key\": \"...\"} or none is expected"},
                  {"dock replace maybe", "'maybe' is neither on nor off"},
                  {"undo", "there is nothing to take back"},
+                 {"suggestion maybe", "'maybe' is no answer: one of accept, dismiss is expected"},
+                 {"suggestion accept", "nothing is suggested"},
+                 {"context restore", "nothing is offered"},
+                 {"context restore nowhere", "unknown mode 'nowhere'"},
+                 {"context restore social", "nothing is remembered of social"},
+                 {"context dismiss", "nothing is offered"},
+                 {"context forget social", "nothing is remembered of social"},
+                 {"context forget", "usage: context forget [--all] [MODE]"},
                  {"answers forget x.org", "nothing is remembered of 'x.org'"},
                  {"answers forget", "usage: answers forget [--all] [KEY]"},
                  {"answers forget --all x.org", "usage: answers forget [--all] [KEY]"},
@@ -155,6 +163,29 @@ private Q_SLOTS:
         QCOMPARE(world.say(u"answers"_s)->toArray().size(), 1);
         QVERIFY(world.say(u"import undo"_s));
         QCOMPARE(world.say(u"answers"_s)->toArray().size(), 0);
+    }
+
+    void answersWhatIsProposed() {
+        World world;
+        const auto shown = [&](const QString& member) { return (*world.say(u"status"_s))[member]; };
+        QVERIFY(world.say(u"gate allow-once"_s));
+        world.fake.clock->advance(std::chrono::seconds(20));
+        QVERIFY(shown(u"suggestion"_s).isNull()); // the user has just said so at the gate
+        QVERIFY(world.say(u"focus stop"_s));
+        QCOMPARE(shown(u"suggestion"_s)[u"because"], QJsonValue(u"You opened slackmacgap."_s));
+        QVERIFY(world.say(u"suggestion dismiss"_s));
+        QVERIFY(shown(u"suggestion"_s).isNull());
+        world.fake.clock->advance(std::chrono::minutes(30));
+        QVERIFY(world.say(u"suggestion accept"_s));
+        QCOMPARE(shown(u"mode"_s)[u"id"], QJsonValue(u"social"_s));
+        QVERIFY(world.say(u"switch writing"_s));
+        QCOMPARE(shown(u"offer"_s)[u"apps"], (QJsonArray{world.notes}));
+        QCOMPARE(world.say(u"context list"_s)->toArray(), QJsonArray{shown(u"offer"_s)});
+        QVERIFY(world.say(u"context restore"_s));
+        QVERIFY(shown(u"offer"_s).isNull());
+        QVERIFY(world.say(u"context restore writing"_s));
+        QVERIFY(world.say(u"context forget --all"_s));
+        QVERIFY(world.say(u"context list"_s)->toArray().isEmpty());
     }
 
     void setsEverySetting() {

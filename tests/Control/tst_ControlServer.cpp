@@ -96,6 +96,10 @@ private Q_SLOTS:
         QCOMPARE(answer("--version"), "0 fendrelctl " FENDREL_VERSION "\n");
         QCOMPARE(answer("switch nowhere"), "2 fendrelctl: unknown mode 'nowhere'\n");
         QCOMPARE(answer("gate stay"), "2 fendrelctl: the gate is closed\n");
+        world.controller->bridge().onTab({.url = QUrl(u"https://a.example/"_s), .title = u"A page"_s});
+        world.fake.clock->advance(std::chrono::minutes(2));
+        world.commit(u"building"_s);
+        QCOMPARE(answer("context list"), "0 writing\t2026-01-05T09:02:00.000Z\t-\thttps://a.example/\n");
     }
 
     void fendrelctlSaysWhenNothingRuns() {
@@ -118,7 +122,7 @@ private Q_SLOTS:
         peer.say(watch);
         QCOMPARE(
             change(),
-            u"browsers budgets dock focus front gate judgement messages mode model onboarding pending time undo veils"_s);
+            u"browsers budgets dock focus front gate judgement messages missing mode model offer onboarding pending suggestion time undo veils"_s);
         controller.focus().start();
         QCOMPARE(change(), u"focus time"_s);
         other.say(watch);

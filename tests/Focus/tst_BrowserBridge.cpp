@@ -29,7 +29,8 @@ struct World {
     World() {
         const auto number = [](auto id) { return QString::number(static_cast<qint64>(id)); };
         bridge.onTab = [=, this](const BrowserTab& tab) {
-            told.append(u"tab %1 %2 %3"_s.arg(number(tab.browser), number(tab.tabID), tab.title));
+            told.append(u"tab %1 %2 %3"_s.arg(number(tab.browser), number(tab.tabID), tab.title) +
+                        (tab.isPrivate ? u" private"_s : QString()));
         };
         bridge.onAsk = [=, this](BrowserID, TabID tab) { told.append(u"ask "_s + number(tab)); };
         bridge.onClosed = [=, this](BrowserID, TabID tab) { told.append(u"closed "_s + number(tab)); };
@@ -85,6 +86,7 @@ private Q_SLOTS:
                                   R"({"type":"tab","tabId":1,"url":2,"title":"A"})",
                                   R"({"type":"hello"})",
                                   R"({"type":"tab","tabId":1,"url":"","title":"","focused":1})",
+                                  R"({"type":"tab","tabId":1,"url":"","title":"","private":"yes"})",
                                   R"({"type":"hello","pids":1})",
                                   R"({"type":"ask"})",
                                   R"({"type":"closed","tabId":{}})",
@@ -110,11 +112,12 @@ private Q_SLOTS:
         const QByteArray ask = R"({"type":"ask","tabId":1})";
         QByteArray burst;
         for (const QByteArray& line : {tab("1"), tab("1", "http://a.example/", "B"), ask, tab("1"), tab("2"), tab("1"),
+                                       QByteArray(R"({"type":"tab","tabId":3,"url":"","title":"C","private":true})"),
                                        QByteArray(R"({"type":"closed","tabId":2})")})
             burst += line + '\n';
         peer->write(burst);
         QTRY_COMPARE(world.told, (QStringList{u"tab 0 1 B"_s, u"ask 1"_s, u"tab 0 1 A"_s, u"tab 0 2 A"_s,
-                                              u"tab 0 1 A"_s, u"closed 2"_s}));
+                                              u"tab 0 1 A"_s, u"tab 0 3 C private"_s, u"closed 2"_s}));
     }
 
     void knowsTheApplicationOfABrowser() {

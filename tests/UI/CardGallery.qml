@@ -46,7 +46,7 @@ Rectangle {
                         required property int index
                         required property var modelData
                         colors: look
-                        content: line.modelData.states[modelData[0]]
+                        content: line.modelData.states[Math.min(modelData[0], line.modelData.states.length - 1)]
                         title: line.modelData.title
                         shortTitle: line.modelData.shortTitle
                         symbol: line.modelData.symbol

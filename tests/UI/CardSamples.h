@@ -1,12 +1,15 @@
 #pragma once
 
 #include "UI/Widgets/Cards.h"
+#include "fakes/FakeCalendarStore.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeHttp.h"
 #include "fakes/FakeSecretStore.h"
 #include "fakes/FakeSettings.h"
 
 #include <QTimeZone>
+
+#include <algorithm>
 
 namespace fendrel {
 
@@ -36,7 +39,8 @@ struct CardWorld {
     FakeSettings settings;
     FakeSecretStore store;
     WidgetAccounts accounts{store};
-    Widgets widgets{clock, http, settings, accounts};
+    FakeCalendarStore calendar;
+    Widgets widgets{clock, http, settings, calendar, accounts, {}};
 };
 
 /// What an afternoon in a small company looks like.
@@ -170,6 +174,48 @@ inline QList<ticker::Quote> quotes() {
         quote(u"^GSPC"_s, 6902.05, 6932.3, {6932, 6940, 6930, 6921, 6925, 6911, 6903, 6908, 6899, 6902}),
         quote(u"BTC-USD"_s, 91240.11, 90120, {90120, 90320, 89900, 90010, 90600, 91500, 91200, 91100, 91340, 91240}),
         quote(u"EURUSD=X"_s, 1.17, 1.17, {1.17, 1.171, 1.17, 1.17})};
+}
+
+inline usage::Summary usage(bool isOpen = true) {
+    QList<qint64> hours(24, 1'240'000);
+    for (const auto& [hour, tokens] :
+         {std::pair(9, 0), {10, 120'000}, {11, 290'000}, {12, 610'000}, {13, 610'000}, {14, 900'000}})
+        std::fill(hours.begin() + (hour == 9 ? 0 : hour), hours.begin() + hour + 1, tokens);
+    usage::Summary summary{.tokensToday = 1'240'000,
+                           .outputToday = 64'000,
+                           .messagesToday = 214,
+                           .cumulativeByHour = hours,
+                           .models = {{u"claude-opus-4-1-20250805"_s, 810'000},
+                                      {u"claude-sonnet-4-5-20250929"_s, 410'000},
+                                      {u"claude-3-5-haiku-20241022"_s, 20'000}},
+                           .hasLogs = true};
+    if (isOpen)
+        summary.window = usage::Window{.start = at(13), .tokens = 340'000, .messages = 61};
+    return summary;
+}
+
+inline QList<CalendarFeed::Event> events() {
+    const auto event = [](const QString& title, WallTime start, int minutes, const QString& location,
+                          const char* call) {
+        return CalendarFeed::Event{.id = title,
+                                   .title = title,
+                                   .start = start,
+                                   .end = start + std::chrono::minutes(minutes),
+                                   .location = location,
+                                   .joinURL = *call ? std::optional(QUrl(QString::fromLatin1(call))) : std::nullopt};
+    };
+    auto day = event(u"Ada's birthday"_s, at(0), 24 * 60, {}, "");
+    day.isAllDay = true;
+    return {event(u"Design review of the new dock"_s, at(15, 36), 44, u"Room 4"_s, "https://zoom.us/j/1"),
+            event(u"Standup"_s, at(16, 30), 15, {}, "https://meet.google.com/abc"),
+            event(u"Dentist"_s, at(17, 45), 60, u"Main Street 5"_s, ""), day};
+}
+
+inline QList<RemindersFeed::Item> reminders() {
+    return {{.id = u"1"_s, .title = u"Water the plants"_s, .due = at(0)},
+            {.id = u"2"_s, .title = u"Call the landlord about the heating"_s, .due = at(14), .hasTime = true},
+            {.id = u"3"_s, .title = u"Send the invoice"_s, .due = at(18, 30), .hasTime = true},
+            {.id = u"4"_s, .title = u"Milk"_s, .due = at(19), .hasTime = true}};
 }
 
 } // namespace samples

@@ -22,8 +22,54 @@ using namespace fendrel;
 
 namespace {
 
-const DockWidget widgets[] = {DockWidget::github,  DockWidget::deploys, DockWidget::linear, DockWidget::sentry,
-                              DockWidget::revenue, DockWidget::weather, DockWidget::ticker};
+const DockWidget widgets[] = {DockWidget::github,    DockWidget::deploys, DockWidget::linear, DockWidget::sentry,
+                              DockWidget::revenue,   DockWidget::weather, DockWidget::ticker, DockWidget::calendar,
+                              DockWidget::reminders, DockWidget::aiUsage};
+const QString logs = u"~/.claude/projects"_s;
+
+/// The states of what is on this computer: as it is in the afternoon, another time, when there is nothing, and what is
+/// lacking.
+QList<CardContent> local(DockWidget widget) {
+    const WallTime now = samples::afternoon();
+    const auto made = [](const auto& tell) {
+        CardContent card{.state = CardContent::State::ready};
+        tell(card);
+        return card;
+    };
+    const auto allowed = [widget](CalendarStore::Access access) {
+        CardWorld world;
+        world.calendar.state = access;
+        return world.card(widget);
+    };
+    using enum CalendarStore::Access;
+    const QList<CardContent> lacks{allowed(unknown), allowed(denied), allowed(missing)};
+    switch (widget) {
+    case DockWidget::aiUsage:
+        return {made([&](auto& card) { describe(card, samples::usage(), logs, now); }),
+                made([&](auto& card) { describe(card, samples::usage(false), logs, now); }),
+                made([&](auto& card) { describe(card, usage::Summary{.hasLogs = true}, logs, now); }),
+                made([&](auto& card) { describe(card, usage::Summary(), logs, now); }),
+                {.state = CardContent::State::waiting}};
+    case DockWidget::calendar: {
+        const auto events = samples::events();
+        const auto at = [&](const QList<CalendarFeed::Event>& shown, WallTime time) {
+            return made([&](auto& card) {
+                describe(card, shown, shown.isEmpty() ? std::nullopt : std::optional(shown.first()), time);
+            });
+        };
+        return QList<CardContent>{at(events, now), at(events.mid(2), samples::at(13)), at({}, now)} + lacks;
+    }
+    default:
+        return QList<CardContent>{made([&](auto& card) { describe(card, samples::reminders(), now); }),
+                                  made([&](auto& card) { describe(card, samples::reminders().mid(0, 1), now); }),
+                                  made([&](auto& card) { describe(card, QList<RemindersFeed::Item>(), now); })} +
+               lacks;
+    }
+}
+
+bool isLocal(DockWidget widget) {
+    return widget == DockWidget::aiUsage || widget == DockWidget::calendar || widget == DockWidget::reminders;
+}
 
 CardContent ready(DockWidget widget) {
     const WallTime now = samples::afternoon();
@@ -110,8 +156,15 @@ QVariantList cards() {
     for (const DockWidget widget : widgets) {
         const DockWidgetKind& kind = fendrel::kind(widget);
         QVariantList states;
-        for (const CardContent& content : {ready(widget), old(widget), empty(widget), lacking(widget, false, true),
-                                           lacking(widget, true, true), lacking(widget, true, false)})
+        const auto asked = [widget] {
+            return QList<CardContent>{ready(widget),
+                                      old(widget),
+                                      empty(widget),
+                                      lacking(widget, false, true),
+                                      lacking(widget, true, true),
+                                      lacking(widget, true, false)};
+        };
+        for (const CardContent& content : isLocal(widget) ? local(widget) : asked())
             states.append(QVariant::fromValue(content));
         list.append(QVariantMap{{u"title"_s, kind.title()},
                                 {u"shortTitle"_s, kind.shortTitle()},

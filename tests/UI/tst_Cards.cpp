@@ -1,11 +1,15 @@
 #include "App/DockAppearance.h"
 #include "CardSamples.h"
 #include "Table.h"
+#include "UI/Images/SymbolImages.h"
 #include "UI/Widgets/CardText.h"
 #include "UI/Widgets/CurvePath.h"
 
+#include <QAccessible>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtTest>
 
@@ -13,6 +17,8 @@
 
 Q_IMPORT_QML_PLUGIN(Fendrel_StylePlugin)
 Q_IMPORT_QML_PLUGIN(Fendrel_WidgetsPlugin)
+
+void qml_register_types_Fendrel_Types(); // NOLINT(readability-identifier-naming): the name is Qt's
 
 using namespace fendrel;
 using namespace std::chrono_literals;
@@ -41,6 +47,18 @@ CardRow row(const CardContent& card, qsizetype index) {
     return card.rows.value(index).value<CardRow>();
 }
 
+/// What assistive programs know by this name.
+QQuickItem* named(const QString& name, QQuickItem* from) {
+    if (const auto* known = QAccessible::queryAccessibleInterface(from);
+        known && known->isValid() && from->isVisible() && known->text(QAccessible::Name) == name &&
+        known->role() != QAccessible::StaticText)
+        return from;
+    for (QQuickItem* child : from->childItems())
+        if (QQuickItem* found = named(name, child))
+            return found;
+    return nullptr;
+}
+
 } // namespace
 
 /// What cards say is true, and can be read.
@@ -48,6 +66,8 @@ class CardsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qml_register_types_Fendrel_Types(); }
+
     void whatIsOldSaysSo() {
         CardWorld world;
         world.connect({u"github"_s});
@@ -224,6 +244,119 @@ private Q_SLOTS:
         QCOMPARE(row(ticker, 0).value, QString()); // there is nothing to compare with
         QCOMPARE(row(ticker, 0).detail, u"0.00001234"_s);
         QCOMPARE(ticker.address.toEncoded(), "https://finance.yahoo.com/quote/%5ENEW%2F..%2FX");
+    }
+
+    void eventsCountDown_data() {
+        const Table<WallTime, WallTime, QString, QString, Tone> add("start", "end", "caption", "brief", "tone");
+        const auto now = samples::at(15);
+        const QString at = card::clock(samples::at(17));
+        add("in an hour", now + 60min, now + 90min, u"in 60 min"_s, u"60 min"_s, Tone::neutral);
+        add("parts of a minute count", now + 9min + 1s, now + 90min, u"in 10 min"_s, u"10 min"_s, Tone::busy);
+        add("later", samples::at(17), samples::at(18), u"at "_s + at, at, Tone::neutral);
+        add("begins", now, now + 20min, u"now, 20 min left"_s, u"now"_s, Tone::good);
+        add("goes on", now - 5min, samples::at(17), u"now, until "_s + at, u"now"_s, Tone::good);
+        add("after midnight", samples::at(17) + 21h, samples::at(17) + 22h,
+            u"tomorrow at "_s + card::clock(samples::at(14)), card::clock(samples::at(14)), Tone::neutral);
+    }
+    void eventsCountDown() {
+        QFETCH(const WallTime, start);
+        QFETCH(const WallTime, end);
+        const CalendarFeed::Event event{.title = u"Review"_s, .start = start, .end = end};
+        CardContent card{.state = State::ready};
+        describe(card, {event}, event, samples::at(15));
+        QTEST(card.caption, "caption");
+        QTEST(card.brief, "brief");
+        QTEST(card.tone, "tone");
+    }
+
+    void callsAreJoinedOnlyOverHttps() {
+        auto events = samples::events();
+        CardContent safe;
+        describe(safe, events, events.first(), samples::at(15));
+        QCOMPARE(safe.join, QUrl(u"https://zoom.us/j/1"_s));
+        QCOMPARE(row(safe, 0).title, u"Standup"_s); // the next one stands apart
+        QCOMPARE(row(safe, 0).address, QUrl(u"https://meet.google.com/abc"_s));
+        QCOMPARE(row(safe, 2).value, u"all day"_s);
+        events[0].joinURL = QUrl(u"http://zoom.us/j/1"_s);
+        events[1].joinURL = QUrl(u"zoommtg://zoom.us/j/1"_s);
+        CardContent unsafe;
+        describe(unsafe, events, events.first(), samples::at(15));
+        QCOMPARE(unsafe.join, QUrl());
+        QCOMPARE(row(unsafe, 0).address, QUrl());
+    }
+
+    void usageTellsOfItsWindow() {
+        CardContent card{.state = State::ready};
+        describe(card, samples::usage(), u"~/logs"_s, samples::at(15)); // two of five hours are gone
+        QCOMPARE(card.headline, u"1.2M"_s);
+        QCOMPARE(card.gauge, 0.4);
+        QCOMPARE(card.gaugeText, u"340K until "_s + card::clock(samples::at(18)));
+        QCOMPARE(card.gaugeNote, u"170K an hour"_s);
+        QCOMPARE(row(card, 0).title, u"Opus 4.1"_s); // the most used first
+        QCOMPARE(row(card, 2).title, u"Haiku 3.5"_s);
+
+        usage::Summary summary = samples::usage();
+        summary.models = {{u"claude-opus-4-1-20250805"_s, 1}, {u"claude-opus-4-1"_s, 2}, {u"gpt-oss:20b"_s, 1}};
+        CardContent later{.state = State::ready};
+        describe(later, summary, {}, samples::at(18));
+        QVERIFY(later.gauge < 0); // the window is closed
+        QCOMPARE(row(later, 0).value, u"3"_s);
+        QCOMPARE(row(later, 1).title, u"gpt-oss:20b"_s);
+
+        CardContent none{.state = State::ready};
+        describe(none, {}, u"~/logs"_s, samples::at(15));
+        QCOMPARE(none.state, State::empty);
+        QVERIFY(none.note.contains(u"~/logs"_s));
+    }
+
+    void whatIsInACardCanBePressed_data() {
+        const Table<CardContent, QString, QByteArray> add("content", "name", "signal");
+        const auto made = [](const auto&... values) {
+            CardContent card{.state = State::ready};
+            describe(card, values...);
+            return card;
+        };
+        const auto events = samples::events();
+        add("a call", made(events, std::optional(events.first()), samples::at(15)),
+            u"Join Design review of the new dock"_s, "rowPressed(QUrl)");
+        add("a tick", made(samples::reminders(), samples::at(15)), u"Water the plants"_s, "ticked(QString,bool)");
+        add("a new one", made(samples::reminders(), samples::at(15)), u"Add a reminder"_s, "additionAsked()");
+    }
+    void whatIsInACardCanBePressed() {
+        QFETCH(const CardContent, content);
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, signal);
+        QTest::failOnWarning(QRegularExpression(u"qrc:"_s));
+        for (const QString& size : {u"medium"_s, u"large"_s}) {
+            for (const bool isVertical : {false, true}) {
+                QQuickView view;
+                view.engine()->addImportPath(u"qrc:/qml"_s);
+                view.engine()->addImageProvider(u"symbol"_s, new SymbolImages);
+                QQmlComponent component(view.engine());
+                component.setData("import QtQuick; import Fendrel.Style; import Fendrel.Widgets\n"
+                                  "WidgetCard { colors: Colors { isDark: false } }",
+                                  {});
+                auto* card = qobject_cast<QQuickItem*>(
+                    component.createWithInitialProperties({{u"content"_s, QVariant::fromValue(content)},
+                                                           {u"title"_s, u"Card"_s},
+                                                           {u"shortTitle"_s, u"Card"_s},
+                                                           {u"symbol"_s, u"checklist"_s},
+                                                           {u"accent"_s, QColor(Qt::blue)},
+                                                           {u"size"_s, size},
+                                                           {u"isVertical"_s, isVertical},
+                                                           {u"extent"_s, 76}}));
+                QVERIFY2(card, qPrintable(component.errorString()));
+                view.setContent({}, &component, card);
+                view.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&view));
+                QQuickItem* button = named(name, card);
+                QVERIFY2(button, qPrintable(size));
+                const QSignalSpy pressed(card, ('2' + signal).constData());
+                QTest::mouseClick(&view, Qt::LeftButton, {},
+                                  button->mapToScene(QRectF(button->boundingRect()).center()).toPoint());
+                QCOMPARE(pressed.count(), 1);
+            }
+        }
     }
 
     void cardsCanBeRead() {

@@ -1,6 +1,7 @@
 #include "App/ControllerWorld.h"
 #include "UI/Images/AppIcons.h"
 #include "UI/Setup/PermissionsModel.h"
+#include "fakes/FakeCalendarStore.h"
 #include "fakes/FakeSecretStore.h"
 #include "fakes/FakeShell.h"
 
@@ -31,6 +32,11 @@ struct World : ControllerWorld {
         secrets = secretStore.get();
         secrets->problem = SecretStore::Problem::locked;
         fake.platform.secrets = std::move(secretStore);
+        auto calendarStore = std::make_unique<FakeCalendarStore>();
+        calendar = calendarStore.get();
+        const bool hasCalendar = found.value(u"calendar"_s).isInstalled;
+        calendar->state = hasCalendar ? CalendarStore::Access::granted : CalendarStore::Access::missing;
+        fake.platform.calendar = std::move(calendarStore);
         auto fakeShell = std::make_unique<FakeShell>();
         shell = fakeShell.get();
         fake.platform.shell = std::move(fakeShell);
@@ -66,6 +72,7 @@ struct World : ControllerWorld {
     }
 
     FakeSecretStore* secrets{};
+    FakeCalendarStore* calendar{};
     FakeShell* shell{};
     FakeRemedies* remedies{};
     std::optional<AppIcons> icons;
@@ -124,7 +131,9 @@ private Q_SLOTS:
         add("in, and runs without", "browser Fox", running, linked, "Not connected", "doesn't help", byHand);
         add("a browser to start", "browser", Browser::installed, command, "Not here", "Start one", {open});
         add("a browser to get", "browser", Browser::none, command, "Not here", "Install one", run);
-        add("a calendar", "calendar", Browser::none, both, "Installed", "", go + settings);
+        add("a calendar", "calendar", Browser::none, {.page = page.page, .isInstalled = true}, "Works", "",
+            go + settings);
+        add("one that shares nothing", "calendar", Browser::none, both, "None found", "shares", run + settings);
         add("no calendar", "calendar", Browser::none, command, "None found", "command", run + settings);
         add("a tray to add", "statusArea", Browser::none, both, "Not here", "Add a tray", go);
         add("a tray to get", "statusArea", Browser::none, command, "Not here", "installs", run);
@@ -148,8 +157,9 @@ private Q_SLOTS:
         world.secrets->answer();
         QTRY_VERIFY(role(model, u"calendar"_s, "standing") != u"unknown"_s); // the disk was looked at
 
+        QFETCH(const QStringList, does);
+        QTRY_COMPARE(actions(model, row), does);
         QTEST(role(model, row, "stateLabel").toString(), "label");
-        QTEST(actions(model, row), "does");
         QVERIFY2(role(model, row, "remedy").toString().contains(remedy),
                  qPrintable(role(model, row, "remedy").toString()));
         const bool hasCommand = actions(model, row).contains(u"command"_s);
@@ -167,6 +177,7 @@ private Q_SLOTS:
         model.refresh();
         QTRY_VERIFY(actions(model, u"calendar"_s).contains(u"command"_s));
         world.remedies->remedies = {{u"calendar"_s, {.page = {u"see-to-it"_s}, .command = u"get it"_s}}};
+        world.calendar->state = CalendarStore::Access::granted;
         model.refresh();
         QTRY_VERIFY(actions(model, u"calendar"_s).contains(u"page"_s));
         QVERIFY(role(model, u"calendar"_s, "command").toString().isEmpty());

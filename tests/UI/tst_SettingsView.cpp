@@ -245,6 +245,47 @@ private Q_SLOTS:
         QCOMPARE(field->property("text").toString(), QString());
     }
 
+    void onlyAFolderIsTakenForCalendars() {
+        const Window window(u"widgets"_s);
+        QVERIFY(window.isShown);
+        const QQuickItem* row = window.row(u"calendarFolder"_s);
+        QQuickItem* field = window.find("isClearable", {}, window.row(u"calendarFolder"_s));
+        QVERIFY(row && field);
+        const auto& stored = window.world.fake.settings->values;
+        const auto enter = [&](const QString& text) {
+            field->forceActiveFocus(Qt::TabFocusReason);
+            field->setProperty("text", QString());
+            window.type(text.toLatin1());
+            QTest::keyClick(window.view, Qt::Key_Return);
+        };
+        enter(u"/no/such/folder"_s);
+        QCOMPARE(row->property("problem").toString(), u"There is no folder /no/such/folder."_s);
+        QCOMPARE(field->property("text").toString(), u"/no/such/folder"_s); // to be corrected
+        QVERIFY(!stored.contains(CalendarFeed::settingKey));
+        enter(u"/tmp"_s);
+        QCOMPARE(row->property("problem").toString(), QString());
+        QCOMPARE(window.world.fake.settings->read<QString>(CalendarFeed::settingKey), u"/tmp"_s);
+        enter(u" "_s);
+        QVERIFY(!stored.contains(CalendarFeed::settingKey));
+    }
+
+    void whatWasOpenIsForgotten() {
+        const Window window(u"general"_s);
+        QVERIFY(window.isShown);
+        ModeContext& context = window.controller->context();
+        const ModeEngine& engine = window.controller->engine();
+        const QString left = engine.current().name;
+        context.saw({.url = u"https://example.org/"_s, .title = u"Example"_s});
+        window.world.fake.clock->advance(std::chrono::minutes(3));
+        context.modeChanged(engine.modes().last());
+        QTRY_VERIFY(window.find("label", left));
+        QQuickItem* forget = window.find("text", u"Forget"_s, window.find("label", left));
+        QVERIFY(forget);
+        QVERIFY(QMetaObject::invokeMethod(forget, "clicked"));
+        QVERIFY(context.snapshots().isEmpty());
+        QTRY_VERIFY(!window.find("label", left));
+    }
+
     void anAccountIsTested() {
         const Window window(u"accounts"_s);
         QVERIFY(window.isShown);

@@ -2,6 +2,7 @@
 #include "Table.h"
 #include "UI/Widgets/WidgetActions.h"
 #include "UI/Widgets/WidgetCardsModel.h"
+#include "fakes/FakeCalendarStore.h"
 #include "fakes/FakeHttp.h"
 #include "fakes/FakeSecretStore.h"
 #include "fakes/FakeShell.h"
@@ -43,6 +44,7 @@ struct World : ControllerWorld {
     FakeHttp& http = put<FakeHttp>(fake.platform.http);
     FakeSecretStore& secrets = put<FakeSecretStore>(fake.platform.secrets);
     FakeShell& shell = put<FakeShell>(fake.platform.shell);
+    FakeCalendarStore& calendar = put<FakeCalendarStore>(fake.platform.calendar);
     AppController& app = [this]() -> AppController& {
         secrets.secrets[u"vercel"_s] = u"key"_s;
         return launch();
@@ -131,6 +133,70 @@ private Q_SLOTS:
         world.actions.open(QUrl(u"javascript:alert(1)"_s));
         world.actions.open(QUrl(u"https:///no-host"_s));
         QTEST(static_cast<int>(world.shell.addresses.size()), "opened");
+    }
+
+    void asksForWhatItMayNotRead_data() {
+        using enum CalendarStore::Access;
+        const Table<CalendarStore::Access, QString, CalendarStore::Access> row("access", "shown", "after");
+        row("not asked yet", unknown, {}, granted);
+        row("denied", denied, u"settings permissions"_s, denied);
+        row("none there", missing, u"settings widgets"_s, missing);
+    }
+    void asksForWhatItMayNotRead() {
+        QFETCH(const CalendarStore::Access, access);
+        World world;
+        for (const QString& widget : {u"calendar"_s, u"reminders"_s}) {
+            world.calendar.state = access;
+            world.place({widget});
+            world.shown.clear();
+            world.actions.press(widget);
+            QTEST(world.shown.join(u' '), "shown");
+            QTEST(world.calendar.state, "after");
+        }
+    }
+
+    void countsDownOnTheFullMinute() {
+        World world;
+        const WallTime now = world.fake.clock->now();
+        world.fake.clock->advance(40s);
+        world.calendar.eventItems = {{.id = u"1"_s, .title = u"Review"_s, .start = now + 5min, .end = now + 9min}};
+        world.place({u"calendar"_s});
+        world.calendar.answerAll(); // and later it says nothing
+        const auto said = [&] { return world.cards.content(u"calendar"_s)->caption; };
+        QCOMPARE(said(), u"in 5 min"_s);
+        world.fake.clock->advance(19s);
+        QCOMPARE(said(), u"in 5 min"_s);
+        world.fake.clock->advance(1s);
+        QCOMPARE(said(), u"in 4 min"_s);
+        world.fake.clock->advance(8min);
+        QCOMPARE(world.cards.content(u"calendar"_s)->state, CardContent::State::empty);
+    }
+
+    void aTickCanBeTakenBack() {
+        World world;
+        const WallTime today = world.fake.clock->now();
+        world.calendar.reminderItems = {{.id = u"1"_s, .title = u"Milk"_s, .due = today},
+                                        {.id = u"2"_s, .title = u"Bread"_s, .due = today}};
+        world.place({u"reminders"_s});
+        world.calendar.answerAll();
+        const auto titles = [&world] {
+            QStringList list;
+            world.calendar.answerAll();
+            for (const CalendarReminder& each : world.calendar.reminderItems)
+                list.append(each.title);
+            return list.join(u", "_s);
+        };
+        world.actions.tick(u"1"_s, true);
+        world.actions.tick(u"2"_s, true);
+        world.actions.tick(u"1"_s, false);
+        QCOMPARE(titles(), u"Milk, Bread"_s);
+        world.fake.clock->advance(5s);
+        QCOMPARE(titles(), u"Milk"_s);
+        QCOMPARE(world.cards.content(u"reminders"_s)->headline, u"1"_s);
+        world.actions.addReminder(u"  Call\nGrace "_s);
+        QCOMPARE(titles(), u"Milk, Call Grace"_s);
+        world.actions.addReminder(u"  "_s);
+        QCOMPARE(titles(), u"Milk, Call Grace"_s);
     }
 };
 

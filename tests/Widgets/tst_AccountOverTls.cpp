@@ -1,6 +1,7 @@
 #include "Files.h"
 #include "Platform/Linux/Keyring/KeyringStore.h"
 #include "Platform/Linux/KeyringSession.h"
+#include "Platform/Null/NullCalendarStore.h"
 #include "Platform/Shared/LocalServer.h"
 #include "Platform/Shared/NetworkClient.h"
 #include "Platform/Shared/TestAuthority.h"
@@ -59,7 +60,8 @@ struct World {
     KeyringStore keyring;
     NetworkClient http;
     WidgetAccounts accounts{keyring};
-    Widgets widgets{clock, http, settings, accounts};
+    NullCalendarStore calendar;
+    Widgets widgets{clock, http, settings, calendar, accounts, {}};
     GitHubFeed& github = widgets.github();
 };
 

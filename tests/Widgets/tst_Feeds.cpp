@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Platform/Null/NullCalendarStore.h"
 #include "Table.h"
 #include "Widgets/ServiceFeed.h"
 #include "Widgets/Services/Vercel.h"
@@ -85,7 +86,8 @@ private Q_SLOTS:
 
     void aDayAsksOnlyForWhatIsPlaced() {
         World world;
-        Widgets widgets(world.clock, world.http, world.settings, world.accounts);
+        NullCalendarStore calendar;
+        Widgets widgets(world.clock, world.http, world.settings, calendar, world.accounts, {});
         for (const auto& each : WidgetAccounts::all())
             world.store.secrets[enumName(each.service)] = u"key"_s;
         world.settings.values[u"tickerSymbols"_s] = QStringList{u"AAPL"_s};

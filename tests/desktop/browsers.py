@@ -168,7 +168,7 @@ class Firefox(Browser):
         "services.settings.server": "data:,none",
     }
 
-    def __init__(self, hosts):
+    def __init__(self, hosts, in_private=False):
         profile = self.data / "profile"
         profile.mkdir(parents=True, exist_ok=True)
         preferences = self.preferences | {"network.dns.localDomains": ",".join(hosts)}
@@ -187,7 +187,7 @@ class Firefox(Browser):
         self.asked = 0
         self.take()  # who it is
         self.ask("WebDriver:NewSession", pageLoadStrategy="none")
-        self.ask("Addon:Install", path=str(EXTENSION), temporary=True)
+        self.ask("Addon:Install", path=str(EXTENSION), temporary=True, allowPrivateBrowsing=in_private)
         [self.first] = self.tabs()
 
     def take(self):
@@ -215,9 +215,9 @@ class Firefox(Browser):
     def tabs(self):
         return self.ask("WebDriver:GetWindowHandles")
 
-    def open(self, address, in_window=False):
-        kind = "window" if in_window else "tab"
-        tab = self.in_tab(self.tabs()[-1], "WebDriver:NewWindow", type=kind, focus=True)["handle"]
+    def open(self, address, in_window=False, in_private=False):
+        kind = "window" if in_window or in_private else "tab"
+        tab = self.in_tab(self.tabs()[-1], "WebDriver:NewWindow", type=kind, focus=True, private=in_private)["handle"]
         self.go(tab, address)
         return tab
 

@@ -1,5 +1,7 @@
 """The cards of widgets in the dock, on a machine without a network and without accounts."""
 
+import pathlib
+
 import harness
 from harness import DOCK, SETTINGS
 from reading import Reader
@@ -8,6 +10,7 @@ from test_dock_extras import MENU, wait_gone, wait_shown
 from windows import press, wait_active, wait_window, xdotool
 
 ADD = "End", "Up", "Right"  # the last entry but one
+REMOVE = "End", "Up", "Up"
 
 
 class Widgets(harness.DesktopTest):
@@ -24,7 +27,8 @@ class Widgets(harness.DesktopTest):
     def cards(self):
         """Of each its name, what a press does, and its place, in their order; once they stand still."""
         def look():
-            return [each for each in self.reader.read(DOCK) if "Widgets" in each["above"] and each["usable"]]
+            return [each for each in self.reader.read(DOCK) if "Widgets" in each["above"] and each["usable"]
+                    and each["role"] != "check box"]
         def at_rest():
             seen = look()
             return seen if seen == look() else None
@@ -54,7 +58,9 @@ class Widgets(harness.DesktopTest):
         wait_gone(MENU)
 
     def test_from_one_to_three_and_back(self):
-        self.titles_are("GitHub")  # what has no card leaves no gap
+        self.titles_are("GitHub", "AI Usage")  # what has no card leaves no gap
+        self.choose("AI Usage", *REMOVE, "Return")
+        self.titles_are("GitHub")
         github = self.card("GitHub")
         self.assertEqual((github["role"], github["help"]), ("push button", "Opens the accounts in the settings"))
         xdotool("mousemove", *map(str, self.middle("GitHub")), "click", "1")
@@ -63,7 +69,7 @@ class Widgets(harness.DesktopTest):
         press("Escape")
         xdotool("mousemove", "10", "10")
 
-        self.choose("GitHub", *ADD, "Return", "Return")  # the only one of the first category
+        self.choose("GitHub", *ADD, "Down", "Return", "Return")  # the only one of the second category
         self.titles_are("GitHub", "Weather")
         self.choose("GitHub", *ADD, "End", "Return", "End", "Return")
         self.titles_are("GitHub", "Weather", "Ticker")
@@ -97,6 +103,29 @@ class Widgets(harness.DesktopTest):
         wait_window(DOCK)
         self.titles_are("Ticker", "Weather", "GitHub")
         self.assertGreater(self.card("Weather")["space"][2], 2 * before)
+
+    def test_a_reminder_of_a_folder(self):
+        folder = pathlib.Path.home() / ".calendars"  # where it is looked for
+        folder.mkdir()
+        self.fendrel.end(lambda: self.fendrel.do("quit"))
+        self.fendrel = self.reader.start()
+        wait_window(DOCK)
+        self.choose("GitHub", *ADD, "Return", "End", "Return")  # the last one of the first category
+        eventually("nothing to be done", lambda: "All done for today" in self.card("Reminders")["name"])
+        xdotool("mousemove", *map(str, self.middle("Reminders")), "click", "1")
+        wait_shown("Fendrel reminder")
+        xdotool("key", "dead_acute", "e", "type", "tude")
+        press("Return")
+        wait_gone("Fendrel reminder")
+
+        def kept(text):
+            return any(text in file.read_text() for file in folder.rglob("*.ics"))
+        eventually("the reminder in the folder", lambda: kept("SUMMARY:\N{LATIN SMALL LETTER E WITH ACUTE}tude"))
+        self.choose("Reminders", "End", *["Up"] * 4, "Right", "Down", "Return")  # a circle has room in a larger card
+        self.reader.find(DOCK, "Add a reminder", role="push button")
+        self.reader.click(DOCK, "\N{LATIN SMALL LETTER E WITH ACUTE}tude", role="check box")
+        eventually("a reminder that is done", lambda: kept("STATUS:COMPLETED"))
+        eventually("nothing left", lambda: "All done for today" in self.card("Reminders")["name"])
 
 
 if __name__ == "__main__":

@@ -37,11 +37,13 @@ public:
     QHash<QString, QString> locations;
     QHash<QString, AppIcon> icons;
     QString fileManagerID;
+    QStringList browserIDs;
 
     // What the services asked for
 
     /// In order: "open ID", "open ID behind", "activate PID", and so on.
     QStringList requests;
+    QList<QUrl> openedFiles;
 
     // The port
 
@@ -59,6 +61,7 @@ public:
     }
     AppIcon icon(const QString& bundleID) const override { return icons.value(bundleID); }
     QString fileManager() const override { return fileManagerID; }
+    bool isBrowser(const QString& bundleID) const override { return browserIDs.contains(bundleID); }
     NativeApps nativeApps() const override { return {}; }
 
     void open(const QString& bundleID, bool activates) override {
@@ -67,7 +70,8 @@ public:
     QList<AppAction> actions(const QString&) const override { return {}; }
     std::optional<QString> applicationAt(const QUrl&) const override { return {}; }
     void openWindow(const QString& bundleID) override { requests.append(QStringLiteral("window ") + bundleID); }
-    void openFiles(const QString& bundleID, const QList<QUrl>&) override {
+    void openFiles(const QString& bundleID, const QList<QUrl>& files) override {
+        openedFiles += files;
         requests.append(QStringLiteral("files ") + bundleID);
     }
     void runAction(const QString& bundleID, const QString& actionID) override {

@@ -119,6 +119,38 @@ def widgets(cases):
     return rows + [Row("A day of 10,000 sales", microseconds("fold"), "us", None, microseconds("sum"), "their sum alone")]
 
 
+def usage(answer):
+    """Goals are those of cat and of the peer, where it could be had."""
+    days, month = answer["days"], answer["month"]
+    ours, cat, peer = days["fendrel"], days["cat"], days.get("peer")
+    rows = [Row(f"Logs of two days, {answer['bytes'] / 1e6:.0f} MB", ours["processor"], "ms", 3.5 * cat["processor"],
+                cat["processor"], "cat to nowhere")]
+    if peer:
+        rows += [Row("  the same", ours["processor"], "ms", 0.22 * peer["processor"], peer["processor"], "ccusage"),
+                 Row("  most memory", ours["memory"], "MB", 0.2 * peer["memory"], peer["memory"], "ccusage")]
+    rows.append(Row("Logs of a month, of which two days count", month["fendrel"]["processor"], "ms",
+                    0.03 * month["peer"]["processor"] if peer else None,
+                    month["peer"]["processor"] if peer else None, "ccusage"))
+    for name, what, goal in (("unchanged", "Look at 500 logs, unchanged", 4), ("appended", "  with a line more", 10)):
+        took = answer[name]
+        rows.append(Row(what + ", median", statistics.median(took), "ms", goal,
+                        more=f"max {number(max(took))}, of {len(took)}"))
+    search = answer["search"]
+    return rows + [Row("  searching a KB of one", search["ours"], "ns", 100, search["library"], "QByteArrayMatcher")]
+
+
+def calendar(cases):
+    def microseconds(name):
+        return cases[name]["ns"] / 1e3
+    plain = microseconds("plain")
+    return [
+        Row("A day of 2,000 events that come again, once more", microseconds("again"), "us", 0.04 * plain, plain,
+            "the library's expansion"),
+        Row("  for the first time", microseconds("first"), "us", 1.5 * plain, plain, "the library's expansion"),
+        Row("  reading their text", microseconds("read"), "us"),
+    ]
+
+
 def front(answer):
     def both(what, name, goal):
         ours, floor = answer[name], answer[f"{name}Floor"]

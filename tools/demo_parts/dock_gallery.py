@@ -5,6 +5,7 @@ import os
 import pathlib
 import subprocess
 import sys
+import time
 
 from demo_parts.chat import Chat
 from demo_parts.screen import DESKTOP, Screen, xdotool
@@ -28,7 +29,8 @@ class Gallery:
     def play(self):
         self.furnish()
         for state in (self.at_rest, self.magnified, self.windows, self.menus, self.told, self.minimized, self.edges,
-                      self.sizes, self.crowded, self.dragged, self.glow, self.two_displays, self.dark, self.contrast):
+                      self.sizes, self.crowded, self.dragged, self.glow, self.noticed, self.two_displays, self.dark,
+                      self.contrast):
             state()
         self.watch.do("quit")
         if self.program.wait(timeout=10):
@@ -80,6 +82,7 @@ class Gallery:
         self.program = subprocess.Popen([self.fendrel], stdout=self.log, stderr=self.log)
         self.watch.open(self.program, seconds=20)
         self.watch.do("onboarding", "finish", "writing", "building", "social")
+        self.began = time.monotonic()
         for app in (EDITOR, FILES, CHAT, "chromium"):
             self.watch.do("mode", "add-app", "writing", app)
         self.watch.do("dock", "replace", "on")
@@ -187,6 +190,20 @@ class Gallery:
         self.picture("glow")
         self.watch.do("focus", "stop")
         self.set("focusGlow", "false")
+
+    def noticed(self):
+        """What is proposed beside the dock: another mode, and what was open in this one."""
+        time.sleep(max(0, self.began + 125 - time.monotonic()))  # a shorter stay is nothing to come back to
+        self.watch.do("mode", "add-app", "building", TERMINAL)
+        self.screen.bring_forward("lxterminal")
+        self.watch.expect("a proposed mode", lambda state: state["suggestion"], seconds=40)
+        self.screen.wait_shown("Fendrel notice")
+        self.picture("suggestion")
+        self.watch.do("suggestion", "accept")
+        self.watch.do("switch", "writing")
+        self.watch.expect("an offer to bring back", lambda state: state["offer"])
+        self.picture("offer")
+        self.watch.do("context", "dismiss")
 
     def two_displays(self):
         half = {"left": "640/169x800/211+0+0", "right": "640/169x800/211+640+0"}

@@ -75,6 +75,25 @@ QString answersText(const QJsonValue& answers) {
     return text;
 }
 
+QString contextsText(const QJsonValue& contexts) {
+    QString text;
+    for (const auto& each : contexts.toArray()) {
+        const QJsonObject context = each.toObject();
+        QStringList open;
+        for (const auto& app : context[u"apps"].toArray())
+            open.append(app.toString());
+        for (const auto& part : {u"pages"_s, u"documents"_s}) {
+            for (const auto& item : context[part].toArray())
+                open.append(item[u"url"].toString());
+        }
+        QStringList columns;
+        for (const QString& name : {u"mode"_s, u"savedAt"_s, u"note"_s})
+            columns.append(scalar(context[name]).simplified());
+        text += columns.join(u'\t') + u'\t' + open.join(u", "_s) + u'\n';
+    }
+    return text;
+}
+
 QString widgetsText(const QJsonValue& widgets) {
     const auto pairs = [](const QJsonValue& value) {
         QStringList texts;

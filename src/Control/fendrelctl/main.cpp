@@ -66,10 +66,11 @@ int run(const Request& request, bool asJson) {
         else if (asJson)
             print(stdout, jsonText(answer[u"result"]));
         else
-            print(stdout, request.command == u"modes"     ? modesText(answer[u"result"])
-                          : request.command == u"answers" ? answersText(answer[u"result"])
-                          : request.command == u"widgets" ? widgetsText(answer[u"result"])
-                                                          : plainText(answer[u"result"]));
+            print(stdout, request.command == u"modes"          ? modesText(answer[u"result"])
+                          : request.command == u"answers"      ? answersText(answer[u"result"])
+                          : request.command == u"context list" ? contextsText(answer[u"result"])
+                          : request.command == u"widgets"      ? widgetsText(answer[u"result"])
+                                                               : plainText(answer[u"result"]));
         return false;
     });
     if (!isAnswered && !isStream)

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Applications/BrowserHomes.h"
 #include "Platform/Linux/Banners/DesktopBanners.h"
+#include "Platform/Linux/Calendar/DesktopCalendar.h"
 #include "Platform/Linux/Desktop/AutostartEntry.h"
 #include "Platform/Linux/Desktop/CanberraSounds.h"
 #include "Platform/Linux/Desktop/DesktopRemedies.h"
@@ -13,6 +14,7 @@
 #include "Platform/Linux/Desktop/TrashContents.h"
 #include "Platform/Linux/Desktop/TrashFolder.h"
 #include "Platform/Linux/Docks/DockDrivers.h"
+#include "Platform/Linux/Documents/DesktopDocuments.h"
 #include "Platform/Linux/Keyring/KeyringStore.h"
 #include "Platform/Linux/ModelServer/ModelServer.h"
 #include "Platform/Linux/Notifications/NotificationRecorder.h"
@@ -27,6 +29,7 @@
 #include "Platform/Linux/X11/X11PointerGuard.h"
 #include "Platform/Linux/X11/X11WindowPreviews.h"
 #include "Platform/Null/NullPlatform.h"
+#include "Platform/Shared/LeapingClock.h"
 #include "Platform/Shared/NetworkClient.h"
 #include "Platform/Shared/SettingsFile.h"
 #include "Platform/Shared/SystemClock.h"
@@ -69,7 +72,13 @@ Platform makePlatformWithoutDisplay() {
     platform.extension = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/fendrel/extension"_s);
     platform.isPeerOwnUser = isPeerOwnUser;
     platform.disk = std::make_unique<Worker>(u"disk"_s);
+#ifdef FENDREL_TIME_TRAVEL
+    auto clock = std::make_unique<LeapingClock>(std::make_unique<SystemClock>());
+    platform.skipTime = [clock = clock.get()](Clock::Duration time) { clock->leap(time); };
+    platform.clock = std::move(clock);
+#else
     platform.clock = std::make_unique<SystemClock>();
+#endif
     platform.settings =
         std::make_unique<SettingsFile>(platform.folders.config + u"/Settings.json"_s, *platform.disk, *platform.clock);
     platform.notificationBanners = std::make_unique<DesktopBanners>(*platform.settings);
@@ -110,6 +119,8 @@ Platform makePlatform() {
     platform.languageModel = std::make_unique<ModelServer>(clock);
     platform.notificationLog = std::make_unique<NotificationRecorder>(platform.folders.data, catalog, clock);
     platform.secrets = std::make_unique<KeyringStore>();
+    platform.documents = std::make_unique<DesktopDocuments>(QDir::homePath(), DesktopDocuments::standardRecentList());
+    platform.calendar = std::make_unique<DesktopCalendar>(clock);
     platform.loginItem =
         std::make_unique<AutostartEntry>(AutostartEntry::standardFolder(), AutostartEntry::otherFolders(),
                                          QCoreApplication::applicationFilePath(), *platform.disk);

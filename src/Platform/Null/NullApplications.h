@@ -12,6 +12,7 @@ public:
     std::optional<QString> location(const QString&) const override { return {}; }
     AppIcon icon(const QString&) const override { return {}; }
     QString fileManager() const override { return {}; }
+    bool isBrowser(const QString&) const override { return false; }
     NativeApps nativeApps() const override { return {}; }
     QList<AppAction> actions(const QString&) const override { return {}; }
     std::optional<QString> applicationAt(const QUrl&) const override { return {}; }

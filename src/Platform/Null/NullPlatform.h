@@ -3,8 +3,10 @@
 #include "Platform/Null/NullAccessibility.h"
 #include "Platform/Null/NullApplications.h"
 #include "Platform/Null/NullBadges.h"
+#include "Platform/Null/NullCalendarStore.h"
 #include "Platform/Null/NullClock.h"
 #include "Platform/Null/NullDisplays.h"
+#include "Platform/Null/NullDocuments.h"
 #include "Platform/Null/NullFileChooser.h"
 #include "Platform/Null/NullHotKeys.h"
 #include "Platform/Null/NullHttpClient.h"
@@ -57,6 +59,8 @@ inline Platform nullPlatform() {
         .notificationLog = std::make_unique<NullNotificationLog>(),
         .notificationBanners = std::make_unique<NullNotificationBanners>(),
         .secrets = std::make_unique<NullSecretStore>(),
+        .calendar = std::make_unique<NullCalendarStore>(),
+        .documents = std::make_unique<NullDocuments>(),
         .loginItem = std::make_unique<NullLoginItem>(),
         .sounds = std::make_unique<NullSoundPlayer>(),
         .http = std::make_unique<NullHttpClient>(),

@@ -16,7 +16,7 @@ DockController::DockController(AppController& controller, AppIcons& icons, Messa
       m_actions(controller),
       m_minimized(controller, icons),
       m_trash(controller),
-      m_undo(controller),
+      m_notices(controller, icons),
       m_previews(*controller.platform().previews),
       m_restingPointer(*controller.platform().clock),
       m_windows(controller),

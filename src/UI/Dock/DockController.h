@@ -5,10 +5,10 @@
 #include "UI/Dock/AppActions.h"
 #include "UI/Dock/DockAppsModel.h"
 #include "UI/Dock/MinimizedModel.h"
+#include "UI/Dock/NoticeController.h"
 #include "UI/Dock/PreviewSource.h"
 #include "UI/Dock/RestingPointer.h"
 #include "UI/Dock/TrashController.h"
-#include "UI/Dock/UndoController.h"
 #include "UI/Dock/WindowsModel.h"
 #include "UI/Modes/ModesModel.h"
 #include "UI/Widgets/WidgetActions.h"
@@ -36,7 +36,7 @@ class DockController : public QObject {
     Q_PROPERTY(bool replacesDock READ replacesDock NOTIFY replacementChanged)
     Q_PROPERTY(fendrel::MinimizedModel* minimized READ minimized CONSTANT)
     Q_PROPERTY(fendrel::TrashController* trash READ trash CONSTANT)
-    Q_PROPERTY(fendrel::UndoController* undo READ undo CONSTANT)
+    Q_PROPERTY(fendrel::NoticeController* notices READ notices CONSTANT)
     Q_PROPERTY(fendrel::PreviewSource* previews READ previews CONSTANT)
     Q_PROPERTY(fendrel::RestingPointer* restingPointer READ restingPointer CONSTANT)
     Q_PROPERTY(fendrel::WindowsModel* windows READ windows CONSTANT)
@@ -70,7 +70,7 @@ public:
     bool replacesDock() const;
     MinimizedModel* minimized() { return &m_minimized; }
     TrashController* trash() { return &m_trash; }
-    UndoController* undo() { return &m_undo; }
+    NoticeController* notices() { return &m_notices; }
     PreviewSource* previews() { return &m_previews; }
     RestingPointer* restingPointer() { return &m_restingPointer; }
     WindowsModel* windows() { return &m_windows; } ///< of the application that the pointer rests on
@@ -119,7 +119,7 @@ private:
     AppActions m_actions;
     MinimizedModel m_minimized;
     TrashController m_trash;
-    UndoController m_undo;
+    NoticeController m_notices;
     PreviewSource m_previews;
     RestingPointer m_restingPointer;
     WindowsModel m_windows;

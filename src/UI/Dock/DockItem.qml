@@ -42,9 +42,14 @@ Item {
     onIsTipForcedChanged: updateTip()
     Component.onDestruction: tip.update(item, "", false, false)
 
-    Keys.onSpacePressed: event => { if (!event.isAutoRepeat) pressed() }
-    Keys.onReturnPressed: event => { if (!event.isAutoRepeat) pressed() }
-    Keys.onEnterPressed: event => { if (!event.isAutoRepeat) pressed() }
+    Keys.onSpacePressed: event => press(event)
+    Keys.onReturnPressed: event => press(event)
+    Keys.onEnterPressed: event => press(event)
+    function press(event: var) {
+        event.accepted = !(event.modifiers & Qt.ControlModifier) // that is for the dock as a whole
+        if (event.accepted && !event.isAutoRepeat)
+            pressed()
+    }
     Keys.onMenuPressed: menuAsked()
     Keys.onPressed: event => { if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier) menuAsked() }
 

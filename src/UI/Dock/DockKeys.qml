@@ -13,7 +13,7 @@ QtObject {
     required property AppSection apps
 
     // Arrows go through the items, Home and End to the first and last, a letter to the next application whose name begins
-    // with it; Escape gives the keyboard back.
+    // with it; Control with Return or Backspace answers the card beside the bar; Escape gives the keyboard back.
     function press(event: var) {
         event.accepted = true
         const forward = [Qt.Key_Right, Qt.Key_Down].includes(event.key)
@@ -25,7 +25,11 @@ QtObject {
                 cards.end()
             }
         } else if (event.matches(StandardKey.Undo)) {
-            dock.undo.undo()
+            dock.notices.accept("undo")
+        } else if (event.key === Qt.Key_Return && event.modifiers === Qt.ControlModifier) {
+            dock.notices.accept(dock.notices.current.kind)
+        } else if (event.key === Qt.Key_Backspace && event.modifiers === Qt.ControlModifier) {
+            dock.notices.refuse(dock.notices.current.kind)
         } else if (forward || backward) {
             const item = apps.Window.activeFocusItem?.nextItemInFocusChain(forward)
             item?.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)

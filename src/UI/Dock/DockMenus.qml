@@ -6,6 +6,7 @@ QtObject {
     id: menus
 
     required property DockMenu popup
+    required property ReminderField reminder
     required property DockPanel panel
     required property DockController dock
     required property FocusController focusState
@@ -102,9 +103,14 @@ QtObject {
     readonly property WidgetMenu widgets: WidgetMenu {
         dock: menus.dock
         main: menus.main
+        onAdditionAsked: tile => menus.addReminder(tile)
     }
     function showWidgetMenu(tile: WidgetTile, size: string, sizes: var) {
         offer(tile, widgets.entries(tile, size, sizes))
+    }
+
+    function addReminder(tile: WidgetTile) {
+        reminder.open(panel, tile)
     }
 
     function showWindowMenu(item: Item, window: real, title: string) {

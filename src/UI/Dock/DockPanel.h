@@ -32,6 +32,7 @@ class DockPanel : public QQuickView {
     Q_PROPERTY(QRectF surface READ surface WRITE setSurface NOTIFY surfaceChanged)
     Q_PROPERTY(Qt::Edge edge READ edge NOTIFY edgeChanged)
     Q_PROPERTY(bool isShown READ isShown NOTIFY visibilityWanted)
+    Q_PROPERTY(bool isCovered READ isCovered NOTIFY visibilityWanted)
     Q_PROPERTY(bool isTransparent READ isTransparent NOTIFY transparencyChanged)
     Q_PROPERTY(bool isPointerInside READ isPointerInside WRITE setPointerInside NOTIFY pointerChanged)
     Q_PROPERTY(bool isHeld READ isHeld WRITE setHeld NOTIFY heldChanged)

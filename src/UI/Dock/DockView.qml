@@ -73,7 +73,7 @@ FocusScope {
     Binding { target: root.panel; property: "swelling"; value: root.swollen }
     Binding { target: root.panel; property: "surface"; value: root.seen }
     Binding { target: root.panel; property: "isPointerInside"; value: hover.hovered }
-    Binding { target: root.panel; property: "isHeld"; value: menu.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive || cardDrag.isActive }
+    Binding { target: root.panel; property: "isHeld"; value: menu.visible || reminder.visible || popover.isWanted || root.panel.hasKeyboard || drops.isActive || cardDrag.isActive }
 
     HoverHandler {
         id: hover
@@ -216,7 +216,7 @@ FocusScope {
             anchors.fill: parent
             edge: root.edge
             bar: bar
-            isSuppressed: menu.visible || popover.isWanted || (drops.isActive && !drops.target) || cardDrag.isActive
+            isSuppressed: menu.visible || reminder.visible || popover.isWanted || (drops.isActive && !drops.target) || cardDrag.isActive
             scrolled: apps.position + modes.position + end.cards.position
         }
     }
@@ -299,19 +299,27 @@ FocusScope {
         onDismissed: root.panel.menuClosed()
     }
 
+    ReminderField {
+        id: reminder
+        colors: lookColors
+        isTransparent: root.panel.isTransparent
+        onAdded: title => root.dock.widgetActions.addReminder(title)
+        onDismissed: root.panel.menuClosed()
+    }
+
     WindowsPopover {
         id: popover
         colors: lookColors
         panel: root.panel
         dock: root.dock
         isTransparent: root.panel.isTransparent
-        isSuppressed: menu.visible || drops.isActive || !root.panel.isShown
+        isSuppressed: menu.visible || reminder.visible || drops.isActive || !root.panel.isShown
     }
 
-    UndoCard {
+    NoticeCard {
         colors: lookColors
         panel: root.panel
-        undo: root.dock.undo
+        notices: root.dock.notices
         isTransparent: root.panel.isTransparent
         rise: root.swells ? apps.highestRise : 0
         label: dockTip.area
@@ -320,6 +328,7 @@ FocusScope {
     DockMenus {
         id: menus
         popup: menu
+        reminder: reminder
         panel: root.panel
         dock: root.dock
         focusState: root.focusState

@@ -11,10 +11,11 @@ QtObject {
 
     readonly property var allModes: dock.modes.entries
     readonly property var allEnds: focusState.ends
+    readonly property var allNotices: dock.notices.all
     readonly property var lengths: [25, 50, 90] // minutes
 
     function entries(isByKeyboard: bool): var {
-        return parted(switching(), modes(), focus(), today(isByKeyboard),
+        return parted(switching(), offered(), modes(), focus(), today(isByKeyboard),
                       [{ text: qsTr("Settings…"), value: () => menu.dock.openSettings("general"), symbol: "gearshape" },
                        { text: qsTr("Modes…"), value: () => menu.dock.editMode(menu.dock.modeID), symbol: "square.stack" }],
                       [{ text: qsTr("Quit Fendrel"), value: () => menu.dock.quit(), symbol: "power" }])
@@ -30,6 +31,10 @@ QtObject {
             : [{ text: qsTr("Switching to %1 in %2 s").arg(target.name).arg(focusState.pendingSeconds), symbol: "hourglass" },
                { text: qsTr("Shorten the Wait"), value: () => menu.dock.requestMode(target.modeID), symbol: "bolt" },
                { text: qsTr("Stay in %1").arg(dock.modeName), value: () => menu.dock.requestMode(menu.dock.modeID), symbol: "xmark" }]
+    }
+    function offered(): var {
+        return allNotices.filter(notice => notice.inMenu !== "")
+            .map(notice => ({ text: notice.inMenu, hint: notice.detail, symbol: notice.symbol, tint: notice.tint, value: () => menu.dock.notices.accept(notice.kind) }))
     }
     function modes(): var {
         return allModes.map(mode => ({ text: mode.name, hint: mode.hotKey, symbol: mode.symbol, tint: mode.tint, isChecked: mode.isCurrent,

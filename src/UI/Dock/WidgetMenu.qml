@@ -10,11 +10,13 @@ QtObject {
     required property MainMenu main
     readonly property WidgetActions actions: dock.widgetActions
 
+    signal additionAsked(tile: WidgetTile)
+
     function entries(tile: WidgetTile, size: string, sizes: var): var {
         const id = tile.widgetID
         const content = tile.content
         return [{ header: tile.title },
-                ...main.parted(standing(content), content.rows.map(row => line(row)),
+                ...main.parted(standing(content), joining(content), content.rows.map(row => line(row)), completing(tile),
                                [...opening(id, content),
                                 ...content.isLoading ? [] : [{ text: qsTr("Refresh"), value: () => menu.actions.refresh(id), symbol: "arrow.clockwise" }]],
                                [...resizing(id, size, sizes), ...moving(id, tile.isVertical),
@@ -31,9 +33,19 @@ QtObject {
             : actions.isOpenable(content.sourceAddress) ? [{ text: content.source, value: () => menu.actions.open(content.sourceAddress), symbol: "info.circle" }]
             : [{ text: content.source, symbol: "info.circle" }]
         return [...now.map(text => ({ text: text })),
+                ...content.gaugeText === "" ? [] : [{ text: spoken(content.gaugeText, content.gaugeNote).join(" · "), symbol: "hourglass" }],
                 ...content.problem === "" ? [] : [{ text: content.problem, symbol: "exclamationmark.triangle" }],
                 ...content.age === "" ? [] : [{ text: content.age, symbol: "clock" }],
                 ...credit]
+    }
+    function joining(content: var): var {
+        return actions.isOpenable(content.join) ? [{ text: qsTr("Join %1").arg(content.headline), value: () => menu.actions.open(content.join), symbol: "video" }] : []
+    }
+    // Lines of reminders say what is to be done; here it can be.
+    function completing(tile: WidgetTile): var {
+        const tasks = tile.content.rows.filter(row => row.id !== "").map(row => ({ text: row.title, hint: row.value, value: () => menu.actions.complete(row.id) }))
+        return [...tasks.length === 0 ? [] : [{ text: qsTr("Complete"), page: tasks, symbol: "checkmark" }],
+                ...tile.takesAdditions ? [{ text: qsTr("Add a Reminder…"), value: () => menu.additionAsked(tile), symbol: "plus" }] : []]
     }
     function spoken(...texts): var { return texts.filter(text => text !== "") }
     function line(row: var): var {

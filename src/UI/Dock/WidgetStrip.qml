@@ -143,9 +143,15 @@ Line {
                 share: strip.visibility(tile)
                 onIsSoughtChanged: if (isSought) strip.reveal(tile)
                 onPressed: {
+                    if (tile.takesAdditions) {
+                        section.menus.addReminder(tile)
+                        return
+                    }
                     section.panel.releaseKeyboard()
                     section.dock.widgetActions.press(widgetID)
                 }
+                onTicked: (task, on) => section.dock.widgetActions.tick(task, on)
+                onAdditionAsked: section.menus.addReminder(tile)
                 onRowPressed: address => {
                     section.panel.releaseKeyboard()
                     section.dock.widgetActions.open(address)

@@ -24,7 +24,11 @@ DockItem {
     NumberAnimation on coming { from: 0; to: 1; duration: Theme.normal; easing.type: Easing.OutCubic }
     opacity: coming * share * (isCarried ? 0.25 : 1)
 
+    readonly property bool takesAdditions: content.form === "tasks" && (isReady || content.state === "empty")
+
     signal rowPressed(address: url)
+    signal ticked(task: string, on: bool)
+    signal additionAsked()
     signal moveAsked(step: int)
 
     implicitWidth: card.implicitWidth
@@ -41,7 +45,7 @@ DockItem {
     readonly property bool isReady: content.state === "ready"
 
     Accessible.role: Accessible.Button
-    Accessible.name: said(title, content.headline, content.caption, content.note, content.problem, content.age).join(", ")
+    Accessible.name: said(title, content.headline, content.caption, content.note, content.gaugeText, content.gaugeNote, content.problem, content.age).join(", ")
     Accessible.description: pressText
 
     Keys.onPressed: event => {
@@ -67,5 +71,7 @@ DockItem {
         isPressed: tile.isPressed
         isHovered: tile.isHovered
         onRowPressed: address => tile.rowPressed(address)
+        onTicked: (task, on) => tile.ticked(task, on)
+        onAdditionAsked: tile.additionAsked()
     }
 }

@@ -2,11 +2,10 @@
 
 #include "App/AppController.h"
 #include "UI/Settings/FileAsking.h"
+#include "UI/ShownPath.h"
 
-#include <QDir>
 #include <QPointer>
 #include <QStandardPaths>
-#include <QUrl>
 
 namespace fendrel {
 
@@ -14,19 +13,6 @@ using namespace Qt::StringLiterals;
 using NoFile = FileChooser::NoFile;
 
 namespace {
-
-QString typedPath(const QString& typed) {
-    if (typed.startsWith("file:"_L1))
-        return QUrl(typed).toLocalFile();
-    if (typed.startsWith("~/"_L1))
-        return QDir::home().filePath(typed.mid(2));
-    return QDir::home().absoluteFilePath(typed);
-}
-
-QString shownPath(const QString& path) {
-    const QString home = QDir::homePath() + u'/';
-    return path.startsWith(home) ? u"~/"_s + path.mid(home.size()) : path;
-}
 
 FileQuestion::Filter backups() {
     return {.name = DataController::tr("Fendrel backups"), .globs = {u"*.json"_s}};
@@ -89,7 +75,7 @@ void DataController::importFor(QQuickItem* button) {
 }
 
 void DataController::importFrom(const QString& typed) {
-    importPath(typedPath(typed.trimmed()));
+    importPath(typedPath(typed));
 }
 
 void DataController::importPath(const QString& path) {

@@ -57,6 +57,7 @@ Column {
         title: qsTr("Crash reports")
         ToggleRow { colors: page.colors; settings: page.settings; setting: "crashReports" }
     }
+    ContextSettings { colors: page.colors; settings: page.settings }
     DataSettings { colors: page.colors; settings: page.settings }
     ResetButton { colors: page.colors; settings: page.settings; pane: "general" }
 }

@@ -81,6 +81,9 @@ constexpr auto rows = std::to_array<Row>({
     {"learnedAnswers", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Learned answers"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "What Fendrel remembers of applications and sites, for you to correct."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "judgement verdict forget memory correction")},
+    {"savedContexts", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "What was open in your modes"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Kept on this computer alone, and offered when you come back to a mode."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "restore context bring back remember forget applications pages documents")},
     {"export", "general", QT_TRANSLATE_NOOP("SettingsCatalog", "Export"),
      QT_TRANSLATE_NOOP("SettingsCatalog",
                        "Writes modes, settings and learned answers to a file, without keys of accounts."),
@@ -161,6 +164,10 @@ constexpr auto rows = std::to_array<Row>({
                        "The ticker widget follows up to 20 of them, such as AAPL, ^GSPC or BTC-USD. Commas or spaces "
                        "between them."),
      QT_TRANSLATE_NOOP("SettingsCatalog", "ticker stocks shares index crypto finance quotes market")},
+
+    {"calendarFolder", "widgets", QT_TRANSLATE_NOOP("SettingsCatalog", "Calendars"),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "Whose events and reminders the widgets show."),
+     QT_TRANSLATE_NOOP("SettingsCatalog", "calendar events reminders tasks folder ics iCalendar")},
 
     {"modes", "modes", QT_TRANSLATE_NOOP("SettingsCatalog", "Modes"),
      QT_TRANSLATE_NOOP("SettingsCatalog", "Your modes, and the applications and web sites of each."),

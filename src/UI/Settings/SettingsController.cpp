@@ -83,9 +83,15 @@ AccountsController* SettingsController::accounts() {
     return m_accounts.get();
 }
 
+ContextsController* SettingsController::contexts() {
+    if (!m_contexts)
+        m_contexts = std::make_unique<ContextsController>(m_controller);
+    return m_contexts.get();
+}
+
 WidgetsController* SettingsController::widgets() {
     if (!m_widgets)
-        m_widgets = std::make_unique<WidgetsController>(m_controller);
+        m_widgets = std::make_unique<WidgetsController>(m_controller, m_files);
     return m_widgets.get();
 }
 

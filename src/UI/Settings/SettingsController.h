@@ -5,6 +5,7 @@
 #include "UI/Settings/AboutController.h"
 #include "UI/Settings/AccountsController.h"
 #include "UI/Settings/AnswersController.h"
+#include "UI/Settings/ContextsController.h"
 #include "UI/Settings/DataController.h"
 #include "UI/Settings/FileAsking.h"
 #include "UI/Settings/KeyboardController.h"
@@ -42,6 +43,7 @@ class SettingsController : public QObject {
     Q_PROPERTY(fendrel::FileAsking* files READ files CONSTANT)
     Q_PROPERTY(fendrel::AccountsController* accounts READ accounts CONSTANT)
     Q_PROPERTY(fendrel::WidgetsController* widgets READ widgets CONSTANT)
+    Q_PROPERTY(fendrel::ContextsController* contexts READ contexts CONSTANT)
     Q_PROPERTY(bool isDark READ isDark NOTIFY looksChanged)
     Q_PROPERTY(QString modelProblem READ modelProblem NOTIFY stateChanged)
     Q_PROPERTY(QString messagesProblem READ messagesProblem NOTIFY stateChanged)
@@ -67,6 +69,7 @@ public:
     FileAsking* files() { return &m_files; }
     AccountsController* accounts();
     WidgetsController* widgets();
+    ContextsController* contexts();
     bool isDark() const;
     QString modelProblem() const;    ///< why no language model can be asked; empty while all is well
     QString messagesProblem() const; ///< why no messages are held; empty while all is well
@@ -101,6 +104,7 @@ private:
     std::unique_ptr<ModesController> m_modes; ///< made when it is asked for first
     std::unique_ptr<AccountsController> m_accounts;
     std::unique_ptr<WidgetsController> m_widgets;
+    std::unique_ptr<ContextsController> m_contexts;
     std::unique_ptr<LookEditor> m_lookEditor; ///< likewise
     std::unique_ptr<KeyboardController> m_keyboard;
     std::unique_ptr<PermissionsModel> m_permissions;

@@ -161,7 +161,7 @@ FocusScope {
     Loader {
         id: subject
         anchors { top: head.bottom; left: parent.left; leftMargin: tile.width + 14; right: parent.right }
-        sourceComponent: row.widgetID === "weather" ? weather : row.widgetID === "ticker" ? ticker : null
+        sourceComponent: row.widgetID === "weather" ? weather : row.widgetID === "ticker" ? ticker : row.widgetID === "calendar" ? calendar : null
         Component {
             id: weather
             WeatherRow { colors: row.colors; settings: row.settings; subjects: row.widgets.subjects }
@@ -169,6 +169,10 @@ FocusScope {
         Component {
             id: ticker
             TickerRow { colors: row.colors; settings: row.settings; subjects: row.widgets.subjects }
+        }
+        Component {
+            id: calendar
+            CalendarRow { colors: row.colors; settings: row.settings; chooser: row.widgets.calendar }
         }
     }
     Rectangle {

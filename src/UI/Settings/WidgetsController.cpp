@@ -8,8 +8,10 @@ namespace fendrel {
 
 using namespace Qt::StringLiterals;
 
-WidgetsController::WidgetsController(AppController& controller)
-    : m_controller(controller), m_subjects(controller.widgets(), *controller.platform().shell) {
+WidgetsController::WidgetsController(AppController& controller, FileAsking& files)
+    : m_controller(controller),
+      m_subjects(controller.widgets(), *controller.platform().shell),
+      m_calendar(controller, files) {
     const QMetaEnum categories = QMetaEnum::fromType<WidgetCategory>();
     for (int index = 0; index < categories.keyCount(); ++index)
         m_groups.push_back(std::make_unique<WidgetsModel>(static_cast<WidgetCategory>(categories.value(index))));

@@ -189,7 +189,9 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
     const bool works = capability.state == State::works;
     const bool isMissing = capability.state == State::missing;
     const bool isAbsent = capability.state == State::absent;
-    const bool hasPage = !capability.remedy.page.isEmpty() && (isMissing || isAbsent || row.id == "calendar"_L1);
+    // A calendar program that keeps its calendars to itself does not help; those that share them show them, too.
+    const bool wantsPage = row.id == "calendar"_L1 ? works : isMissing || isAbsent;
+    const bool hasPage = !capability.remedy.page.isEmpty() && wantsPage;
     const bool hasCommand = !hasPage && (isMissing || isAbsent) && !capability.remedy.command.isEmpty();
     if (row.id == "titles"_L1) {
         row.title = tr("Window titles");
@@ -261,11 +263,19 @@ void PermissionsModel::describe(Row& row, const Capability& capability) const {
     } else {
         row.title = tr("Calendar");
         row.help = tr("For widgets that show what comes next.");
-        row.reason =
-            tr("Fendrel can't read calendars yet. That comes with the widgets, from the calendar of your desktop.");
-        row.stateLabel = works ? tr("Installed") : isAbsent ? tr("None found") : row.stateLabel;
+        const CalendarStore& store = *m_controller.platform().calendar;
+        if (store.source() == CalendarStore::Source::system)
+            row.reason = tr("From the calendar of your desktop.");
+        else if (works)
+            row.reason = tr("From iCalendar files in %1.").arg(store.folders().join(u", "));
+        else if (isMissing)
+            row.reason = tr("Fendrel may not read your calendars.");
+        else if (isAbsent)
+            row.reason = tr("There is no calendar that Fendrel can read: neither your desktop's nor a folder of "
+                            "iCalendar files.");
+        row.stateLabel = isAbsent ? tr("None found") : row.stateLabel;
         if (hasCommand)
-            row.remedy = tr("You have no calendar program so far; the command installs one.");
+            row.remedy = tr("The command installs a calendar program that shares its calendars.");
     }
     if (hasPage)
         row.actions.append(u"page"_s);

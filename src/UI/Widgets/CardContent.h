@@ -29,12 +29,16 @@ struct CardContent {
     Q_PROPERTY(QVariantList rows MEMBER rows)
     Q_PROPERTY(QList<qreal> curve MEMBER curve)
     Q_PROPERTY(qreal curveNow MEMBER curveNow)
+    Q_PROPERTY(qreal gauge MEMBER gauge)
+    Q_PROPERTY(QString gaugeText MEMBER gaugeText)
+    Q_PROPERTY(QString gaugeNote MEMBER gaugeNote)
     Q_PROPERTY(QString problem MEMBER problem)
     Q_PROPERTY(QString age MEMBER age)
     Q_PROPERTY(QString source MEMBER source)
     Q_PROPERTY(QString credit MEMBER credit)
     Q_PROPERTY(QUrl sourceAddress MEMBER sourceAddress)
     Q_PROPERTY(QUrl address MEMBER address)
+    Q_PROPERTY(QUrl join MEMBER join)
     Q_PROPERTY(bool isLoading MEMBER isLoading)
 
 public:
@@ -43,13 +47,15 @@ public:
         ready,
         empty,        ///< an answer came, and there is nothing in it; `headline` says so
         disconnected, ///< it needs a key; `headline` says of what, and a press opens the accounts
-        unset,  ///< the user has to pick something first; `headline` says what, and a press opens the widgets' pane
-        failed, ///< nothing came yet, and `problem` says why
+        unset,   ///< the user has to pick something first; `headline` says what, and a press opens the widgets' pane
+        unasked, ///< it needs the user's leave to read something; a press asks for it
+        denied,  ///< the user said no; a press opens the pane of the permissions
+        failed,  ///< nothing came yet, and `problem` says why
     };
     Q_ENUM(State)
 
     /// What it looks best as.
-    enum class Form { list, curve, hours, quotes };
+    enum class Form { list, curve, hours, quotes, usage, event, tasks };
     Q_ENUM(Form)
 
     enum class Tone { neutral, good, busy, bad };
@@ -67,12 +73,16 @@ public:
     QVariantList rows{};  ///< CardRow, the most important first
     QList<qreal> curve{}; ///< from 0 to 1
     qreal curveNow{1};    ///< how far along it the present is, from 0 to 1
+    qreal gauge{-1};      ///< how much of something is gone, from 0 to 1; negative: nothing is measured
+    QString gaugeText{};  ///< what that is
+    QString gaugeNote{};  ///< how fast it goes
     QString problem{};    ///< why what is shown is not new
     QString age{};        ///< of what is shown, where that matters; empty: it is new
     QString source{};     ///< that has to be named beside the data; may be empty
     QString credit{};     ///< the same in a word, for beside the caption
     QUrl sourceAddress{};
     QUrl address{}; ///< of the thing itself
+    QUrl join{};    ///< of its video call
     bool isLoading{};
     bool operator==(const CardContent&) const = default;
 
@@ -81,10 +91,11 @@ public:
     QString toneName() const { return enumName(tone); }
 };
 
-/// A line of a list, an hour of a forecast, a quote.
+/// A line of a list, an hour of a forecast, a quote, a reminder.
 struct CardRow {
     Q_GADGET
     QML_VALUE_TYPE(cardRow)
+    Q_PROPERTY(QString id MEMBER id)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString detail MEMBER detail)
     Q_PROPERTY(QString value MEMBER value)
@@ -94,6 +105,7 @@ struct CardRow {
     Q_PROPERTY(QUrl address MEMBER address)
 
 public:
+    QString id{}; ///< of a reminder that can be ticked off; empty: there is nothing to tick
     QString title{};
     QString detail{};
     QString value{}; ///< a few characters that stand at the end of the line: an age, an amount

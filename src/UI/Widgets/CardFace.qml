@@ -13,6 +13,7 @@ Item {
     property bool isCaptioned: !isBrief
     property bool wraps: false        // it is narrow, and has room below
     property string lead: ""          // in the symbol's place
+    property bool isCornerTaken: false // by something that can be pressed
     property bool needsCredit: false  // rather than all of the caption
     property real captionRoom: width  // pixels
 
@@ -21,7 +22,7 @@ Item {
     readonly property real symbolSize: isBeside ? Math.min(20, Math.round((height - caption.height) * 0.75)) : Math.min(18, Math.round(height * 0.38))
     readonly property bool hasCaption: isCaptioned && height >= 1.9 * ink.line
     readonly property real captionWidth: hasCaption ? Math.min(captionStart + caption.contentWidth, captionRoom) : 0
-    readonly property bool isMarkBelow: isBeside && hasCaption // with the caption, and the number keeps its room
+    readonly property bool isMarkBelow: (isBeside || isCornerTaken) && hasCaption // with the caption, and the number keeps its room
     readonly property real captionStart: lowMark.visible ? lowMark.width + 5 : 0
     readonly property bool hasNote: hasCaption && !wraps && height >= 4.4 * ink.line && content.note !== ""
     readonly property real numberStart: isBeside ? symbolSize + 6 : 0

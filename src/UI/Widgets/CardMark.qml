@@ -11,7 +11,7 @@ Item {
     property bool isSpelled: false // the card says it in words
     readonly property bool isProblem: content.problem !== ""
     readonly property string sign: isSpelled ? "" : isProblem ? "exclamationmark.triangle" : signs[content.state] ?? ""
-    readonly property var signs: ({ disconnected: "key", unset: "plus", empty: "minus" })
+    readonly property var signs: ({ disconnected: "key", unset: "plus", unasked: "questionmark.circle", denied: "lock", empty: "minus" })
     readonly property bool isTone: !isSpelled && sign === "" && content.tone !== "neutral"
 
     property bool isWanted: true

@@ -11,6 +11,7 @@ Column {
     property bool hasValues: width >= 140 * Math.max(1, Theme.textScale)
 
     signal pressed(address: url)
+    signal ticked(task: string, on: bool)
 
     readonly property int entryHeight: isNarrow ? 2 * ink.line + 4 : ink.line
     readonly property int fitting: Math.max(0, Math.floor((height + 4) / entryHeight))
@@ -27,11 +28,13 @@ Column {
             readonly property var row: list.rows[index]
             readonly property bool isOpenable: row.address.toString() !== ""
             readonly property bool isColored: row.tone !== "neutral"
+            readonly property bool isTask: row.id !== ""
+            readonly property bool isDone: isTask && (tick.item as TaskTick)?.isTicked === true
             readonly property bool hasSymbol: row.symbol !== "" && !(list.isNarrow && isColored) // then its number is colored
-            readonly property bool hasDot: row.symbol === "" && isColored
+            readonly property bool hasDot: !isTask && row.symbol === "" && isColored
             readonly property real signY: list.isNarrow ? lineHeight : 0 // beside the few characters, and the title has the whole line
             // Titles begin below one another, unless no line has anything before it.
-            readonly property int start: list.isNarrow ? (hasSymbol ? 13 : hasDot ? 9 : 0) : list.hasSigns ? 14 : 0
+            readonly property int start: list.isNarrow ? (isTask ? 17 : hasSymbol ? 13 : hasDot ? 9 : 0) : isTask ? 18 : list.hasSigns ? 14 : 0
             readonly property real lineHeight: list.isNarrow ? list.ink.line : height
             readonly property string value: row.value === "" && list.isNarrow ? row.detail : row.value
             readonly property bool hasValue: value !== "" && (list.isNarrow || list.hasValues)
@@ -45,6 +48,18 @@ Column {
                 color: list.ink.text
                 opacity: press.pressed ? 0.16 : hover.hovered ? 0.08 : 0
                 Behavior on opacity { NumberAnimation { duration: Theme.quick } }
+            }
+            Loader {
+                id: tick
+                anchors { left: parent.left; top: parent.top; topMargin: entry.signY + (entry.lineHeight - height) / 2 }
+                active: entry.isTask
+                sourceComponent: TaskTick {
+                    size: entry.lineHeight < 14 ? 10 : 12
+                    ink: list.ink
+                    task: entry.row.id
+                    name: entry.row.title
+                    onToggled: on => list.ticked(entry.row.id, on)
+                }
             }
             Symbol {
                 anchors { left: parent.left; top: parent.top; topMargin: entry.signY + (entry.lineHeight - height) / 2 }
@@ -71,18 +86,28 @@ Column {
                 height: entry.lineHeight
                 ink: list.ink
                 text: entry.row.title
+                opacity: entry.isDone ? 0.5 : 1
+                font.strikeout: entry.isDone
+                Behavior on opacity { NumberAnimation { duration: Theme.normal } }
             }
             CardLabel {
                 id: amount
                 anchors { right: parent.right; top: list.isNarrow ? title.bottom : parent.top }
-                width: list.isNarrow ? parent.width - entry.start : Math.ceil(metrics.advanceWidth(entry.value))
+                width: list.isNarrow ? parent.width - entry.start : metrics.height > 0 ? Math.ceil(metrics.advanceWidth(entry.value)) + 1 : 0 // it is the height that tells of another font
                 height: entry.lineHeight
                 visible: entry.hasValue
                 ink: list.ink
-                color: list.isNarrow && entry.row.symbol !== "" && entry.isColored ? list.ink.tone(entry.row.tone) : list.ink.quiet
+                color: (entry.isTask || (list.isNarrow && entry.row.symbol !== "")) && entry.isColored ? list.ink.tone(entry.row.tone) : list.ink.quiet
                 text: entry.value
                 fontSizeMode: list.isNarrow ? Text.HorizontalFit : Text.FixedSize
             }
+
+            // The next one comes in the place of one that is done.
+            readonly property string task: row.id
+            onTaskChanged: if (isThere) arriving.restart()
+            property bool isThere: false
+            Component.onCompleted: isThere = true
+            NumberAnimation { id: arriving; target: entry; property: "opacity"; from: 0.2; to: 1; duration: Theme.slow; easing.type: Easing.OutCubic }
 
             HoverHandler { id: hover; enabled: entry.isOpenable }
             TapHandler {

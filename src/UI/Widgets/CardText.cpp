@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QTimeZone>
 
 #include <algorithm>
 #include <cmath>
@@ -36,6 +37,29 @@ QString hour(WallTime time) {
     const QTime local = toDateTime(time).toLocalTime().time();
     const bool hasHalves = locale.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
     return locale.toString(local, hasHalves ? u"h AP"_s : u"HH"_s);
+}
+
+QString clock(WallTime time) {
+    return QLocale().toString(toDateTime(time).toLocalTime().time(), QLocale::ShortFormat);
+}
+
+qreal shareOfDay(WallTime now) {
+    const QDate day = toDateTime(now).toLocalTime().date();
+    const auto zone = QTimeZone::systemTimeZone();
+    const auto start = toWallTime(day.startOfDay(zone));
+    const auto end = toWallTime(day.addDays(1).startOfDay(zone));
+    return std::clamp(std::chrono::duration<double>(now - start) / std::chrono::duration<double>(end - start), 0.0,
+                      1.0);
+}
+
+QList<qreal> dayCurve(const QList<qint64>& cumulative) {
+    if (std::ranges::all_of(cumulative, [](qint64 each) { return each == 0; }))
+        return {};
+    std::vector<double> values(cumulative.begin(), cumulative.end());
+    values.push_back(0);
+    auto points = scaled(values);
+    points.removeLast();
+    return points;
 }
 
 QList<qreal> scaled(const std::vector<double>& values) {

@@ -1,6 +1,8 @@
 #include "UI/Widgets/Cards.h"
 
+#include "UI/ShownPath.h"
 #include "UI/Widgets/CardText.h"
+#include "Widgets/Usage/UsageRoots.h"
 
 #include <QCoreApplication>
 
@@ -144,6 +146,55 @@ void tellOf(CardContent& card, const Ticker& feed, WallTime now) {
     }
 }
 
+/// Until the user lets it be read, or where there is nothing to read. False: it can be.
+bool lacksAccess(CardContent& card, CalendarStore::Access access, const char* question, const char* absence) {
+    const auto said = [](const char* text) { return QCoreApplication::translate("Card", text); };
+    switch (access) {
+    case CalendarStore::Access::granted:
+        return false;
+    case CalendarStore::Access::unknown:
+        say(card, State::unasked, said(question), said(QT_TRANSLATE_NOOP("Card", "Press to allow it")));
+        break;
+    case CalendarStore::Access::denied:
+        say(card, State::denied, said(QT_TRANSLATE_NOOP("Card", "Fendrel may not read it")),
+            said(QT_TRANSLATE_NOOP("Card", "Press to change that")));
+        break;
+    case CalendarStore::Access::missing:
+        say(card, State::unset, said(absence), said(QT_TRANSLATE_NOOP("Card", "Press to pick one")));
+        break;
+    }
+    return true;
+}
+
+void tellOf(CardContent& card, const CalendarFeed& feed, WallTime now) {
+    card.form = Form::event;
+    if (lacksAccess(card, feed.access(), QT_TRANSLATE_NOOP("Card", "Show your calendar?"),
+                    QT_TRANSLATE_NOOP("Card", "No calendar found")))
+        return;
+    card.problem = feed.error();
+    card.state = feed.updatedAt() ? State::ready : card.problem.isEmpty() ? State::waiting : State::failed;
+    if (feed.updatedAt())
+        describe(card, feed.upcoming(), feed.next(now), now);
+}
+
+void tellOf(CardContent& card, const RemindersFeed& feed, WallTime now) {
+    card.form = Form::tasks;
+    if (lacksAccess(card, feed.access(), QT_TRANSLATE_NOOP("Card", "Show your reminders?"),
+                    QT_TRANSLATE_NOOP("Card", "No reminders found")))
+        return;
+    card.problem = feed.error();
+    card.state = feed.updatedAt() ? State::ready : card.problem.isEmpty() ? State::waiting : State::failed;
+    if (feed.updatedAt())
+        describe(card, feed.items(), now);
+}
+
+void tellOf(CardContent& card, const AIUsage& feed, WallTime now) {
+    card.form = Form::curve;
+    card.state = feed.summary() ? State::ready : State::waiting;
+    if (feed.summary())
+        describe(card, *feed.summary(), shownPath(usageRoots().value(0)), now);
+}
+
 } // namespace
 
 CardContent cardContent(const Widgets& widgets, const WidgetAccounts& accounts, DockWidget widget, WallTime now) {
@@ -176,6 +227,16 @@ CardContent cardContent(const Widgets& widgets, const WidgetAccounts& accounts, 
     case DockWidget::ticker:
         card.isLoading = widgets.ticker().isLoading();
         tellOf(card, widgets.ticker(), now);
+        break;
+    // What is on this computer is read again and again, and quickly: no card tells of that.
+    case DockWidget::calendar:
+        tellOf(card, widgets.calendar(), now);
+        break;
+    case DockWidget::reminders:
+        tellOf(card, widgets.reminders(), now);
+        break;
+    case DockWidget::aiUsage:
+        tellOf(card, widgets.aiUsage(), now);
         break;
     default:
         card.state = State::failed;

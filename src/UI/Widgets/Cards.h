@@ -18,5 +18,11 @@ void describe(CardContent& card, const RevenueDay& day, WallTime now);
 QUrl salesPage(WidgetAccounts::Service service); ///< where a payment provider lists its sales; empty of other services
 void describe(CardContent& card, const weather::Report& report, const weather::Place& place, WallTime now);
 void describe(CardContent& card, const QList<ticker::Quote>& quotes);
+/// `folder`: where logs were looked for, for the user.
+void describe(CardContent& card, const usage::Summary& summary, const QString& folder, WallTime now);
+/// Those to come or under way, `next` among them.
+void describe(CardContent& card, const QList<CalendarFeed::Event>& events,
+              const std::optional<CalendarFeed::Event>& next, WallTime now);
+void describe(CardContent& card, const QList<RemindersFeed::Item>& items, WallTime now);
 
 } // namespace fendrel

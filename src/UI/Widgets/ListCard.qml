@@ -12,6 +12,10 @@ Item {
     required property bool isVertical
 
     signal pressed(address: url)
+    signal ticked(task: string, on: bool)
+    signal additionAsked()
+
+    readonly property bool canAdd: content.form === "tasks"
 
     readonly property bool isMedium: size === "medium" && !isVertical
     readonly property real beside: width - 18 - number.implicitWidth - 5 - (mark.visible ? mark.width + 4 : 0) // pixels
@@ -20,7 +24,7 @@ Item {
     CardFace {
         id: face
         anchors { left: parent.left; top: parent.top }
-        width: view.isVertical ? parent.width : Math.min(wanted, Math.round(parent.width * 0.4))
+        width: view.isVertical ? parent.width : Math.min(wanted + (add.visible ? add.width + 6 : 0), Math.round(parent.width * 0.4))
         height: view.isVertical ? Math.min(parent.height, view.width + 2 * view.ink.line) : parent.height
         visible: !view.isMedium
         ink: view.ink
@@ -28,6 +32,7 @@ Item {
         symbol: view.symbol
         isBeside: !view.isVertical
         wraps: view.isVertical
+        isCornerTaken: add.visible
     }
 
     // All of it in one line, over the list.
@@ -49,7 +54,7 @@ Item {
         CardLabel {
             id: number
             anchors { left: symbol.right; leftMargin: 5; verticalCenter: parent.verticalCenter } // 18 in all
-            width: Math.min(implicitWidth, parent.width - 18 - (mark.visible ? mark.width + 4 : 0))
+            width: Math.min(implicitWidth, parent.width - 18 - (mark.visible ? mark.width + 4 : 0) - (add.visible ? add.width + 4 : 0))
             ink: view.ink
             text: view.content.headline
             font { pixelSize: Math.round(view.ink.textSize * 1.36); weight: Font.DemiBold }
@@ -57,16 +62,26 @@ Item {
         CardCaption {
             id: caption
             visible: !view.isAgeBelow
-            anchors { left: number.right; leftMargin: 5; right: mark.visible ? mark.left : parent.right; rightMargin: mark.visible ? 4 : 0; baseline: number.baseline }
+            anchors { left: number.right; leftMargin: 5; right: mark.visible ? mark.left : parent.right; rightMargin: mark.visible ? 4 : add.visible ? add.width + 4 : 0; baseline: number.baseline }
             ink: view.ink
             content: view.content
         }
         CardMark {
             id: mark
-            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            anchors { right: parent.right; rightMargin: add.visible ? add.width + 5 : 0; verticalCenter: parent.verticalCenter }
             ink: view.ink
             content: view.content
         }
+    }
+
+    CardButton {
+        id: add
+        anchors { left: parent.left; leftMargin: (view.isMedium ? view.width : face.width) - width; top: parent.top; topMargin: view.isMedium ? Math.round((header.height - height) / 2) : 0 }
+        visible: view.canAdd && view.width >= 2.6 * view.ink.line // else a press on the card does it
+        ink: view.ink
+        symbol: "plus"
+        name: qsTr("Add a reminder")
+        onPressed: view.additionAsked()
     }
 
     CardLabel {
@@ -93,5 +108,6 @@ Item {
         rows: view.content.rows
         isNarrow: view.isVertical
         onPressed: address => view.pressed(address)
+        onTicked: (task, on) => view.ticked(task, on)
     }
 }

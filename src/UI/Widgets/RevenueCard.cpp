@@ -3,7 +3,6 @@
 #include "Widgets/Revenue/ExchangeRates.h"
 
 #include <QCoreApplication>
-#include <QTimeZone>
 
 #include <algorithm>
 
@@ -12,27 +11,6 @@ namespace fendrel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The zero line is in the curve, or a day that begins with its refunds would look like any other.
-QList<qreal> dayCurve(const QList<qint64>& cumulative) {
-    if (std::ranges::all_of(cumulative, [](qint64 each) { return each == 0; }))
-        return {};
-    std::vector<double> values(cumulative.begin(), cumulative.end());
-    values.push_back(0);
-    auto points = card::scaled(values);
-    points.removeLast();
-    return points;
-}
-
-/// From 0 to 1; days on which clocks change are longer or shorter.
-qreal shareOfDay(WallTime now) {
-    const QDate day = toDateTime(now).toLocalTime().date();
-    const auto zone = QTimeZone::systemTimeZone();
-    const auto start = toWallTime(day.startOfDay(zone));
-    const auto end = toWallTime(day.addDays(1).startOfDay(zone));
-    return std::clamp(std::chrono::duration<double>(now - start) / std::chrono::duration<double>(end - start), 0.0,
-                      1.0);
-}
 
 CardRow saleRow(const ServiceSale& entry, WallTime now) {
     const QString provider = WidgetAccounts::description(entry.service).name;
@@ -71,8 +49,8 @@ void describe(CardContent& card, const RevenueDay& day, WallTime now) {
         card.headline = QCoreApplication::translate("Card", "Nothing sold yet");
         return;
     }
-    card.curve = dayCurve(day.cumulative);
-    card.curveNow = shareOfDay(now);
+    card.curve = card::dayCurve(day.cumulative);
+    card.curveNow = card::shareOfDay(now);
 
     const auto shown = std::ranges::find(day.total, day.cumulativeCurrency, &Money::currency);
     const Money money = day.combined ? day.combined->money : shown == day.total.end() ? day.total.first() : *shown;

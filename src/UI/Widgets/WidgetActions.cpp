@@ -6,19 +6,34 @@
 namespace fendrel {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 void WidgetActions::press(const QString& widgetID) {
     const CardContent* content = m_cards.content(widgetID);
     if (!content)
         return;
-    if (content->state == CardContent::State::disconnected)
+    switch (content->state) {
+    case CardContent::State::disconnected:
         m_controller.showSettings(u"accounts"_s);
-    else if (content->state == CardContent::State::unset)
+        break;
+    case CardContent::State::unset:
         m_controller.showSettings(u"widgets"_s);
-    else if (isOpenable(content->address))
-        open(content->address);
-    else
-        refresh(widgetID);
+        break;
+    case CardContent::State::denied:
+        m_controller.showSettings(u"permissions"_s);
+        break;
+    case CardContent::State::unasked:
+        if (content->form == CardContent::Form::tasks)
+            m_controller.widgets().reminders().requestAccess();
+        else
+            m_controller.widgets().calendar().requestAccess();
+        break;
+    default:
+        if (isOpenable(content->address))
+            open(content->address);
+        else
+            refresh(widgetID);
+    }
 }
 
 QString WidgetActions::pressText(const CardContent& content) {
@@ -27,7 +42,13 @@ QString WidgetActions::pressText(const CardContent& content) {
         return tr("Opens the accounts in the settings");
     case CardContent::State::unset:
         return tr("Opens the widgets in the settings");
+    case CardContent::State::denied:
+        return tr("Opens the permissions in the settings");
+    case CardContent::State::unasked:
+        return tr("Asks you for leave to read it");
     default:
+        if (content.form == CardContent::Form::tasks && content.state != CardContent::State::failed)
+            return tr("Adds a reminder");
         if (content.isLoading && !isOpenable(content.address))
             return tr("Is being asked for what is new");
         return isOpenable(content.address) ? tr("Opens it in the browser") : tr("Asks for what is new");
@@ -45,9 +66,28 @@ void WidgetActions::open(const QUrl& address) {
 
 void WidgetActions::refresh(const QString& widgetID) {
     const auto widget = enumValue<DockWidget>(widgetID);
-    Feed* feed = widget ? m_controller.widgets().feed(*widget) : nullptr;
+    WidgetFeed* feed = widget ? m_controller.widgets().feed(*widget) : nullptr;
     if (feed && !feed->isLoading())
         feed->refresh(true);
+}
+
+void WidgetActions::tick(const QString& reminderID, bool on) {
+    constexpr auto secondThoughts = 1200ms;
+    if (on)
+        m_ticked[reminderID] =
+            m_controller.platform().clock->after(secondThoughts, [this, reminderID] { complete(reminderID); });
+    else
+        m_ticked.erase(reminderID);
+}
+
+void WidgetActions::complete(const QString& reminderID) {
+    const QString id = reminderID; // the handle that is dropped may own it
+    m_ticked.erase(id);
+    m_controller.widgets().reminders().complete(id);
+}
+
+void WidgetActions::addReminder(const QString& title) {
+    m_controller.widgets().reminders().add(title.simplified());
 }
 
 void WidgetActions::resize(const QString& widgetID, const QString& size) {

@@ -19,6 +19,8 @@ Item {
     property bool isHovered: false
 
     signal rowPressed(address: url)
+    signal ticked(task: string, on: bool)
+    signal additionAsked()
 
     readonly property real fullLength: metrics.length(size, extent, isVertical)
     implicitWidth: isVertical ? extent : fullLength
@@ -33,13 +35,16 @@ Item {
         switch (content.form) {
         case "curve": return curve
         case "hours": return hours
+        case "usage": return usage
+        case "event": return event
         case "quotes": return content.rows.length > 1 ? quotes : curve
         }
         return list
     }
 
     // What is new comes gently; an age that goes on is not new.
-    readonly property string news: [content.state, content.headline, content.caption].join("\n")
+    readonly property string news: content.form === "tasks" ? content.state // its lines come by themselves
+        : [content.state, content.headline, content.form === "event" ? "" : content.caption].join("\n")
     onNewsChanged: if (isThere) coming.restart()
     property bool isThere: false
     Component.onCompleted: isThere = true
@@ -107,12 +112,11 @@ Item {
     }
     Component {
         id: small
-        CardFace {
+        SmallCard {
             ink: inks
             content: card.content
             symbol: card.shownSymbol
-            isBrief: true
-            lead: card.content.form === "quotes" ? card.content.caption : ""
+            onPressed: address => card.rowPressed(address)
         }
     }
     Component {
@@ -124,6 +128,31 @@ Item {
             size: card.size
             isVertical: card.isVertical
             onPressed: address => card.rowPressed(address)
+            onTicked: (task, on) => card.ticked(task, on)
+            onAdditionAsked: card.additionAsked()
+        }
+    }
+    Component {
+        id: event
+        EventCard {
+            ink: inks
+            content: card.content
+            size: card.size
+            isVertical: card.isVertical
+            onPressed: address => card.rowPressed(address)
+        }
+    }
+    Component {
+        id: usage
+        UsageCard {
+            ink: inks
+            content: card.content
+            symbol: card.shownSymbol
+            size: card.size
+            isVertical: card.isVertical
+            padding: body.padding
+            side: body.side
+            radius: metrics.radius(card.extent)
         }
     }
     Component {

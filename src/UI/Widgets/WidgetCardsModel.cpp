@@ -16,8 +16,8 @@ WidgetCardsModel::WidgetCardsModel(AppController& controller) : m_controller(con
     connect(&controller.widgetSizes(), &WidgetSizes::changed, this, &WidgetCardsModel::refresh);
     connect(&controller.accounts(), &WidgetAccounts::changed, this, &WidgetCardsModel::updateAll);
     for (const DockWidgetKind& kind : dockWidgetKinds())
-        if (const Feed* feed = controller.widgets().feed(kind.widget))
-            connect(feed, &Feed::changed, this, [this, widget = kind.widget] {
+        if (const WidgetFeed* feed = controller.widgets().feed(kind.widget))
+            connect(feed, &WidgetFeed::changed, this, [this, widget = kind.widget] {
                 update(widget);
                 keepTime();
             });
@@ -154,14 +154,21 @@ void WidgetCardsModel::updateAll() {
         update(row.widget);
 }
 
-/// Only what a service has answered grows old.
+/// Only what has come grows old, or comes closer. Looked at on the full minute, where events begin.
 void WidgetCardsModel::keepTime() {
     const bool isNeeded = std::ranges::any_of(
         m_rows, [this](const Row& row) { return m_controller.widgets().feed(row.widget)->updatedAt().has_value(); });
-    if (!isNeeded)
+    if (!isNeeded) {
         m_minutes.reset();
-    else if (!m_minutes)
-        m_minutes = m_controller.platform().clock->every(1min, 5s, [this] { updateAll(); });
+    } else if (!m_minutes) {
+        Clock& clock = *m_controller.platform().clock;
+        const WallTime now = clock.now();
+        m_minutes = clock.after(std::chrono::floor<std::chrono::minutes>(now) + 1min - now, [this] {
+            m_minutes.reset();
+            updateAll();
+            keepTime();
+        });
+    }
 }
 
 } // namespace fendrel

@@ -470,6 +470,17 @@
     </message>
 </context>
 <context>
+    <name>CalendarRow</name>
+    <message>
+        <source>Found by itself</source>
+        <translation>Selbst gefunden</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen …</translation>
+    </message>
+</context>
+<context>
     <name>CapabilityRow</name>
     <message>
         <source>Copied</source>
@@ -766,6 +777,127 @@
         <source>Due today</source>
         <translation>Heute fällig</translation>
     </message>
+    <message>
+        <source>tomorrow, all day</source>
+        <translation>morgen, ganztägig</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation>morgen</translation>
+    </message>
+    <message>
+        <source>all day</source>
+        <translation>ganztägig</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>now, %1 min left</source>
+        <extracomment>An event that is under way.</extracomment>
+        <translation>jetzt, noch %1 Min.</translation>
+    </message>
+    <message>
+        <source>now, until %1</source>
+        <translation>jetzt, bis %1</translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation>in %1 Min.</translation>
+    </message>
+    <message>
+        <source>tomorrow at %1</source>
+        <translation>morgen um %1</translation>
+    </message>
+    <message>
+        <source>at %1</source>
+        <translation>um %1</translation>
+    </message>
+    <message>
+        <source>Nothing more today</source>
+        <translation>Heute nichts mehr</translation>
+    </message>
+    <message>
+        <source>All done for today</source>
+        <translation>Für heute alles erledigt</translation>
+    </message>
+    <message>
+        <source>due today</source>
+        <translation>heute fällig</translation>
+    </message>
+    <message>
+        <source>due</source>
+        <translation>fällig</translation>
+    </message>
+    <message>
+        <source>Press to allow it</source>
+        <translation>Zum Erlauben drücken</translation>
+    </message>
+    <message>
+        <source>Fendrel may not read it</source>
+        <translation>Fendrel darf nicht lesen</translation>
+    </message>
+    <message>
+        <source>Press to change that</source>
+        <translation>Zum Ändern drücken</translation>
+    </message>
+    <message>
+        <source>Press to pick one</source>
+        <translation>Zum Auswählen drücken</translation>
+    </message>
+    <message>
+        <source>Show your calendar?</source>
+        <translation>Kalender zeigen?</translation>
+    </message>
+    <message>
+        <source>No calendar found</source>
+        <translation>Kein Kalender gefunden</translation>
+    </message>
+    <message>
+        <source>Show your reminders?</source>
+        <translation>Erinnerungen zeigen?</translation>
+    </message>
+    <message>
+        <source>No reminders found</source>
+        <translation>Keine Erinnerungen gefunden</translation>
+    </message>
+    <message>
+        <source>Other models</source>
+        <translation>Andere Modelle</translation>
+    </message>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>Tokens used since the start of a window of time, and when a new one begins: &quot;340K until 7:00 PM&quot;</extracomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 an hour</source>
+        <translation>%1 pro Stunde</translation>
+    </message>
+    <message>
+        <source>No Claude Code logs found</source>
+        <translation>Keine Protokolle von Claude Code gefunden</translation>
+    </message>
+    <message>
+        <source>Looked in %1</source>
+        <translation>Gesucht in %1</translation>
+    </message>
+    <message>
+        <source>Nothing used yet today</source>
+        <translation>Heute noch nichts verbraucht</translation>
+    </message>
+    <message>
+        <source>tokens today</source>
+        <translation>Token heute</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reply(ies)</source>
+        <translation>
+            <numerusform>%n Antwort</numerusform>
+            <numerusform>%n Antworten</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ColorPicker</name>
@@ -799,6 +931,53 @@
     <message>
         <source>Another color</source>
         <translation>Andere Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>Context</name>
+    <message numerus="yes">
+        <source>%n application(s)</source>
+        <translation>
+            <numerusform>%n Programm</numerusform>
+            <numerusform>%n Programme</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n Dokument</numerusform>
+            <numerusform>%n Dokumente</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ContextSettings</name>
+    <message>
+        <source>Bringing back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Nothing is remembered yet. It begins when you leave a mode after two minutes.</source>
+        <translation>Noch ist nichts gemerkt. Es beginnt, wenn du einen Modus nach zwei Minuten verlässt.</translation>
+    </message>
+    <message>
+        <source>Forget All…</source>
+        <translation>Alles vergessen …</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Forget what was open in %1</source>
+        <translation>Vergessen, was in %1 offen war</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1654,17 @@
     </message>
 </context>
 <context>
+    <name>EventCard</name>
+    <message>
+        <source>Join</source>
+        <translation>Beitreten</translation>
+    </message>
+    <message>
+        <source>Join %1</source>
+        <translation>%1 beitreten</translation>
+    </message>
+</context>
+<context>
     <name>Feed</name>
     <message>
         <source>Pick your city</source>
@@ -1527,6 +1717,14 @@
     <message>
         <source>%1 answered %2</source>
         <translation>%1 hat mit %2 geantwortet</translation>
+    </message>
+    <message>
+        <source>Untitled event</source>
+        <translation>Termin ohne Titel</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
     </message>
 </context>
 <context>
@@ -1722,6 +1920,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Add a reminder</source>
+        <translation>Erinnerung hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -2151,6 +2353,17 @@
     </message>
 </context>
 <context>
+    <name>NoticeCard</name>
+    <message>
+        <source>Fendrel undo</source>
+        <translation>Fendrel: Rückgängig</translation>
+    </message>
+    <message>
+        <source>Fendrel notice</source>
+        <translation>Fendrel: Hinweis</translation>
+    </message>
+</context>
+<context>
     <name>Notifications</name>
     <message>
         <source>Fendrel can&apos;t reach the session bus, so it doesn&apos;t see notifications (%1).</source>
@@ -2201,6 +2414,25 @@
     <message>
         <source>Nothing is left to do here.</source>
         <translation>Hier ist nichts mehr zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>ReminderField</name>
+    <message>
+        <source>Fendrel reminder</source>
+        <translation>Fendrel: Erinnerung</translation>
+    </message>
+    <message>
+        <source>New reminder</source>
+        <translation>Neue Erinnerung</translation>
+    </message>
+    <message>
+        <source>To be done today</source>
+        <translation>Heute zu erledigen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -2787,6 +3019,30 @@
         <source>ticker stocks shares index crypto finance quotes market</source>
         <translation>Ticker Aktien Börse Index Krypto Finanzen Kurse Markt</translation>
     </message>
+    <message>
+        <source>What was open in your modes</source>
+        <translation>Was in deinen Modi offen war</translation>
+    </message>
+    <message>
+        <source>Kept on this computer alone, and offered when you come back to a mode.</source>
+        <translation>Bleibt auf diesem Computer und wird angeboten, wenn du in einen Modus zurückkommst.</translation>
+    </message>
+    <message>
+        <source>restore context bring back remember forget applications pages documents</source>
+        <translation>wiederherstellen Kontext zurückholen merken vergessen Programme Anwendungen Seiten Dokumente</translation>
+    </message>
+    <message>
+        <source>Calendars</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Whose events and reminders the widgets show.</source>
+        <translation>Wessen Termine und Erinnerungen die Widgets zeigen.</translation>
+    </message>
+    <message>
+        <source>calendar events reminders tasks folder ics iCalendar</source>
+        <translation>Kalender Termine Erinnerungen Aufgaben Ordner ics iCalendar</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -2839,6 +3095,17 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>SmallCard</name>
+    <message>
+        <source>Join</source>
+        <translation>Beitreten</translation>
+    </message>
+    <message>
+        <source>Join %1</source>
+        <translation>%1 beitreten</translation>
     </message>
 </context>
 <context>
@@ -3448,17 +3715,6 @@
     </message>
 </context>
 <context>
-    <name>UndoCard</name>
-    <message>
-        <source>Fendrel undo</source>
-        <translation>Fendrel: Rückgängig</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-</context>
-<context>
     <name>VerdictChip</name>
     <message>
         <source>Not right? Click to tell Fendrel</source>
@@ -3616,6 +3872,18 @@
     <message>
         <source>Add Widget</source>
         <translation>Widget hinzufügen</translation>
+    </message>
+    <message>
+        <source>Join %1</source>
+        <translation>%1 beitreten</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Erledigt</translation>
+    </message>
+    <message>
+        <source>Add a Reminder…</source>
+        <translation>Erinnerung hinzufügen …</translation>
     </message>
 </context>
 <context>
@@ -3928,6 +4196,29 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
 </context>
 <context>
+    <name>fendrel::CalendarChooser</name>
+    <message>
+        <source>Now from the desktop&apos;s calendar. A folder of iCalendar files takes its place.</source>
+        <translation>Jetzt aus dem Kalender des Desktops. Ein Ordner mit iCalendar-Dateien tritt an dessen Stelle.</translation>
+    </message>
+    <message>
+        <source>Now from %1.</source>
+        <translation>Jetzt aus %1.</translation>
+    </message>
+    <message>
+        <source>No calendar was found. Pick the folder in which a program keeps iCalendar files.</source>
+        <translation>Es wurde kein Kalender gefunden. Wähle den Ordner, in dem ein Programm iCalendar-Dateien ablegt.</translation>
+    </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Es gibt keinen Ordner %1.</translation>
+    </message>
+    <message>
+        <source>Folder of Calendars</source>
+        <translation>Ordner der Kalender</translation>
+    </message>
+</context>
+<context>
     <name>fendrel::Capabilities</name>
     <message>
         <source>No keyring runs here.</source>
@@ -3967,6 +4258,29 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>Fendrel messages</source>
         <translation>Fendrel-Nachrichten</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::ContextsController</name>
+    <message>
+        <source>nothing to open again</source>
+        <translation>nichts wieder zu öffnen</translation>
+    </message>
+    <message>
+        <source>Forget what was open in all modes?</source>
+        <translation>Vergessen, was in allen Modi offen war?</translation>
+    </message>
+    <message>
+        <source>Nothing can be brought back then until you leave a mode again.</source>
+        <translation>Dann kann nichts zurückgeholt werden, bis du wieder einen Modus verlässt.</translation>
+    </message>
+    <message>
+        <source>Forget All</source>
+        <translation>Alles vergessen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -4133,6 +4447,14 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>tells folders from files</source>
         <translation>unterscheidet Ordner und Dateien</translation>
+    </message>
+    <message>
+        <source>reads calendars</source>
+        <translation>liest Kalender</translation>
+    </message>
+    <message>
+        <source>reads the logs of your coding agent</source>
+        <translation>liest die Protokolle deines Programmier-Agenten</translation>
     </message>
 </context>
 <context>
@@ -4424,6 +4746,28 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     </message>
 </context>
 <context>
+    <name>fendrel::ModeSuggestions</name>
+    <message>
+        <source>A call</source>
+        <translation>Ein Anruf</translation>
+    </message>
+    <message>
+        <source>%1 has started.</source>
+        <translation>%1 hat begonnen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 starts in %n min.</source>
+        <translation>
+            <numerusform>%1 beginnt in %n Min.</numerusform>
+            <numerusform>%1 beginnt in %n Min.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>You opened %1.</source>
+        <translation>Du hast %1 geöffnet.</translation>
+    </message>
+</context>
+<context>
     <name>fendrel::ModesController</name>
     <message>
         <source>New Mode</source>
@@ -4432,6 +4776,56 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>%1 Copy</source>
         <translation>%1 Kopie</translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::NoticeController</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Switch to %1?</source>
+        <translation>Zu %1 wechseln?</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Wechseln</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Switch to %1</source>
+        <translation>Zu %1 wechseln</translation>
+    </message>
+    <message>
+        <source>Bring back what was open in %1?</source>
+        <translation>Zurückholen, was in %1 offen war?</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Restore What Was Open</source>
+        <translation>Zurückholen, was offen war</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t find %1 any more.</source>
+        <translation>%1 ist nicht mehr zu finden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Couldn&apos;t find %n document(s) any more.</source>
+        <translation>
+            <numerusform>%n Dokument ist nicht mehr zu finden.</numerusform>
+            <numerusform>%n Dokumente sind nicht mehr zu finden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -4661,14 +5055,6 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Schalte in der Fensterverwaltung den Compositor ein, oder starte einen, etwa picom.</translation>
     </message>
     <message>
-        <source>Fendrel can&apos;t read calendars yet. That comes with the widgets, from the calendar of your desktop.</source>
-        <translation>Fendrel kann noch keine Kalender lesen. Das kommt mit den Widgets, aus dem Kalender deines Desktops.</translation>
-    </message>
-    <message>
-        <source>You have no calendar program so far; the command installs one.</source>
-        <translation>Du hast noch kein Kalenderprogramm; der Befehl installiert eines.</translation>
-    </message>
-    <message>
         <source>The extension is installed. Start %1.</source>
         <translation>Die Erweiterung ist installiert. Starte %1.</translation>
     </message>
@@ -4693,8 +5079,24 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
         <translation>Installiere einen, etwa Firefox oder Chromium, und starte ihn einmal.</translation>
     </message>
     <message>
-        <source>Installed</source>
-        <translation>Installiert</translation>
+        <source>From the calendar of your desktop.</source>
+        <translation>Aus dem Kalender deines Desktops.</translation>
+    </message>
+    <message>
+        <source>From iCalendar files in %1.</source>
+        <translation>Aus iCalendar-Dateien in %1.</translation>
+    </message>
+    <message>
+        <source>Fendrel may not read your calendars.</source>
+        <translation>Fendrel darf deine Kalender nicht lesen.</translation>
+    </message>
+    <message>
+        <source>There is no calendar that Fendrel can read: neither your desktop&apos;s nor a folder of iCalendar files.</source>
+        <translation>Es gibt keinen Kalender, den Fendrel lesen kann: weder den deines Desktops noch einen Ordner mit iCalendar-Dateien.</translation>
+    </message>
+    <message>
+        <source>The command installs a calendar program that shares its calendars.</source>
+        <translation>Der Befehl installiert ein Kalenderprogramm, das seine Kalender teilt.</translation>
     </message>
 </context>
 <context>
@@ -4791,6 +5193,18 @@ Deine Dock-Einstellungen werden gesichert. %2 kommt zurück, wenn du dies aussch
     <message>
         <source>Is being asked for what is new</source>
         <translation>Wird gerade aktualisiert</translation>
+    </message>
+    <message>
+        <source>Opens the permissions in the settings</source>
+        <translation>Öffnet die Berechtigungen in den Einstellungen</translation>
+    </message>
+    <message>
+        <source>Asks you for leave to read it</source>
+        <translation>Bittet dich um die Erlaubnis zum Lesen</translation>
+    </message>
+    <message>
+        <source>Adds a reminder</source>
+        <translation>Fügt eine Erinnerung hinzu</translation>
     </message>
 </context>
 <context>

@@ -83,6 +83,37 @@
             <numerusform>errors</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n reply(ies)</source>
+        <translation>
+            <numerusform>%n reply</numerusform>
+            <numerusform>%n replies</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Context</name>
+    <message numerus="yes">
+        <source>%n application(s)</source>
+        <translation>
+            <numerusform>%n application</numerusform>
+            <numerusform>%n applications</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n document</numerusform>
+            <numerusform>%n documents</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModePill</name>
@@ -159,6 +190,26 @@
         <translation>
             <numerusform>%n of them is on the list already.</numerusform>
             <numerusform>%n of them are on the list already.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::ModeSuggestions</name>
+    <message numerus="yes">
+        <source>%1 starts in %n min.</source>
+        <translation>
+            <numerusform>%1 starts in %n min.</numerusform>
+            <numerusform>%1 starts in %n min.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fendrel::NoticeController</name>
+    <message numerus="yes">
+        <source>Couldn&apos;t find %n document(s) any more.</source>
+        <translation>
+            <numerusform>Couldn&apos;t find %n document any more.</numerusform>
+            <numerusform>Couldn&apos;t find %n documents any more.</numerusform>
         </translation>
     </message>
 </context>

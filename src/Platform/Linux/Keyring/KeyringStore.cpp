@@ -1,9 +1,7 @@
 #include "Platform/Linux/Keyring/KeyringStore.h"
 
-#include <QCoreApplication>
-#include <QMetaObject>
+#include "Base/OnWorker.h"
 
-#include <memory>
 #include <utility>
 
 namespace fendrel {
@@ -18,17 +16,7 @@ template<class Answer>
 Handle KeyringStore::post(std::function<Answer()> work, std::function<void(const Answer&)> done) {
     if (!m_worker)
         m_worker.emplace(u"keyring"_s);
-    const auto isWanted = std::make_shared<bool>(true); // read and written on the main thread alone
-    m_worker->post({}, [isWanted, work = std::move(work), done = std::move(done)]() mutable {
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [isWanted, done = std::move(done), answer = work()] {
-                if (*isWanted)
-                    done(answer);
-            },
-            Qt::QueuedConnection);
-    });
-    return Handle([isWanted] { *isWanted = false; });
+    return onWorker(*m_worker, std::move(work), std::move(done));
 }
 
 Handle KeyringStore::read(const Item& item, std::function<void(const Secret&)> done) {

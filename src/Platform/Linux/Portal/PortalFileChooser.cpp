@@ -72,6 +72,8 @@ QVariantMap optionsFor(const FileQuestion& question) {
     }
     if (!filters.isEmpty())
         options.insert(u"filters"_s, QVariant::fromValue(filters));
+    if (question.isForFolder)
+        options.insert(u"directory"_s, true);
     if (!question.suggestedName.isEmpty())
         options.insert(u"current_name"_s, question.suggestedName);
     if (!question.folder.isEmpty())

@@ -45,6 +45,12 @@ QString X11Applications::fileManager() const {
     return entry == nullptr ? QString() : catalog.identifier(*entry);
 }
 
+bool X11Applications::isBrowser(const QString& bundleID) const {
+    const auto* entry = m_groups->catalog().entry(bundleID);
+    return entry != nullptr && (entry->mimeTypes.contains(u"x-scheme-handler/https"_s) ||
+                                entry->mimeTypes.contains(u"x-scheme-handler/http"_s));
+}
+
 NativeApps X11Applications::nativeApps() const {
     return nativeAppTable();
 }

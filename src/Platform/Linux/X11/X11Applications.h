@@ -27,6 +27,7 @@ public:
     std::optional<QString> location(const QString& bundleID) const override;
     AppIcon icon(const QString& bundleID) const override;
     QString fileManager() const override;
+    bool isBrowser(const QString& bundleID) const override;
     NativeApps nativeApps() const override;
     QList<AppAction> actions(const QString& bundleID) const override;
     std::optional<QString> applicationAt(const QUrl& file) const override;
