@@ -11,6 +11,17 @@
 
 namespace fendrel {
 
+namespace {
+
+/// What a browser shows behind the window that its user looks at is not seen.
+std::optional<ModeSnapshot::Page> seen(const BrowserTab& tab) {
+    if (!tab.isFocused || tab.isPrivate)
+        return {};
+    return ModeSnapshot::Page{.url = tab.url.toString(QUrl::FullyEncoded), .title = tab.title};
+}
+
+} // namespace
+
 EventRouter::EventRouter(WindowTitles& titles, Classifier& classifier, DriftHandling& drift,
                          ModeSuggestions& suggestions, ModeContext& context)
     : m_titles(titles), m_classifier(classifier), m_drift(drift), m_suggestions(suggestions), m_context(context) {}
@@ -52,11 +63,16 @@ void EventRouter::judgeFrontAgain() {
         m_drift.classify(AppSubject{.bundleID = front->bundleID, .name = front->appName, .title = front->title});
 }
 
+std::optional<ModeSnapshot::Page> EventRouter::frontPage() const {
+    const auto& front = m_titles.front();
+    const auto tab = front ? m_drift.sites().activeTab(front->pid) : std::nullopt;
+    return tab ? seen(*tab) : std::nullopt;
+}
+
 void EventRouter::tabDidChange(const BrowserTab& tab) {
     if (isOnboardingDone()) {
-        // What a browser shows behind the window that its user looks at is not seen.
-        if (tab.isFocused && !tab.isPrivate)
-            m_context.saw({.url = tab.url.toString(QUrl::FullyEncoded), .title = tab.title});
+        if (const auto page = seen(tab))
+            m_context.saw(*page);
         m_drift.judge(tab);
     } else {
         m_drift.sites().remember(tab);

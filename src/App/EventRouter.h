@@ -2,6 +2,7 @@
 
 #include "Focus/BrowserTab.h"
 #include "Focus/WindowTitles.h"
+#include "Modes/ModeSnapshot.h"
 
 #include <functional>
 #include <optional>
@@ -31,6 +32,8 @@ public:
     void pageAskedFor(TabKey tab);
     /// Judges what is in front once more, when what it is judged by has changed.
     void judgeFrontAgain();
+    /// The page that the user looks at, unless nothing of it may be kept.
+    std::optional<ModeSnapshot::Page> frontPage() const;
 
 private:
     WindowTitles& m_titles;

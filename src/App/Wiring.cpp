@@ -97,7 +97,7 @@ void AppController::wire() {
     m_suggestions.calls = [this] {
         QList<ModeSuggestions::Call> calls;
         for (const auto& event : m_widgets.calendar().upcoming())
-            if (event.joinURL)
+            if (event.joinURL && !event.isAllDay)
                 calls.append({.title = event.title, .start = event.start, .host = event.joinURL->host().toLower()});
         return calls;
     };
@@ -113,11 +113,9 @@ void AppController::wire() {
     connect(this, &AppController::onboardingChanged, &m_suggestions, &ModeSuggestions::update);
     m_suggestions.displayName = [this](const QString& bundleID) { return m_workspace.displayName(bundleID); };
     connect(&m_engine, &ModeEngine::changed, &m_context, &ModeContext::modesEdited);
-    m_context.onOpenPages = [this](const QStringList& urls) {
-        if (!m_bridge.open(urls))
-            for (const QString& url : urls)
-                m_platform.shell->openAddress(QUrl(url));
-    };
+    m_context.openPages = [this](const QStringList& urls) { return m_bridge.open(urls); };
+    m_context.openAddress = [this](const QUrl& address) { m_platform.shell->openAddress(address); };
+    m_context.frontPage = [this] { return m_router.frontPage(); };
     m_focus.onChange = [this](bool isOn) { focusDidChange(isOn); };
     m_budget.current = [this] { return std::optional(m_engine.current()); };
     m_budget.spending = [this] { return spendingMode(); };

@@ -93,8 +93,7 @@ Answer forgetContext(AppController& controller, const Request& request) {
     if (request.options.contains(u"all"_s) != modeID.isEmpty())
         return Answer::failure(u"usage: "_s + usage(*command(request.command)));
     if (modeID.isEmpty()) {
-        for (const Mode& mode : controller.engine().modes())
-            controller.context().forget(mode.id);
+        controller.context().forgetAll();
         return QJsonValue();
     }
     if (!controller.engine().mode(modeID))

@@ -3,14 +3,13 @@
 #include "App/Workspace.h"
 #include "Base/JsonFile.h"
 #include "Base/Log.h"
-#include "Base/OnWorker.h"
+#include "Base/Worker.h"
 #include "Modes/ModeEngine.h"
 #include "Modes/NoteQuestion.h"
 #include "Modes/SiteName.h"
 #include "Ports/Documents.h"
 
-#include <QFileInfo>
-
+#include <algorithm>
 #include <utility>
 
 namespace fendrel {
@@ -21,6 +20,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto worthSaving = 120s;
+constexpr auto settled = 20s;
+constexpr auto patience = 3s;
 constexpr auto stays = 30s;
 constexpr auto staysAfterHover = 4s;
 constexpr qsizetype mostTitles = 100;
@@ -70,6 +71,11 @@ void ModeContext::modeChanged(const Mode& newMode) {
     m_modeID = newMode.id;
     m_enteredAt = now;
     m_pages.clear();
+    // Nobody tells again of a page that stays in front. One that is soon left was of the mode before.
+    m_settling = m_clock.after(settled, [this] {
+        if (const auto page = frontPage())
+            saw(*page);
+    });
     offerBack(newMode);
 }
 
@@ -159,40 +165,60 @@ bool ModeContext::restore(const QString& modeID) {
         return false;
     const Snapshot snapshot = fitting(m_snapshots[modeID], *mode, m_engine);
     dismiss();
-    QStringList pages;
-    for (const Page& page : snapshot.pages)
-        pages.append(page.url);
-    if (!pages.isEmpty())
-        onOpenPages(pages);
+    QStringList apps = snapshot.apps;
+    if (!snapshot.pages.isEmpty())
+        openAgain(snapshot.pages, apps);
     QList<DocumentOwner> owners;
     for (const Document& document : snapshot.documents) {
         if (m_workspace.running().contains(document.bundleID))
             owners.append(ownerOf(document.bundleID));
     }
-    m_restoring = m_documents.find(owners, [this, snapshot](const QList<OpenDocument>& found) {
-        QList<Document> wanted = snapshot.documents;
+    m_restoring = m_documents.find(owners, [this, apps, documents = snapshot.documents](const auto& found) {
+        QList<Document> wanted = documents;
         wanted.removeIf([&](const Document& document) {
             return found.contains({.bundleID = document.bundleID, .file = QUrl(document.url)});
         });
-        m_restoring = onWorker<QList<Document>>(
-            m_disk,
-            [wanted] {
-                QList<Document> gone = wanted;
-                gone.removeIf([](const Document& each) { return QFileInfo::exists(QUrl(each.url).toLocalFile()); });
-                return gone;
-            },
-            [this, apps = snapshot.apps, wanted](const auto& gone) { open(apps, wanted, gone); });
+        QList<QUrl> files;
+        for (const Document& document : wanted)
+            files.append(QUrl(document.url));
+        m_restoring = m_documents.findGone(files, [this, apps, wanted](const QList<QUrl>& gone) {
+            m_patience.reset();
+            open(apps, wanted, gone);
+        });
+    });
+    // A folder in the network that doesn't answer keeps nothing else away.
+    m_patience = m_clock.after(patience, [this, apps, documents = snapshot.documents] {
+        m_restoring.reset();
+        open(apps, documents, {});
     });
     return true;
 }
 
+/// Where no browser can be told of the pages, the one that the mode had opens them as it starts, and leaves `apps`.
+void ModeContext::openAgain(const QList<Page>& pages, QStringList& apps) {
+    QStringList urls;
+    for (const Page& page : pages)
+        urls.append(page.url);
+    if (openPages(urls))
+        return;
+    const QList<QUrl> addresses = QUrl::fromStringList(urls);
+    const auto browser = std::ranges::find_if(apps, [this](const QString& app) { return m_workspace.isBrowser(app); });
+    if (browser == apps.end()) {
+        std::ranges::for_each(addresses, openAddress);
+        return;
+    }
+    m_workspace.openFiles(*browser, addresses);
+    apps.erase(browser);
+}
+
 /// The applications, with their documents where those are still there.
-void ModeContext::open(const QStringList& apps, const QList<Document>& documents, const QList<Document>& gone) {
+void ModeContext::open(const QStringList& apps, const QList<Document>& documents, const QList<QUrl>& gone) {
     for (const QString& app : apps) {
         QList<QUrl> files;
         for (const Document& document : documents) {
-            if (document.bundleID == app && !gone.contains(document))
-                files.append(QUrl(document.url));
+            const QUrl file(document.url);
+            if (document.bundleID == app && !gone.contains(file))
+                files.append(file);
         }
         if (!files.isEmpty())
             m_workspace.openFiles(app, files);
@@ -201,8 +227,8 @@ void ModeContext::open(const QStringList& apps, const QList<Document>& documents
     }
     if (gone.isEmpty())
         return;
-    for (const Document& document : gone)
-        m_missing.append(QUrl(document.url).fileName());
+    for (const QUrl& file : gone)
+        m_missing.append(file.fileName());
     scheduleHide(stays);
     Q_EMIT changed();
 }
@@ -229,6 +255,16 @@ bool ModeContext::forget(const QString& modeID) {
         dismiss();
     tell();
     return true;
+}
+
+void ModeContext::forgetAll() {
+    m_pages.clear();
+    m_ofGoneModes.clear();
+    m_findings.clear();
+    m_notes.clear();
+    m_snapshots.clear();
+    dismiss();
+    tell();
 }
 
 void ModeContext::setHovered(bool isHovered) {

@@ -37,7 +37,11 @@ public:
     ModeContext(ModeEngine& engine, Workspace& workspace, Documents& documents, LanguageModel& model, Clock& clock,
                 Worker& disk, const QString& folder);
 
-    std::function<void(const QStringList& urls)> onOpenPages = [](const QStringList&) {};
+    /// Hands pages to a browser that can be told of them; false when there is none.
+    std::function<bool(const QStringList& urls)> openPages = [](const QStringList&) { return false; };
+    std::function<void(const QUrl& address)> openAddress = [](const QUrl&) {}; ///< in the user's usual browser
+    /// What the user looks at, where that is a page and may be kept.
+    std::function<std::optional<Page>()> frontPage = [] { return std::optional<Page>(); };
 
     const ModeSnapshots& snapshots() const { return m_snapshots; } ///< of the modes that there are
     const std::optional<Offer>& offer() const { return m_offer; }
@@ -51,6 +55,7 @@ public:
     bool restore(const QString& modeID);   ///< whether there is something
     void dismiss();
     bool forget(const QString& modeID); ///< whether there was something
+    void forgetAll();                   ///< of modes that are gone, too
     void setHovered(bool isHovered);    ///< the pointer is on the offer: it stays
 
 Q_SIGNALS:
@@ -61,7 +66,8 @@ private:
     DocumentOwner ownerOf(const QString& bundleID) const;
     void writeNote(const Snapshot& snapshot);
     void offerBack(const Mode& mode);
-    void open(const QStringList& apps, const QList<Document>& documents, const QList<Document>& gone);
+    void openAgain(const QList<Page>& pages, QStringList& apps);
+    void open(const QStringList& apps, const QList<Document>& documents, const QList<QUrl>& gone);
     bool sortByModes();
     void tell();
     void scheduleHide(Clock::Duration after);
@@ -78,9 +84,11 @@ private:
     QString m_modeID;
     ContinuousTime m_enteredAt;
     QList<Page> m_pages;                  ///< seen since then
+    Handle m_settling;                    ///< in the mode that was entered
     std::map<QString, Handle> m_findings; ///< of documents, by mode
     std::map<QString, Handle> m_notes;    ///< by mode
     Handle m_restoring;
+    Handle m_patience; ///< with what that waits for
     std::optional<Offer> m_offer;
     QStringList m_missing;
     bool m_isHovered = false;

@@ -72,6 +72,19 @@ void ModeSuggestions::settle() {
         dismiss();
     } else if (!isElsewhere(m_suggestion->mode.id)) {
         dismiss();
+    } else if (m_suggestion->call) {
+        settleCall();
+    }
+}
+
+/// The call that is shown may have been moved or called off, and comes nearer.
+void ModeSuggestions::settleCall() {
+    if (!calls().contains(*m_suggestion->call)) {
+        m_made.remove({m_suggestion->mode.id, {}});
+        dismiss();
+    } else if (const QString now = because(*m_suggestion->call); m_suggestion->because != now) {
+        m_suggestion->because = now;
+        Q_EMIT changed();
     }
 }
 
@@ -89,13 +102,15 @@ void ModeSuggestions::offerCall() {
         known, [now](const Call& each) { return each.start - now <= callAhead && now - each.start <= callBehind; });
     if (call == known.end())
         return;
-    const auto ahead = call->start - now;
-    const auto minutes = std::chrono::ceil<std::chrono::minutes>(ahead).count();
-    const QString title = call->title.simplified().isEmpty() ? tr("A call") : call->title.simplified();
-    const QString because = minutes < 1 ? tr("%1 has started.").arg(title)
-                                        : tr("%1 starts in %n min.", nullptr, static_cast<int>(minutes)).arg(title);
-    offer({.mode = *mode, .because = because, .icon = callApp(call->host)},
-          std::max<Clock::Duration>(ahead + callBehind, stays));
+    offer({.mode = *mode, .because = because(*call), .icon = callApp(call->host), .call = *call},
+          std::max<Clock::Duration>(call->start - now + callBehind, stays));
+}
+
+QString ModeSuggestions::because(const Call& call) const {
+    const auto minutes = std::chrono::ceil<std::chrono::minutes>(call.start - m_clock.now()).count();
+    const QString title = call.title.simplified().isEmpty() ? tr("A call") : call.title.simplified();
+    return minutes < 1 ? tr("%1 has started.").arg(title)
+                       : tr("%1 starts in %n min.", nullptr, static_cast<int>(minutes)).arg(title);
 }
 
 void ModeSuggestions::offerFront() {
@@ -162,13 +177,15 @@ void ModeSuggestions::schedule() {
     m_check.reset();
     if (!mayPropose())
         return;
-    auto wait = untilCall();
-    if (const auto front = untilFront(); front && (!wait || *front < *wait))
-        wait = front;
+    const auto earlier = [](std::optional<Clock::Duration> one, std::optional<Clock::Duration> other) {
+        return one && other ? std::min(one, other) : std::max(one, other);
+    };
+    auto wait = earlier(untilCall(), untilFront());
+    if (wait && isIdle())
+        wait = std::max<Clock::Duration>(*wait, idlePace);
+    wait = earlier(wait, untilMinute());
     if (!wait)
         return;
-    if (isIdle())
-        wait = std::max<Clock::Duration>(*wait, idlePace);
     m_check = m_clock.after(*wait, [this] { update(); });
 }
 
@@ -201,7 +218,7 @@ Clock::Duration ModeSuggestions::coolingDown(const QString& modeID, const QStrin
 /// 0: it is time to propose the mode of what is in front.
 std::optional<Clock::Duration> ModeSuggestions::untilFront() const {
     const Mode* mode = frontMode();
-    const bool isCallShown = m_suggestion && m_suggestion->bundleID.isEmpty(); // and would not come back
+    const bool isCallShown = m_suggestion && m_suggestion->call; // and would not come back
     if (!mode || isCallShown)
         return {};
     const Clock::Duration wait = m_since + inFront - m_clock.continuousNow();
@@ -219,6 +236,14 @@ std::optional<Clock::Duration> ModeSuggestions::untilCall() const {
             wait = std::min<Clock::Duration>(wait, until);
     }
     return std::max({wait, coolingDown(meeting, {}), Clock::Duration::zero()});
+}
+
+/// What is said of the call that is shown is no longer true then.
+std::optional<Clock::Duration> ModeSuggestions::untilMinute() const {
+    if (!m_suggestion || !m_suggestion->call || m_suggestion->call->start <= m_clock.now())
+        return {};
+    const auto ahead = m_suggestion->call->start - m_clock.now();
+    return ahead - (std::chrono::ceil<std::chrono::minutes>(ahead) - 1min);
 }
 
 } // namespace fendrel

@@ -25,12 +25,14 @@ public:
         QString title{};
         WallTime start{};
         QString host{}; ///< of its link, in lower case
+        bool operator==(const Call&) const = default;
     };
     struct Suggestion {
         Mode mode{};
         QString because{};  ///< for the user
         QString bundleID{}; ///< of the application that it is about; empty for a call
         QString icon{};     ///< bundle identifier of the application to show with it; may be empty
+        std::optional<Call> call{};
         WallTime madeAt{};
         bool operator==(const Suggestion&) const = default;
     };
@@ -65,6 +67,8 @@ Q_SIGNALS:
 
 private:
     void settle();
+    void settleCall();
+    QString because(const Call& call) const;
     void offerCall();
     void offerFront();
     void offer(const Suggestion& suggestion, Clock::Duration stay);
@@ -78,6 +82,7 @@ private:
     Clock::Duration coolingDown(const QString& modeID, const QString& bundleID) const;
     std::optional<Clock::Duration> untilFront() const;
     std::optional<Clock::Duration> untilCall() const;
+    std::optional<Clock::Duration> untilMinute() const;
 
     ModeEngine& m_engine;
     IdleTime& m_idleTime;

@@ -20,10 +20,10 @@ struct InstalledApp {
 
 struct RunningApp {
     qint64 pid{};
-    QString bundleID{};   ///< empty when the system cannot name the application
-    QString name{};       ///< empty when the system knows none
-    bool isRegular{};     ///< shows in a dock, as opposed to panels, desktops and background helpers
-    qint64 launchOrder{}; ///< grows with the launch date; its unit is the adapter's own
+    QString bundleID{};    ///< empty when the system cannot name the application
+    QString name{};        ///< empty when the system knows none
+    bool isRegular{};      ///< shows in a dock, as opposed to panels, desktops and background helpers
+    qint64 launchOrder{};  ///< grows with the launch date; its unit is the adapter's own
     bool wantsAttention{}; ///< one of its windows asks for the user
     bool operator==(const RunningApp&) const = default;
 };
@@ -59,7 +59,7 @@ public:
     /// The bundle's or desktop entry's path; nothing when the system does not know the application.
     virtual std::optional<QString> location(const QString& bundleID) const = 0;
     virtual AppIcon icon(const QString& bundleID) const = 0;
-    virtual QString fileManager() const = 0; ///< bundle identifier; empty when there is none
+    virtual QString fileManager() const = 0;                   ///< bundle identifier; empty when there is none
     virtual bool isBrowser(const QString& bundleID) const = 0; ///< whether it opens pages of the web
     virtual NativeApps nativeApps() const = 0;
     virtual QList<AppAction> actions(const QString& bundleID) const = 0; ///< in the application's order
@@ -69,7 +69,7 @@ public:
     /// Starts the application, or brings the running one forward. Without `activates` it stays behind.
     virtual void open(const QString& bundleID, bool activates) = 0;
     virtual void openWindow(const QString& bundleID) = 0; ///< one more, in the way that the application has for it
-    virtual void openFiles(const QString& bundleID, const QList<QUrl>& files) = 0; ///< with this application
+    virtual void openFiles(const QString& bundleID, const QList<QUrl>& files) = 0; ///< or just it, if it takes none
     virtual void runAction(const QString& bundleID, const QString& actionID) = 0;
     virtual void activate(qint64 pid) = 0;
     virtual void hide(qint64 pid) = 0;

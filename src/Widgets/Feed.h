@@ -7,8 +7,8 @@
 
 namespace fendrel {
 
-/// When a feed asks its service in the network: at once when its widget shows, then again and again, never while it does not show, and
-/// never without a network. What it got, and how it asks, is its own. Main thread.
+/// When a feed asks its service in the network: at once when its widget shows, then again and again, never while it
+/// does not show, and never without a network. What it got, and how it asks, is its own. Main thread.
 class Feed : public WidgetFeed {
     Q_OBJECT
 public:

@@ -20,7 +20,7 @@ public:
     virtual void refresh(bool force) = 0;
 
     virtual bool isLoading() const = 0;
-    virtual QString error() const { return {}; } ///< for the user; empty: the last look went well
+    virtual QString error() const { return {}; }           ///< for the user; empty: the last look went well
     virtual std::optional<WallTime> updatedAt() const = 0; ///< of what it has
 
 Q_SIGNALS:

@@ -149,10 +149,23 @@ private Q_SLOTS:
         world.bringCall(310s);
         world.clock.advance(10s);
         QCOMPARE(world.shown(), u"meeting: Standup starts in 5 min."_s);
-        world.clock.advance(300s + 120s - 1ms);
-        QCOMPARE(world.shown(), u"meeting: Standup starts in 5 min."_s);
+        world.clock.advance(1min);
+        QCOMPARE(world.shown(), u"meeting: Standup starts in 4 min."_s);
+        world.clock.advance(4min);
+        QCOMPARE(world.shown(), u"meeting: Standup has started."_s);
+        world.clock.advance(120s - 1ms);
+        QCOMPARE(world.shown(), u"meeting: Standup has started."_s);
         world.clock.advance(1ms);
         QCOMPARE(world.shown(), u"social: You opened CHAT."_s); // which would have been due all the time
+    }
+
+    void aCallThatIsMovedOrCalledOff() {
+        World world;
+        world.bringCall(60s);
+        world.bringCall(250s);
+        QCOMPARE(world.shown(), u"meeting: Standup starts in 5 min."_s);
+        world.bringCall(1h);
+        QCOMPARE(world.shown(), QString());
     }
 
     void noCallIsProposedWhereItIsTaken() {
@@ -173,14 +186,8 @@ private Q_SLOTS:
     }
 
     void knowsTheApplicationOfACall() {
-        const std::pair<const char*, const char*> hosts[] = {{"zoom.us", "us.zoom.xos"},
-                                                             {"acme.zoom.us", "us.zoom.xos"},
-                                                             {"notzoom.us", ""},
-                                                             {"teams.live.com", "com.microsoft.teams2"},
-                                                             {"teams.microsoft.com", "com.microsoft.teams2"},
-                                                             {"microsoft.com", ""},
-                                                             {"acme.webex.com", "Cisco-Systems.Spark"},
-                                                             {"facetime.apple.com", "com.apple.FaceTime"}};
+        const std::pair<const char*, const char*> hosts[] = {
+            {"zoom.us", "us.zoom.xos"}, {"acme.zoom.us", "us.zoom.xos"}, {"notzoom.us", ""}};
         for (const auto& [host, app] : hosts)
             QCOMPARE(ModeSuggestions::callApp(QString::fromLatin1(host)), QString::fromLatin1(app));
     }
@@ -226,9 +233,6 @@ private Q_SLOTS:
         QCOMPARE(timers(), 0);
         world.suggestions->frontChanged(u"chat"_s);
         QCOMPARE(timers(), 1);
-        world.suggestions->frontChanged(u"notes"_s);
-        QCOMPARE(timers(), 0);
-        world.suggestions->frontChanged(u"chat"_s);
         world.mayPropose = false;
         world.suggestions->update();
         QCOMPARE(timers(), 0);

@@ -59,6 +59,30 @@ QQuickItem* named(const QString& name, QQuickItem* from) {
     return nullptr;
 }
 
+/// A card alone in a window.
+struct CardView : QQuickView {
+    CardView(const CardContent& content, const QString& size, bool isVertical) {
+        engine()->addImportPath(u"qrc:/qml"_s);
+        engine()->addImageProvider(u"symbol"_s, new SymbolImages);
+        QQmlComponent component(engine());
+        component.setData("import QtQuick; import Fendrel.Style; import Fendrel.Widgets\n"
+                          "WidgetCard { colors: Colors { isDark: false } }",
+                          {});
+        QObject* card = component.createWithInitialProperties({{u"content"_s, QVariant::fromValue(content)},
+                                                               {u"title"_s, u"Card"_s},
+                                                               {u"shortTitle"_s, u"Card"_s},
+                                                               {u"symbol"_s, u"checklist"_s},
+                                                               {u"accent"_s, QColor(Qt::blue)},
+                                                               {u"size"_s, size},
+                                                               {u"isVertical"_s, isVertical},
+                                                               {u"extent"_s, 76}});
+        if (!card)
+            qFatal("%s", qPrintable(component.errorString()));
+        setContent({}, &component, card);
+        show();
+    }
+};
+
 } // namespace
 
 /// What cards say is true, and can be read.
@@ -290,8 +314,9 @@ private Q_SLOTS:
         describe(card, samples::usage(), u"~/logs"_s, samples::at(15)); // two of five hours are gone
         QCOMPARE(card.headline, u"1.2M"_s);
         QCOMPARE(card.gauge, 0.4);
-        QCOMPARE(card.gaugeText, u"340K until "_s + card::clock(samples::at(18)));
+        QCOMPARE(card.gaugeText, u"340K tokens until "_s + card::clock(samples::at(18)));
         QCOMPARE(card.gaugeNote, u"170K an hour"_s);
+        QCOMPARE(card.gaugeParts.join(u' '), u"340K 170K/h → "_s + card::shortClock(samples::at(18)));
         QCOMPARE(row(card, 0).title, u"Opus 4.1"_s); // the most used first
         QCOMPARE(row(card, 2).title, u"Haiku 3.5"_s);
 
@@ -319,7 +344,7 @@ private Q_SLOTS:
         const auto events = samples::events();
         add("a call", made(events, std::optional(events.first()), samples::at(15)),
             u"Join Design review of the new dock"_s, "rowPressed(QUrl)");
-        add("a tick", made(samples::reminders(), samples::at(15)), u"Water the plants"_s, "ticked(QString,bool)");
+        add("a tick", made(samples::reminders(), samples::at(15)), u"Water the plants"_s, "toggled(QString,bool)");
         add("a new one", made(samples::reminders(), samples::at(15)), u"Add a reminder"_s, "additionAsked()");
     }
     void whatIsInACardCanBePressed() {
@@ -329,26 +354,9 @@ private Q_SLOTS:
         QTest::failOnWarning(QRegularExpression(u"qrc:"_s));
         for (const QString& size : {u"medium"_s, u"large"_s}) {
             for (const bool isVertical : {false, true}) {
-                QQuickView view;
-                view.engine()->addImportPath(u"qrc:/qml"_s);
-                view.engine()->addImageProvider(u"symbol"_s, new SymbolImages);
-                QQmlComponent component(view.engine());
-                component.setData("import QtQuick; import Fendrel.Style; import Fendrel.Widgets\n"
-                                  "WidgetCard { colors: Colors { isDark: false } }",
-                                  {});
-                auto* card = qobject_cast<QQuickItem*>(
-                    component.createWithInitialProperties({{u"content"_s, QVariant::fromValue(content)},
-                                                           {u"title"_s, u"Card"_s},
-                                                           {u"shortTitle"_s, u"Card"_s},
-                                                           {u"symbol"_s, u"checklist"_s},
-                                                           {u"accent"_s, QColor(Qt::blue)},
-                                                           {u"size"_s, size},
-                                                           {u"isVertical"_s, isVertical},
-                                                           {u"extent"_s, 76}}));
-                QVERIFY2(card, qPrintable(component.errorString()));
-                view.setContent({}, &component, card);
-                view.show();
+                CardView view(content, size, isVertical);
                 QVERIFY(QTest::qWaitForWindowExposed(&view));
+                QQuickItem* card = view.rootObject();
                 QQuickItem* button = named(name, card);
                 QVERIFY2(button, qPrintable(size));
                 const QSignalSpy pressed(card, ('2' + signal).constData());
@@ -357,6 +365,39 @@ private Q_SLOTS:
                 QCOMPARE(pressed.count(), 1);
             }
         }
+    }
+
+    void aPressOnACircleTicksItsOwnLine() {
+        CardContent content{.state = State::ready};
+        describe(content, samples::reminders(), samples::at(15));
+        CardView view(content, u"large"_s, false);
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        for (int line = 0; line < 3; ++line) {
+            const QQuickItem* circle = named(row(content, line).title, view.rootObject());
+            QVERIFY(circle);
+            const QRectF area = circle->mapRectToScene(circle->boundingRect());
+            for (const qreal y : {area.top() + 1, area.bottom() - 1}) {
+                const QSignalSpy pressed(view.rootObject(), SIGNAL(toggled(QString, bool)));
+                QTest::mouseClick(&view, Qt::LeftButton, {}, QPointF(area.center().x(), y).toPoint());
+                QCOMPARE(pressed.value(0).value(0).toString(), row(content, line).id);
+            }
+        }
+    }
+
+    void whatIsTickedStaysSoInAnotherPlace() {
+        CardContent content{.state = State::ready};
+        describe(content, samples::reminders(), samples::at(15));
+        CardView view(content, u"large"_s, false);
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        view.rootObject()->setProperty("ticked", QStringList{row(content, 0).id, row(content, 1).id});
+        const CardRow next = row(content, 1);
+        describe(content = {.state = State::ready}, samples::reminders().mid(1), samples::at(15));
+        view.rootObject()->setProperty("content", QVariant::fromValue(content));
+        const auto isTicked = [&view](const QString& title) {
+            return QAccessible::queryAccessibleInterface(named(title, view.rootObject()))->state().checked;
+        };
+        QVERIFY(isTicked(next.title));
+        QVERIFY(!isTicked(row(content, 1).title));
     }
 
     void cardsCanBeRead() {

@@ -83,6 +83,20 @@ private Q_SLOTS:
         world.fake.clock->advance(5min);
         QCOMPARE(world.kinds(), QString());
     }
+
+    void nothingTakesThePlaceUnderThePointer() {
+        World world;
+        world.run(World::notes);
+        world.fake.clock->advance(3min);
+        world.comeBack();
+        world.notices.setHovered(u"offer"_s, true);
+        world.stray();
+        QCOMPARE(world.kinds(), u"offer suggestion"_s); // its button stays what it is
+        world.notices.setHovered(u"offer"_s, false);
+        QCOMPARE(world.kinds(), u"suggestion offer"_s);
+        world.fake.clock->advance(5min);
+        QCOMPARE(world.kinds(), QString());
+    }
 };
 
 QTEST_GUILESS_MAIN(NoticesTest)

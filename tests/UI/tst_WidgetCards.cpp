@@ -190,8 +190,10 @@ private Q_SLOTS:
         world.actions.tick(u"2"_s, true);
         world.actions.tick(u"1"_s, false);
         QCOMPARE(titles(), u"Milk, Bread"_s);
+        QCOMPARE(world.actions.ticked(), QStringList{u"2"_s});
         world.fake.clock->advance(5s);
         QCOMPARE(titles(), u"Milk"_s);
+        QCOMPARE(world.actions.ticked(), QStringList());
         QCOMPARE(world.cards.content(u"reminders"_s)->headline, u"1"_s);
         world.actions.addReminder(u"  Call\nGrace "_s);
         QCOMPARE(titles(), u"Milk, Call Grace"_s);

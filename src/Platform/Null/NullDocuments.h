@@ -12,6 +12,9 @@ public:
     Handle find(const QList<DocumentOwner>&, Found done) override {
         return atNextTurn([done = std::move(done)] { done({}); });
     }
+    Handle findGone(const QList<QUrl>&, Gone done) override {
+        return atNextTurn([done = std::move(done)] { done({}); });
+    }
 };
 
 } // namespace fendrel

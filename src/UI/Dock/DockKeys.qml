@@ -26,7 +26,7 @@ QtObject {
             }
         } else if (event.matches(StandardKey.Undo)) {
             dock.notices.accept("undo")
-        } else if (event.key === Qt.Key_Return && event.modifiers === Qt.ControlModifier) {
+        } else if ([Qt.Key_Return, Qt.Key_Enter].includes(event.key) && (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier) {
             dock.notices.accept(dock.notices.current.kind)
         } else if (event.key === Qt.Key_Backspace && event.modifiers === Qt.ControlModifier) {
             dock.notices.refuse(dock.notices.current.kind)

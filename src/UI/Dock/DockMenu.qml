@@ -195,7 +195,7 @@ PopupWindow {
                         readonly property int symbolSize: Math.round(17 * Math.max(1, Theme.textScale))
                         readonly property int markSize: Math.round(15 * Math.max(1, Theme.textScale))
                         readonly property int start: hasSymbols && !modelData.header ? symbolSize + 19 : 10
-                        readonly property real hintRoom: hint.text === "" ? 0 : hint.implicitWidth + 22
+                        readonly property real hintRoom: hint.text === "" ? 0 : hint.width + 22
                         implicitWidth: start + Math.min(label.implicitWidth, 300 * Theme.textScale) + hintRoom + (hasMark ? markSize + 29 : 20)
                         implicitHeight: modelData.separator ? 9 : label.implicitHeight + (modelData.header ? 12 : 16)
 
@@ -248,6 +248,7 @@ PopupWindow {
                             colors: menu.colors
                             color: menu.colors.secondaryText
                             text: entry.modelData.hint ?? ""
+                            width: Math.min(Math.ceil(implicitWidth), 200 * Theme.textScale)
                             Accessible.ignored: true
                         }
                         Symbol {

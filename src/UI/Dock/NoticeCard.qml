@@ -19,9 +19,9 @@ BesideWindow {
     onCurrentChanged: {
         if (current.kind === "none")
             return
-        if (hover.hovered && current.kind !== shown.kind)
-            notices.setHovered(current.kind, true)
         shown = current
+        if (hover.hovered)
+            notices.setHovered(shown.kind, true)
     }
 
     readonly property int margin: isTransparent ? 22 : 0

@@ -4,6 +4,8 @@
 #include "UI/Images/AppIcons.h"
 #include "UI/Modes/ContextText.h"
 
+#include <algorithm>
+
 namespace fendrel {
 
 using Kind = Notice::Kind;
@@ -102,12 +104,21 @@ void NoticeController::refuse(const QString& kind) {
 }
 
 void NoticeController::setHovered(const QString& kind, bool isHovered) {
-    const auto wanted = enumValue<Kind>(kind);
-    if (wanted == Kind::undo)
+    const Kind wanted = enumValue<Kind>(kind).value_or(Kind::none);
+    if ((wanted == m_hovered) == isHovered)
+        return;
+    tellHovered(false);
+    m_hovered = isHovered ? wanted : Kind::none;
+    tellHovered(true);
+    update();
+}
+
+void NoticeController::tellHovered(bool isHovered) {
+    if (m_hovered == Kind::undo)
         m_controller.undo().setHovered(isHovered);
-    else if (wanted == Kind::suggestion)
+    else if (m_hovered == Kind::suggestion)
         m_controller.suggestions().setHovered(isHovered);
-    else if (wanted == Kind::offer || wanted == Kind::missing)
+    else if (m_hovered == Kind::offer || m_hovered == Kind::missing)
         m_controller.context().setHovered(isHovered);
 }
 
@@ -124,6 +135,13 @@ void NoticeController::update() {
         notices.append(notice(*offer));
     if (const QStringList& missing = m_controller.context().missing(); !missing.isEmpty())
         notices.append(notice(missing, m_controller.engine().current()));
+    if (const auto hovered = std::ranges::find(notices, m_hovered, &Notice::kind); hovered != notices.end()) {
+        std::rotate(notices.begin(), hovered, hovered + 1);
+        tellHovered(true); // it may be another one of its kind
+    } else {
+        tellHovered(false);
+        m_hovered = Kind::none;
+    }
     if (notices == m_notices)
         return;
     m_notices = notices;

@@ -52,7 +52,8 @@ public:
     QString kindName() const { return enumName(kind); }
 };
 
-/// What there is to tell beside the dock: one thing at a time, the most fleeting first. A pointer on it makes it stay.
+/// What there is to tell beside the dock: one thing at a time, the most fleeting first. What a pointer is on stays, and
+/// nothing takes its place meanwhile.
 class NoticeController : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -76,10 +77,12 @@ Q_SIGNALS:
 
 private:
     void update();
+    void tellHovered(bool isHovered);
 
     AppController& m_controller;
     AppIcons& m_icons;
     QList<Notice> m_notices;
+    Notice::Kind m_hovered{};
 };
 
 } // namespace fendrel

@@ -140,6 +140,7 @@ Line {
                 fittingSize: section.sizes[index] ?? size
                 extent: section.extent
                 isMoving: section.isMoving
+                ticked: section.dock.widgetActions.ticked
                 share: strip.visibility(tile)
                 onIsSoughtChanged: if (isSought) strip.reveal(tile)
                 onPressed: {
@@ -150,7 +151,7 @@ Line {
                     section.panel.releaseKeyboard()
                     section.dock.widgetActions.press(widgetID)
                 }
-                onTicked: (task, on) => section.dock.widgetActions.tick(task, on)
+                onToggled: (task, on) => section.dock.widgetActions.tick(task, on)
                 onAdditionAsked: section.menus.addReminder(tile)
                 onRowPressed: address => {
                     section.panel.releaseKeyboard()

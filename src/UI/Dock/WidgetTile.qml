@@ -18,6 +18,7 @@ DockItem {
     required property string fittingSize // its own, or a smaller one where there is little room
     required property real extent // pixels across the bar
     property bool isMoving: true
+    property var ticked: [] // identifiers of what is ticked off
     property real share: 1 // 0 to 1, of it that is in sight
 
     property real coming // 0 to 1, while it appears
@@ -27,7 +28,7 @@ DockItem {
     readonly property bool takesAdditions: content.form === "tasks" && (isReady || content.state === "empty")
 
     signal rowPressed(address: url)
-    signal ticked(task: string, on: bool)
+    signal toggled(task: string, on: bool)
     signal additionAsked()
     signal moveAsked(step: int)
 
@@ -68,10 +69,11 @@ DockItem {
         size: tile.fittingSize
         isVertical: tile.isVertical
         extent: tile.extent
+        ticked: tile.ticked
         isPressed: tile.isPressed
         isHovered: tile.isHovered
         onRowPressed: address => tile.rowPressed(address)
-        onTicked: (task, on) => tile.ticked(task, on)
+        onToggled: (task, on) => tile.toggled(task, on)
         onAdditionAsked: tile.additionAsked()
     }
 }

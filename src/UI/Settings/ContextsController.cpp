@@ -44,12 +44,8 @@ void ContextsController::askToForgetAll() {
                           .buttons = {tr("Forget All"), tr("Cancel")},
                           .isGrave = true,
                           .answered = [self = QPointer(this)](int button) {
-                              if (!self || button != 0)
-                                  return;
-                              ModeContext& context = self->m_controller.context();
-                              const QStringList modes = context.snapshots().keys();
-                              for (const QString& mode : modes)
-                                  context.forget(mode);
+                              if (self && button == 0)
+                                  self->m_controller.context().forgetAll();
                           }});
 }
 

@@ -62,8 +62,13 @@ Countdown countdown(const Event& event, WallTime now) {
             start};
 }
 
-QString timeRange(const Event& event) {
-    return event.isAllDay ? QString() : card::clock(event.start) + u" – "_s + card::clock(event.end);
+/// As far as its countdown doesn't say it.
+QString timeRange(const Event& event, WallTime now) {
+    if (event.isAllDay)
+        return {};
+    const QString end = card::clock(event.end);
+    return event.start - now > 1h ? QCoreApplication::translate("Card", "until %1").arg(end)
+                                  : card::clock(event.start) + u" – "_s + end;
 }
 
 QUrl openableCall(const Event& event) {
@@ -95,7 +100,7 @@ void describe(CardContent& card, const QList<Event>& events, const std::optional
     card.brief = time.brief;
     card.caption = time.text;
     card.tone = time.tone;
-    card.note = card::joined({timeRange(*next), next->location});
+    card.note = card::joined({timeRange(*next, now), next->location});
     card.join = openableCall(*next);
     for (const Event& event : events)
         if (event != *next && event.end > now)
@@ -121,7 +126,7 @@ void describe(CardContent& card, const QList<RemindersFeed::Item>& items, WallTi
     for (const auto& item : items)
         card.rows.append(QVariant::fromValue(CardRow{.id = item.id,
                                                      .title = item.title,
-                                                     .value = item.hasTime ? card::clock(item.due) : QString(),
+                                                     .value = item.hasTime ? card::shortClock(item.due) : QString(),
                                                      .tone = isOverdue(item) ? Tone::busy : Tone::neutral}));
 }
 

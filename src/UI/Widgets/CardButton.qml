@@ -8,7 +8,8 @@ Item {
     required property CardColors ink
     required property string name // of what it does, for who can't see it
     property string text: ""
-    property string symbol: ""
+    property string symbol: "" // without a text, or where that has no room
+    readonly property bool isSpelled: text !== "" && (symbol === "" || label.implicitWidth * ink.leastTextSize / ink.textSize <= width - 6)
 
     signal pressed()
 
@@ -40,16 +41,17 @@ Item {
         width: Math.min(implicitWidth, parent.width - 6)
         ink: button.ink
         color: button.ink.top
+        visible: button.isSpelled
         text: button.text
         font.weight: Font.DemiBold
         fontSizeMode: Text.HorizontalFit
     }
     Symbol {
         anchors.centerIn: parent
-        visible: button.text === ""
+        visible: !button.isSpelled
         name: button.symbol
         size: Math.round(parent.height * 0.7)
-        color: button.ink.mark
+        color: button.text !== "" ? button.ink.top : button.ink.mark
     }
 
     HoverHandler { id: hover; margin: 4; cursorShape: Qt.PointingHandCursor }

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <QVariantList>
 #include <QtQmlIntegration>
@@ -32,6 +33,7 @@ struct CardContent {
     Q_PROPERTY(qreal gauge MEMBER gauge)
     Q_PROPERTY(QString gaugeText MEMBER gaugeText)
     Q_PROPERTY(QString gaugeNote MEMBER gaugeNote)
+    Q_PROPERTY(QStringList gaugeParts MEMBER gaugeParts)
     Q_PROPERTY(QString problem MEMBER problem)
     Q_PROPERTY(QString age MEMBER age)
     Q_PROPERTY(QString source MEMBER source)
@@ -69,17 +71,18 @@ public:
     QString unit{};     ///< the same in a word, for little room; empty: the caption is as short
     QString note{};     ///< more of it, where there is room; may be empty
     Tone tone{};
-    QString symbol{};     ///< empty: the widget's own
-    QVariantList rows{};  ///< CardRow, the most important first
-    QList<qreal> curve{}; ///< from 0 to 1
-    qreal curveNow{1};    ///< how far along it the present is, from 0 to 1
-    qreal gauge{-1};      ///< how much of something is gone, from 0 to 1; negative: nothing is measured
-    QString gaugeText{};  ///< what that is
-    QString gaugeNote{};  ///< how fast it goes
-    QString problem{};    ///< why what is shown is not new
-    QString age{};        ///< of what is shown, where that matters; empty: it is new
-    QString source{};     ///< that has to be named beside the data; may be empty
-    QString credit{};     ///< the same in a word, for beside the caption
+    QString symbol{};         ///< empty: the widget's own
+    QVariantList rows{};      ///< CardRow, the most important first
+    QList<qreal> curve{};     ///< from 0 to 1
+    qreal curveNow{1};        ///< how far along it the present is, from 0 to 1
+    qreal gauge{-1};          ///< how much of something is gone, from 0 to 1; negative: nothing is measured
+    QString gaugeText{};      ///< what that is
+    QString gaugeNote{};      ///< how fast it goes
+    QStringList gaugeParts{}; ///< both in few characters: how much, how fast, until when
+    QString problem{};        ///< why what is shown is not new
+    QString age{};            ///< of what is shown, where that matters; empty: it is new
+    QString source{};         ///< that has to be named beside the data; may be empty
+    QString credit{};         ///< the same in a word, for beside the caption
     QUrl sourceAddress{};
     QUrl address{}; ///< of the thing itself
     QUrl join{};    ///< of its video call

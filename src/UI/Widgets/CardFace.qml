@@ -74,14 +74,15 @@ Item {
             left: parent.left
             leftMargin: face.numberStart
             right: parent.right
+            rightMargin: face.isBrief ? -4 : 0 // a little into the padding
             top: face.isBeside ? parent.top : face.lead === "" ? symbol.bottom : lead.bottom
             bottom: face.hasCaption ? caption.top : parent.bottom
         }
-        readonly property real room: face.width - face.numberStart - (face.isBeside && mark.visible ? mark.width + 6 : 0)
+        readonly property real room: face.width - anchors.rightMargin - face.numberStart - (face.isBeside && mark.visible ? mark.width + 6 : 0)
         ink: face.ink
         text: face.isBrief && face.content.brief !== "" ? face.content.brief : face.content.headline
         color: face.lead !== "" && face.isBrief && face.content.tone !== "neutral" ? face.ink.tone(face.content.tone) : face.ink.text
-        font { pixelSize: Math.max(10, Math.floor(Math.min(face.most, 96 * room / Math.max(1, full.advanceWidth)))); weight: Font.DemiBold }
+        font { pixelSize: Math.max(face.ink.leastTextSize, Math.floor(Math.min(face.most, 96 * room / Math.max(1, full.advanceWidth)))); weight: Font.DemiBold }
         verticalAlignment: face.isBeside ? Text.AlignVCenter : Text.AlignBottom
     }
     TextMetrics {

@@ -42,7 +42,7 @@ Item {
     // The smallest has only room for its name.
     CardLabel {
         id: name
-        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: Math.max(0, (message.height - symbol.size - height) / 2 - 1) }
+        anchors { left: parent.left; leftMargin: -3; right: parent.right; rightMargin: -3; bottom: parent.bottom; bottomMargin: Math.max(0, (message.height - symbol.size - height) / 2 - 1) }
         visible: message.isSmall && message.height >= message.ink.line + 16
         height: message.ink.line
         ink: message.ink
@@ -86,6 +86,7 @@ Item {
                 ink: message.ink
                 color: message.ink.quiet
                 text: message.more
+                fontSizeMode: Text.HorizontalFit
             }
         }
 

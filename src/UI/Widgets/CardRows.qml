@@ -7,11 +7,12 @@ Column {
 
     required property CardColors ink
     required property var rows
+    property var ticked: [] // identifiers
     property bool isNarrow: false // the few characters stand below the title
     property bool hasValues: width >= 140 * Math.max(1, Theme.textScale)
 
     signal pressed(address: url)
-    signal ticked(task: string, on: bool)
+    signal toggled(task: string, on: bool)
 
     readonly property int entryHeight: isNarrow ? 2 * ink.line + 4 : ink.line
     readonly property int fitting: Math.max(0, Math.floor((height + 4) / entryHeight))
@@ -29,12 +30,13 @@ Column {
             readonly property bool isOpenable: row.address.toString() !== ""
             readonly property bool isColored: row.tone !== "neutral"
             readonly property bool isTask: row.id !== ""
-            readonly property bool isDone: isTask && (tick.item as TaskTick)?.isTicked === true
-            readonly property bool hasSymbol: row.symbol !== "" && !(list.isNarrow && isColored) // then its number is colored
+            readonly property bool isDone: isTask && list.ticked.includes(row.id)
+            readonly property bool hasSymbol: row.symbol !== "" && !(list.isNarrow && (isColored || needsRoom)) // then its number is colored
+            readonly property bool needsRoom: row.value !== "" && metrics.height > 0 && metrics.advanceWidth(row.value) * list.ink.leastTextSize > (list.width - 13) * list.ink.textSize
             readonly property bool hasDot: !isTask && row.symbol === "" && isColored
-            readonly property real signY: list.isNarrow ? lineHeight : 0 // beside the few characters, and the title has the whole line
+            readonly property real signY: list.isNarrow && !isTask ? lineHeight : 0 // beside the few characters, and the title has the whole line
             // Titles begin below one another, unless no line has anything before it.
-            readonly property int start: list.isNarrow ? (isTask ? 17 : hasSymbol ? 13 : hasDot ? 9 : 0) : isTask ? 18 : list.hasSigns ? 14 : 0
+            readonly property int start: list.isNarrow ? (isTask ? 14 : hasSymbol ? 13 : hasDot ? 9 : 0) : isTask ? 18 : list.hasSigns ? 14 : 0
             readonly property real lineHeight: list.isNarrow ? list.ink.line : height
             readonly property string value: row.value === "" && list.isNarrow ? row.detail : row.value
             readonly property bool hasValue: value !== "" && (list.isNarrow || list.hasValues)
@@ -51,14 +53,15 @@ Column {
             }
             Loader {
                 id: tick
-                anchors { left: parent.left; top: parent.top; topMargin: entry.signY + (entry.lineHeight - height) / 2 }
+                anchors { left: parent.left; top: parent.top }
+                height: entry.lineHeight
                 active: entry.isTask
                 sourceComponent: TaskTick {
                     size: entry.lineHeight < 14 ? 10 : 12
                     ink: list.ink
-                    task: entry.row.id
                     name: entry.row.title
-                    onToggled: on => list.ticked(entry.row.id, on)
+                    isTicked: entry.isDone
+                    onToggled: on => list.toggled(entry.row.id, on)
                 }
             }
             Symbol {
@@ -79,21 +82,27 @@ Column {
             CardLabel {
                 id: title
                 anchors {
-                    left: parent.left; leftMargin: list.isNarrow ? 0 : entry.start
+                    left: parent.left; leftMargin: list.isNarrow && !entry.isTask ? 0 : entry.start
                     right: !list.isNarrow && entry.hasValue ? amount.left : parent.right; rightMargin: !list.isNarrow && entry.hasValue ? 8 : 0
                     top: parent.top
                 }
-                height: entry.lineHeight
+                readonly property bool fitsSmaller: metrics.height > 0 && metrics.advanceWidth(text) * list.ink.leastTextSize <= width * list.ink.textSize
+                readonly property bool wraps: list.isNarrow && !entry.hasValue
+                height: wraps ? 2 * entry.lineHeight : entry.lineHeight
                 ink: list.ink
                 text: entry.row.title
+                wrapMode: wraps ? Text.WordWrap : Text.NoWrap
+                maximumLineCount: wraps ? 2 : 1
+                verticalAlignment: wraps ? Text.AlignTop : Text.AlignVCenter
+                fontSizeMode: wraps || fitsSmaller ? Text.HorizontalFit : Text.FixedSize // cut, it would only be harder to read
                 opacity: entry.isDone ? 0.5 : 1
                 font.strikeout: entry.isDone
                 Behavior on opacity { NumberAnimation { duration: Theme.normal } }
             }
             CardLabel {
                 id: amount
-                anchors { right: parent.right; top: list.isNarrow ? title.bottom : parent.top }
-                width: list.isNarrow ? parent.width - entry.start : metrics.height > 0 ? Math.ceil(metrics.advanceWidth(entry.value)) + 1 : 0 // it is the height that tells of another font
+                anchors { right: parent.right; rightMargin: list.isNarrow ? -4 : 0; top: list.isNarrow ? title.bottom : parent.top }
+                width: list.isNarrow ? parent.width + 4 - (entry.isTask ? 0 : entry.start) : metrics.height > 0 ? Math.ceil(metrics.advanceWidth(entry.value)) + 1 : 0 // it is the height that tells of another font
                 height: entry.lineHeight
                 visible: entry.hasValue
                 ink: list.ink

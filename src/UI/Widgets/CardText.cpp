@@ -32,15 +32,21 @@ QString joined(const QStringList& parts) {
     return said.join(u" · "_s);
 }
 
+/// The user's country counts hours to twelve.
+static bool hasHalves() {
+    return QLocale().timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
+}
+
 QString hour(WallTime time) {
-    const QLocale locale;
-    const QTime local = toDateTime(time).toLocalTime().time();
-    const bool hasHalves = locale.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
-    return locale.toString(local, hasHalves ? u"h AP"_s : u"HH"_s);
+    return QLocale().toString(toDateTime(time).toLocalTime().time(), hasHalves() ? u"h AP"_s : u"HH"_s);
 }
 
 QString clock(WallTime time) {
     return QLocale().toString(toDateTime(time).toLocalTime().time(), QLocale::ShortFormat);
+}
+
+QString shortClock(WallTime time) {
+    return hasHalves() && toDateTime(time).toLocalTime().time().minute() == 0 ? hour(time) : clock(time);
 }
 
 qreal shareOfDay(WallTime now) {

@@ -21,6 +21,9 @@ QString hour(WallTime time);
 /// A time of the day as the user's country writes it: "14:05", "2:05 PM".
 QString clock(WallTime time);
 
+/// The same without minutes where they are zero and the hour says what it is without them: "14:00", "2 PM".
+QString shortClock(WallTime time);
+
 /// Of the user's day that `now` is in, from 0 to 1; days on which clocks change are longer or shorter.
 qreal shareOfDay(WallTime now);
 

@@ -153,14 +153,14 @@ bool lacksAccess(CardContent& card, CalendarStore::Access access, const char* qu
     case CalendarStore::Access::granted:
         return false;
     case CalendarStore::Access::unknown:
-        say(card, State::unasked, said(question), said(QT_TRANSLATE_NOOP("Card", "Press to allow it")));
+        say(card, State::unasked, said(question), said(QT_TRANSLATE_NOOP("Card", "Press to allow")));
         break;
     case CalendarStore::Access::denied:
         say(card, State::denied, said(QT_TRANSLATE_NOOP("Card", "Fendrel may not read it")),
-            said(QT_TRANSLATE_NOOP("Card", "Press to change that")));
+            said(QT_TRANSLATE_NOOP("Card", "Press to change")));
         break;
     case CalendarStore::Access::missing:
-        say(card, State::unset, said(absence), said(QT_TRANSLATE_NOOP("Card", "Press to pick one")));
+        say(card, State::unset, said(absence), said(QT_TRANSLATE_NOOP("Card", "Press to pick")));
         break;
     }
     return true;

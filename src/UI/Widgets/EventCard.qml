@@ -59,7 +59,7 @@ Item {
     CardLabel {
         id: time
         anchors { left: title.left; top: parent.top; topMargin: view.isVertical ? 0 : view.nextHeight - height }
-        width: view.isVertical ? view.width : view.share - 9 - (join.visible ? join.width + 6 : 0)
+        width: view.isVertical ? view.width + 4 : view.share - 9 - (join.visible ? join.width + 6 : 0)
         height: view.isVertical ? Math.round(1.5 * view.ink.line) : view.ink.line
         ink: view.ink
         color: view.isVertical && view.content.tone === "neutral" ? view.ink.mark : view.timeColor
@@ -80,6 +80,7 @@ Item {
         visible: view.canJoin
         ink: view.ink
         text: qsTr("Join")
+        symbol: "video"
         name: qsTr("Join %1").arg(view.content.headline)
         onPressed: view.pressed(view.content.join)
     }

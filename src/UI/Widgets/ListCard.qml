@@ -10,9 +10,10 @@ Item {
     required property string symbol
     required property string size
     required property bool isVertical
+    required property var ticked // identifiers
 
     signal pressed(address: url)
-    signal ticked(task: string, on: bool)
+    signal toggled(task: string, on: bool)
     signal additionAsked()
 
     readonly property bool canAdd: content.form === "tasks"
@@ -107,7 +108,8 @@ Item {
         ink: view.ink
         rows: view.content.rows
         isNarrow: view.isVertical
+        ticked: view.ticked
         onPressed: address => view.pressed(address)
-        onTicked: (task, on) => view.ticked(task, on)
+        onToggled: (task, on) => view.toggled(task, on)
     }
 }

@@ -31,7 +31,7 @@ Item {
         share: Math.max(0, view.content.gauge)
     }
     CardLabel {
-        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: join.top }
+        anchors { left: parent.left; leftMargin: -4; right: parent.right; rightMargin: -4; top: parent.top; bottom: join.top }
         visible: view.canJoin
         ink: view.ink
         color: view.ink.tone(view.content.tone)
@@ -46,6 +46,7 @@ Item {
         visible: view.canJoin
         ink: view.ink
         text: qsTr("Join")
+        symbol: "video"
         name: qsTr("Join %1").arg(view.content.headline)
         onPressed: view.pressed(view.content.join)
     }

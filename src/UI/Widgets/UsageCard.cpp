@@ -3,6 +3,7 @@
 #include "Widgets/Revenue/Money.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -39,16 +40,29 @@ QList<std::pair<QString, qint64>> byModel(const QMap<QString, qint64>& models) {
     return list;
 }
 
+/// In few characters. Where the user's language has no short word for thousands, as people who count tokens write them.
+QString shortTokens(qint64 count) {
+    const QString text = shortText(count);
+    return count < 10'000 || text != QLocale().toString(count)
+               ? text
+               : QCoreApplication::translate("Card", "%1K").arg(QLocale().toString((count + 500) / 1000));
+}
+
 void describeWindow(CardContent& card, const usage::Window& window, WallTime now) {
     using Hours = std::chrono::duration<double, std::ratio<3600>>;
     card.form = CardContent::Form::usage;
     card.gauge = std::clamp(Hours(now - window.start) / Hours(usage::Window::length), 0.0, 1.0);
-    //: Tokens used since the start of a window of time, and when a new one begins: "340K until 7:00 PM"
-    card.gaugeText =
-        QCoreApplication::translate("Card", "%1 until %2").arg(shortText(window.tokens), card::clock(window.end()));
+    const QString used = shortTokens(window.tokens);
+    //: Tokens used since the start of a window of time, and when a new one begins: "340K tokens until 7:00 PM"
+    card.gaugeText = QCoreApplication::translate("Card", "%1 tokens until %2").arg(used, card::clock(window.end()));
     const Hours passed = std::max(Hours(now - window.start), Hours(5min)); // nothing can be told from less
-    card.gaugeNote = QCoreApplication::translate("Card", "%1 an hour")
-                         .arg(shortText(qRound64(static_cast<double>(window.tokens) / passed.count())));
+    const QString pace = shortTokens(qRound64(static_cast<double>(window.tokens) / passed.count()));
+    card.gaugeNote = QCoreApplication::translate("Card", "%1 an hour").arg(pace);
+    card.gaugeParts = {used,
+                       //: Tokens an hour, in few characters: "170K/h"
+                       QCoreApplication::translate("Card", "%1/h").arg(pace),
+                       //: When a window of time ends, in few characters: "→ 18:00"
+                       QCoreApplication::translate("Card", "→ %1").arg(card::shortClock(window.end()))};
 }
 
 } // namespace
@@ -67,14 +81,14 @@ void describe(CardContent& card, const usage::Summary& summary, const QString& f
         card.headline = QCoreApplication::translate("Card", "Nothing used yet today");
         return;
     }
-    card.headline = shortText(summary.tokensToday);
+    card.headline = shortTokens(summary.tokensToday);
     card.caption = QCoreApplication::translate("Card", "tokens today");
-    card.unit = QCoreApplication::translate("Card", "today");
+    card.unit = QCoreApplication::translate("Card", "tokens");
     card.note = QCoreApplication::translate("Card", "%n reply(ies)", nullptr, summary.messagesToday);
     card.curve = card::dayCurve(QList<qint64>{0} + summary.cumulativeByHour);
     card.curveNow = card::shareOfDay(now);
     for (const auto& [name, tokens] : byModel(summary.models))
-        card.rows.append(QVariant::fromValue(CardRow{.title = name, .value = shortText(tokens)}));
+        card.rows.append(QVariant::fromValue(CardRow{.title = name, .value = shortTokens(tokens)}));
     if (isOpen)
         describeWindow(card, *summary.window, now);
 }

@@ -16,7 +16,7 @@ Item {
 
     readonly property bool isLarge: size === "large"
     readonly property bool isTight: !isVertical && height < 2 * ink.line + 10 // the gauge goes into the padding
-    readonly property real share: isVertical || !isLarge ? width : Math.round(Math.min(Math.max(face.wanted + measured(content.unit) + 8, measured(content.gaugeText) + 2), width * 0.55))
+    readonly property real share: isVertical || !isLarge ? width : Math.round(Math.min(Math.max(face.wanted + measured(content.unit) + 8, measured(gauging.parts) + 2), width * 0.55))
 
     // Number and caption are in one line where they lie beside one another.
     CardFace {
@@ -55,21 +55,22 @@ Item {
 
     Item {
         id: gauging
+        readonly property var few: view.content.gaugeParts
+        readonly property string parts: few[0] + " · " + few[1] + " " + few[2]
         readonly property string whole: view.content.gaugeText + " · " + view.content.gaugeNote
-        readonly property bool fitsWhole: view.measured(whole) <= width
         anchors { left: parent.left; top: face.bottom; topMargin: view.isVertical ? 4 : view.isTight ? 0 : 2 }
         width: view.share
         height: said.height + (view.isTight ? 1 : 6)
 
         CardLabel {
             id: said
-            anchors { left: parent.left; right: parent.right; top: parent.top }
-            height: view.isVertical ? implicitHeight : view.ink.line
+            anchors { left: parent.left; right: parent.right; rightMargin: view.isVertical ? -4 : 0; top: parent.top }
+            height: view.ink.line
             ink: view.ink
             color: view.ink.quiet
-            text: gauging.fitsWhole ? gauging.whole : view.content.gaugeText
-            wrapMode: view.isVertical ? Text.Wrap : Text.NoWrap
-            maximumLineCount: view.isVertical ? 3 : 1
+            text: view.isVertical ? gauging.few[2]
+                                  : view.measured(gauging.whole) <= width ? gauging.whole
+                                  : view.measured(gauging.parts) * 0.85 <= width ? gauging.parts : gauging.few[0] + " " + gauging.few[2]
             fontSizeMode: Text.HorizontalFit
         }
         CardGauge {
@@ -89,22 +90,25 @@ Item {
             top: view.isVertical ? gauging.bottom : parent.top
             topMargin: view.isVertical ? 6 : 0
         }
-        height: Math.min(2, view.content.rows.length) * entryHeight
+        // Below them there is still a curve.
+        readonly property int count: view.isVertical ? Math.max(2, Math.floor((room - 0.7 * view.width) / entryHeight)) : 2
+        height: Math.min(count, view.content.rows.length) * entryHeight
         visible: view.isLarge
         ink: view.ink
         rows: view.content.rows
         isNarrow: view.isVertical
         hasValues: true
     }
-    // Below the rest, down to the card's edge.
+    // Below the rest, down to the card's edge, and no higher than wide.
     CurvePicture {
+        readonly property real above: view.isLarge ? rows.y + rows.height : gauging.y + gauging.height
         anchors {
             left: parent.left
-            leftMargin: view.isVertical ? 1 - view.side : rows.x
+            leftMargin: view.isVertical ? 1 - view.side : view.share + 14
             right: parent.right
             rightMargin: 1 - view.side
             top: view.isVertical && !view.isLarge ? gauging.bottom : rows.bottom
-            topMargin: 4
+            topMargin: Math.max(4, view.isVertical ? view.height + view.padding - 1 - view.width - above : 0)
             bottom: parent.bottom
             bottomMargin: 1 - view.padding
         }

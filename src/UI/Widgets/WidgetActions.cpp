@@ -47,7 +47,8 @@ QString WidgetActions::pressText(const CardContent& content) {
     case CardContent::State::unasked:
         return tr("Asks you for leave to read it");
     default:
-        if (content.form == CardContent::Form::tasks && content.state != CardContent::State::failed)
+        if (content.form == CardContent::Form::tasks && content.state != CardContent::State::failed &&
+            content.state != CardContent::State::waiting)
             return tr("Adds a reminder");
         if (content.isLoading && !isOpenable(content.address))
             return tr("Is being asked for what is new");
@@ -78,12 +79,21 @@ void WidgetActions::tick(const QString& reminderID, bool on) {
             m_controller.platform().clock->after(secondThoughts, [this, reminderID] { complete(reminderID); });
     else
         m_ticked.erase(reminderID);
+    Q_EMIT tickedChanged();
+}
+
+QStringList WidgetActions::ticked() const {
+    QStringList ids;
+    for (const auto& each : m_ticked)
+        ids.append(each.first);
+    return ids;
 }
 
 void WidgetActions::complete(const QString& reminderID) {
     const QString id = reminderID; // the handle that is dropped may own it
-    m_ticked.erase(id);
     m_controller.widgets().reminders().complete(id);
+    m_ticked.erase(id);
+    Q_EMIT tickedChanged();
 }
 
 void WidgetActions::addReminder(const QString& title) {

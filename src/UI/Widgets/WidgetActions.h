@@ -20,9 +20,13 @@ class WidgetActions : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(QStringList ticked READ ticked NOTIFY tickedChanged) ///< reminders that are completed in a moment
+
 public:
     WidgetActions(AppController& controller, const WidgetCardsModel& cards)
         : m_controller(controller), m_cards(cards) {}
+
+    QStringList ticked() const;
 
     /// Opens what the card shows, or where to set up what it lacks; where there is neither, it asks for what is new.
     Q_INVOKABLE void press(const QString& widgetID);
@@ -42,6 +46,9 @@ public:
     Q_INVOKABLE void arrange(const QStringList& widgetIDs);
     /// One step along the cards; at an end it stays.
     Q_INVOKABLE void move(const QString& widgetID, int step);
+
+Q_SIGNALS:
+    void tickedChanged();
 
 private:
     AppController& m_controller;

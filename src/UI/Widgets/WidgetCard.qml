@@ -15,11 +15,12 @@ Item {
     required property string size // "small", "medium", "large"
     required property bool isVertical
     required property real extent // pixels across the bar
+    property var ticked: [] // identifiers of what is ticked off
     property bool isPressed: false
     property bool isHovered: false
 
     signal rowPressed(address: url)
-    signal ticked(task: string, on: bool)
+    signal toggled(task: string, on: bool)
     signal additionAsked()
 
     readonly property real fullLength: metrics.length(size, extent, isVertical)
@@ -127,8 +128,9 @@ Item {
             symbol: card.shownSymbol
             size: card.size
             isVertical: card.isVertical
+            ticked: card.ticked
             onPressed: address => card.rowPressed(address)
-            onTicked: (task, on) => card.ticked(task, on)
+            onToggled: (task, on) => card.toggled(task, on)
             onAdditionAsked: card.additionAsked()
         }
     }

@@ -831,20 +831,8 @@
         <translation>fällig</translation>
     </message>
     <message>
-        <source>Press to allow it</source>
-        <translation>Zum Erlauben drücken</translation>
-    </message>
-    <message>
         <source>Fendrel may not read it</source>
         <translation>Fendrel darf nicht lesen</translation>
-    </message>
-    <message>
-        <source>Press to change that</source>
-        <translation>Zum Ändern drücken</translation>
-    </message>
-    <message>
-        <source>Press to pick one</source>
-        <translation>Zum Auswählen drücken</translation>
     </message>
     <message>
         <source>Show your calendar?</source>
@@ -867,17 +855,12 @@
         <translation>Andere Modelle</translation>
     </message>
     <message>
-        <source>%1 until %2</source>
-        <extracomment>Tokens used since the start of a window of time, and when a new one begins: &quot;340K until 7:00 PM&quot;</extracomment>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
         <source>%1 an hour</source>
         <translation>%1 pro Stunde</translation>
     </message>
     <message>
         <source>No Claude Code logs found</source>
-        <translation>Keine Protokolle von Claude Code gefunden</translation>
+        <translation>Keine Logs von Claude Code</translation>
     </message>
     <message>
         <source>Looked in %1</source>
@@ -897,6 +880,45 @@
             <numerusform>%n Antwort</numerusform>
             <numerusform>%n Antworten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>Press to allow</source>
+        <translation>Hier erlauben</translation>
+    </message>
+    <message>
+        <source>Press to change</source>
+        <translation>Hier ändern</translation>
+    </message>
+    <message>
+        <source>Press to pick</source>
+        <translation>Hier auswählen</translation>
+    </message>
+    <message>
+        <source>%1K</source>
+        <translation>%1k</translation>
+    </message>
+    <message>
+        <source>%1 tokens until %2</source>
+        <extracomment>Tokens used since the start of a window of time, and when a new one begins: &quot;340K tokens until 7:00 PM&quot;</extracomment>
+        <translation>%1 Token bis %2</translation>
+    </message>
+    <message>
+        <source>%1/h</source>
+        <extracomment>Tokens an hour, in few characters: &quot;170K/h&quot;</extracomment>
+        <translation>%1/h</translation>
+    </message>
+    <message>
+        <source>→ %1</source>
+        <extracomment>When a window of time ends, in few characters: &quot;→ 18:00&quot;</extracomment>
+        <translation>→ %1</translation>
+    </message>
+    <message>
+        <source>tokens</source>
+        <translation>Token</translation>
     </message>
 </context>
 <context>

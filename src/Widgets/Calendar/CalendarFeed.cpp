@@ -40,7 +40,7 @@ void CalendarFeed::setActive(bool isActive) {
 }
 
 void CalendarFeed::storeChanged() {
-    if (isActive())
+    if (isActive() || m_isLoading) // what was asked of a source that has gone is never answered
         refresh(true);
     Q_EMIT changed(); // its access may be all that did
 }

@@ -46,7 +46,7 @@ void RemindersFeed::awaitTomorrow() {
 }
 
 void RemindersFeed::storeChanged() {
-    if (m_isActive)
+    if (m_isActive || m_isLoading) // what was asked of a source that has gone is never answered
         refresh(true);
     Q_EMIT changed(); // its access may be all that did
 }
@@ -66,11 +66,12 @@ void RemindersFeed::take(const Result<QList<CalendarReminder>, Access>& found) {
     if (found) {
         m_items.clear();
         for (const CalendarReminder& each : *found)
-            m_items.append(
-                {.id = each.id,
-                 .title = each.title.isEmpty() ? QCoreApplication::translate("Feed", "Untitled") : each.title,
-                 .due = each.due,
-                 .hasTime = each.hasTime});
+            if (!m_completing.contains(each.id))
+                m_items.append(
+                    {.id = each.id,
+                     .title = each.title.isEmpty() ? QCoreApplication::translate("Feed", "Untitled") : each.title,
+                     .due = each.due,
+                     .hasTime = each.hasTime});
         std::ranges::sort(m_items, {},
                           [](const Item& item) { return std::tuple(item.hasTime, item.due, item.title, item.id); });
         m_updatedAt = m_clock.now();
@@ -95,14 +96,17 @@ void RemindersFeed::complete(const QString& id) {
     // An answer that is under way has it still. The look after this one has them all.
     m_reading.reset();
     m_isLoading = false;
-    m_saving = m_store.complete(id, [this](bool) { refresh(true); });
+    m_completing[id] = m_store.complete(id, [this, id](bool) {
+        refresh(true);
+        m_completing.erase(QString(id)); // takes this with it
+    });
     Q_EMIT changed();
 }
 
 void RemindersFeed::add(const QString& title) {
     const QString text = title.simplified();
     if (!text.isEmpty())
-        m_saving = m_store.add(text, dayOf(m_clock.now()), [this](bool) { refresh(true); });
+        m_adding = m_store.add(text, dayOf(m_clock.now()), [this](bool) { refresh(true); });
 }
 
 } // namespace fendrel

@@ -4,6 +4,8 @@
 #include "Ports/Clock.h"
 #include "Widgets/WidgetFeed.h"
 
+#include <map>
+
 namespace fendrel {
 
 /// What is due today and not done yet. Main thread.
@@ -47,7 +49,8 @@ private:
     bool m_isActive = false;
     bool m_isLoading = false;
     Handle m_reading;
-    Handle m_saving;
+    std::map<QString, Handle> m_completing; ///< by their IDs; not shown meanwhile
+    Handle m_adding;
     Handle m_tomorrow;
     Handle m_clockSet;
 };

@@ -59,6 +59,20 @@ private Q_SLOTS:
         QTEST(execLines(entry, files), "lines");
     }
 
+    void tellsBrowsers_data() {
+        const Table<DesktopEntry, bool> row("entry", "isOne");
+        row("by an address", {.mimeTypes = {u"x-scheme-handler/http"_s}}, true);
+        row("by its kind", {.exec = u"app %f"_s, .categories = {u"Network"_s, u"WebBrowser"_s}}, true);
+        row("by its pages", {.exec = u"app %u"_s, .mimeTypes = {u"text/html"_s}}, true);
+        row("pages on this computer alone", {.exec = u"app %F"_s, .mimeTypes = {u"text/html"_s}}, false);
+        row("an editor", {.exec = u"app %U"_s, .mimeTypes = {u"text/plain"_s, u"text/html"_s}}, false);
+    }
+
+    void tellsBrowsers() {
+        QFETCH(const DesktopEntry, entry);
+        QTEST(isBrowser(entry), "isOne");
+    }
+
     void namesTheProgramThatAPersonWould() {
         const auto name = [](const char* exec) { return programName(QString::fromLatin1(exec)); };
         QCOMPARE(name("/usr/bin/app %U"), u"app"_s);

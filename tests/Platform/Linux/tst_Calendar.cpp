@@ -272,7 +272,15 @@ private Q_SLOTS:
         putFile(m_home.filePath(u"gone/a.ics"_s),
                 calendarOf(component("VTODO", "UID:a\nSUMMARY:a\nDUE;VALUE=DATE:20260105\n")));
         QCOMPARE(world.titles(), QStringList{u"a"_s});
+        // The folder goes: no file takes its place, and who was promised an answer gets one.
+        QVERIFY(QDir(m_home.filePath(u"gone"_s)).removeRecursively());
+        const auto add = [&](auto done) { return world.store.add(u"b"_s, QDate(2026, 1, 5), done); };
+        QVERIFY(!world.saved(add));
+        QVERIFY(!QFileInfo::exists(m_home.filePath(u"gone"_s)));
+        std::optional<bool> outcome;
+        const Handle saving = add([&](bool isSaved) { outcome = isSaved; });
         world.store.choose({});
+        QVERIFY(world.wait([&] { return outcome.has_value(); }));
         world.reminders();
         QCOMPARE(world.store.source(), Source::system);
     }
@@ -282,11 +290,11 @@ private Q_SLOTS:
         for (const char* path :
              {"/cal/work", "/mine.ics", "/.config/khal/config", "/.calendars/a/1.ics", "/people/x.vcf"})
             putFile(home + QString::fromLatin1(path), {});
-        putFile(
-            home + u"/.config/vdirsyncer/config"_s,
-            "[storage a]\ntype = \"filesystem\"\npath = \"~/cal/\"\nfileext = \".ics\"\n[storage b]\n"
-            "path = \"~/people\"\nfileext = \".vcf\"\n[storage c]\ntype = \"caldav\"\nusername = \"Me@example.org\"\n"
-            "[storage d]\ntype = \"singlefile\"\npath = \"~/mine.ics\"\n[storage e]\npath = \"~/gone/\"\n");
+        putFile(home + u"/.config/vdirsyncer/config"_s,
+                "[storage a]\ntype = \"filesystem\"\npath = \"~/cal/\"\nfileext = \".ics\"\n[storage b]\n"
+                "path = \"$DATA/people\"\nfileext = \".vcf\"\n[storage c]\ntype = \"caldav\"\nusername = "
+                "\"Me@example.org\"\n"
+                "[storage d]\ntype = \"singlefile\"\npath = \"~/mine.ics\"\n[storage e]\npath = \"~/gone/\"\n");
         putFile(home + u"/.config/khal/config"_s,
                 "[calendars]\n[[all]]\npath = ~/cal/*\ntype = discover\naddresses = me@example.org, it@example.org\n");
         const auto places = usualCalendarPlaces(home, home + u"/.config"_s, home + u"/.local/share"_s);

@@ -64,30 +64,39 @@ private Q_SLOTS:
 
     void findsWhatAProcessHasOpen() {
         const QTemporaryDir folder;
-        const QString home = folder.path();
+        const QString home = folder.path() + u"/real"_s;
+        const QString link = folder.path() + u"/linked"_s; // as the user comes to it
+        QVERIFY(QDir().mkpath(home) && QFile::link(home, link));
         const auto path = [&](const QString& name) { return home + u'/' + name; };
         for (const char* name : {"held.pdf", "titled.txt", "grown.txt", "closed.txt", ".hidden/own.txt", "gone.pdf"})
             putFile(path(QString::fromLatin1(name)), "text");
-        putFile(path(u".local/recent.xbel"_s), "<xbel><bookmark href=\"file://" + path(u"titled.txt"_s).toUtf8() +
-                                                   "\"/><bookmark href=\"file://" + path(u"lost.txt"_s).toUtf8() +
-                                                   "\"/></xbel>");
+        QByteArray list;
+        for (const char* name : {"/titled.txt", "/lost.txt", "/held.pdf"})
+            list += "<bookmark href=\"file://" + link.toUtf8() + name + "\"/>";
+        putFile(path(u".local/recent.xbel"_s), "<xbel>" + list + "</xbel>");
         QFile held(path(u"held.pdf"_s)), again(path(u"held.pdf"_s)), grown(path(u"grown.txt"_s)),
             own(path(u".hidden/own.txt"_s)), gone(path(u"gone.pdf"_s));
         QVERIFY(held.open(QIODevice::ReadOnly) && again.open(QIODevice::ReadWrite) && own.open(QIODevice::ReadOnly) &&
                 grown.open(QIODevice::Append) && gone.open(QIODevice::ReadOnly));
         gone.remove(); // its descriptor stays open
 
-        DesktopDocuments documents(home, path(u".local/recent.xbel"_s));
+        DesktopDocuments documents(link, path(u".local/recent.xbel"_s));
         const DocumentOwner self{.bundleID = u"self"_s,
                                  .pids = {QCoreApplication::applicationPid()},
-                                 .titles = {u"titled.txt - Editor"_s, u"lost.txt - Editor"_s}};
+                                 .titles = {u"titled.txt - Editor"_s, u"lost.txt - Editor"_s, u"held.pdf"_s}};
         const DocumentOwner ended{.bundleID = u"ended"_s, .pids = {999'999'999}};
         std::optional<QList<OpenDocument>> found;
         const Handle question = documents.find({ended, self}, [&](const auto& answer) { found = answer; });
         QVERIFY(!found);
         QTRY_VERIFY(found);
         QCOMPARE(*found, (QList<OpenDocument>{{u"self"_s, QUrl::fromLocalFile(path(u"held.pdf"_s))},
-                                              {u"self"_s, QUrl::fromLocalFile(path(u"titled.txt"_s))}}));
+                                              {u"self"_s, QUrl::fromLocalFile(link + u"/titled.txt"_s)}}));
+
+        const QList<QUrl> files{QUrl::fromLocalFile(path(u"held.pdf"_s)), QUrl::fromLocalFile(path(u"gone.pdf"_s))};
+        std::optional<QList<QUrl>> missing;
+        const Handle look = documents.findGone(files, [&](const auto& answer) { missing = answer; });
+        QTRY_VERIFY(missing);
+        QCOMPARE(*missing, QList<QUrl>{files.last()});
     }
 
     void knowsWhatAProgramWasStartedWith() {

@@ -73,6 +73,19 @@ private Q_SLOTS:
                      "BEGIN:VTIMEZONE\r\nTZID:Ours\r\nBEGIN:STANDARD\r\nDTSTART:19700101T000000\r\n"
                      "TZOFFSETFROM:+0300\r\nTZOFFSETTO:+0530\r\nEND:STANDARD\r\nEND:VTIMEZONE\r\n"),
             {u"01-06 04:30"_s});
+        row("the start's day of a week of the year",
+            calendar(anEvent(":20150708T090000", "RRULE:FREQ=YEARLY;BYWEEKNO=2\r\n") +
+                     anEvent(";TZID=Odd:20260106T090000", "STATUS:CANCELLED\r\n").replace("UID:e", "UID:f") +
+                     "BEGIN:VTIMEZONE\r\nTZID:Odd\r\nBEGIN:STANDARD\r\nDTSTART:20150704T040000\r\n"
+                     "RRULE:FREQ=YEARLY;BYWEEKNO=14\r\nTZOFFSETFROM:+0300\r\nTZOFFSETTO:+0530\r\n"
+                     "END:STANDARD\r\nEND:VTIMEZONE\r\n"),
+            {u"01-07 09:00"_s});
+        row("a position in no set",
+            calendar(anEvent(":20260101T090000", "RRULE:FREQ=MONTHLY;BYSETPOS=2\r\nRDATE:20260106T090000\r\n")),
+            {u"01-06 09:00"_s});
+        row("notes that begin as a box does",
+            calendar(anEvent(":20260106T090000", QByteArray("DESCRIPTION:we\r\n begin: \r\n").repeated(20))),
+            {u"01-06 09:00"_s});
         row("a day that no month has",
             calendar(anEvent(":20251231T090000", "RRULE:FREQ=YEARLY;BYMONTH=2;BYMONTHDAY=30\r\n")), {});
         row("a broken one beside a good one",
@@ -81,6 +94,10 @@ private Q_SLOTS:
             {u"01-06 09:00"_s});
         row("boxes in boxes",
             QByteArray("BEGIN:VEVENT\n").repeated(300'000) + QByteArray("END:VEVENT\n").repeated(300'000), {});
+        row("boxes in boxes, otherwise written",
+            "END:VEVENT\n" + QByteArray("BEG\n IN ;A=B:VEVENT\n").repeated(300'000) +
+                QByteArray("END:VEVENT\n").repeated(300'000),
+            {});
         row("no calendar", "<html>", {});
     }
     void whenItComes() {
@@ -101,6 +118,37 @@ private Q_SLOTS:
         const auto found = starts(calendar(anEvent(":20260105T090000", "RRULE:" + rule + "\r\n")),
                                   u"2026-01-01T00:00"_s, u"2027-01-01T00:00"_s);
         QVERIFY(!found.isEmpty() && found.size() <= most);
+    }
+
+    /// Told to look from some moment on, the library must find what it finds from the start.
+    void aRuleIsFollowedFromAnywhere_data() {
+        const Table<QByteArray> row("rule");
+        for (const char* rule :
+             {"FREQ=MINUTELY;INTERVAL=50", "FREQ=HOURLY;INTERVAL=3", "FREQ=HOURLY;BYHOUR=8,10",
+              "FREQ=HOURLY;BYMINUTE=10,50;BYDAY=MO", "FREQ=DAILY;INTERVAL=3", "FREQ=DAILY;BYHOUR=8,20",
+              "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,SU;WKST=SU", "FREQ=MONTHLY;INTERVAL=5", "FREQ=MONTHLY;BYDAY=-1FR",
+              "FREQ=MONTHLY;BYDAY=MO,TU;BYSETPOS=-1", "FREQ=YEARLY;BYMONTH=3;BYDAY=2MO",
+              "FREQ=YEARLY;INTERVAL=2;BYYEARDAY=100,200", "FREQ=YEARLY;BYWEEKNO=14"})
+            row(rule, rule);
+    }
+    void aRuleIsFollowedFromAnywhere() {
+        QFETCH(const QByteArray, rule);
+        constexpr LocalSeconds start = 1'436'004'900; // 4 July 2015, 10:15
+        const LocalSeconds span = (rule.contains("URLY") || rule.contains("MINUTELY") ? 30 : 3'000) * 86'400LL;
+        RecurrenceRule followed(rule, {.local = start});
+        const auto all = followed.instances(start, start + span, reader.zone);
+        QVERIFY(all.size() > 2 && all.size() < RecurrenceRule::mostInstances);
+        for (LocalSeconds from = start; from < start + span; from += span / 23 + 1'234) {
+            const auto later = std::ranges::lower_bound(all, from);
+            QCOMPARE(followed.instances(from, start + span, reader.zone), QList<LocalSeconds>(later, all.cend()));
+        }
+    }
+
+    void onlyTheRuleAtFaultIsDropped() {
+        ICalendar read(calendar(anEvent(":20251231T090000", "RRULE:FREQ=YEARLY;BYMONTH=2;BYMONTHDAY=30\r\n")) +
+                       calendar(anEvent(":20250105T100000", "RRULE:FREQ=DAILY\r\n").replace("UID:e", "UID:f")));
+        for (WallTime from = at(u"2026-01-05T00:00"_s); from < at(u"2027-01-05T00:00"_s); from += 10 * 24h)
+            QCOMPARE(read.events(from, from + 24h, reader).size(), 1);
     }
 
     void aLaterQuestionIsAnsweredTheSame() {
@@ -124,6 +172,10 @@ private Q_SLOTS:
                  "  is folded\n"),
             task("SEQUENCE:5\nPERCENT-COMPLETE:100\nDUE:20260105T120000Z\nSTATUS:COMPLETED\nSUMMARY:a long line that\n"
                  "  is folded\nCOMPLETED:20260105T090000Z\nLAST-MODIFIED:20260105T090000Z\n"));
+        const QByteArray named = "BEGIN:VTODO\nUID:a\\, b\\;c\nDUE:20260105T120000Z\n";
+        const QByteArray nameless = "BEGIN:VTODO\nDUE:20260105T120000Z\nEND:VTODO\n";
+        row("a name with commas, after one without", nameless + named + "END:VTODO\n",
+            nameless + named + done + "END:VTODO\n");
         row("one of many",
             task("DTSTART;TZID=Asia/Tokyo:20260103T200000\nDUE;TZID=Asia/Tokyo:20260103T210000\n"
                  "RRULE:FREQ=DAILY;COUNT=9\nEXDATE;TZID=Asia/Tokyo:20260106T200000\n" +
@@ -162,13 +214,14 @@ private Q_SLOTS:
         for (const auto& line : added.split('\n'))
             QVERIFY(line.size() <= 76 && QString::fromUtf8(line).toUtf8() == line);
         for (const QByteArray& text : {QByteArray(), calendar(anEvent(":20260106T090000", {}))}) {
-            ICalendar read(ICalendarEdit::added(text, added));
+            ICalendar read(ICalendarEdit::added(text, added).value());
             const auto due = read.reminders(at(u"2026-01-05T00:00"_s), at(u"2026-01-06T00:00"_s), reader);
             QCOMPARE(due.size(), 1);
             QCOMPARE(due.first().title, title);
             QVERIFY(!due.first().hasTime);
             QCOMPARE(read.seriesCount(), text.isEmpty() ? 1 : 2);
         }
+        QVERIFY(!ICalendarEdit::added(calendar(anEvent(":20260106T090000", {})).chopped(20), added)); // cut off
     }
 };
 

@@ -149,6 +149,7 @@ std::optional<DesktopEntry> parseDesktopEntry(QByteArrayView content, const Desk
     entry.flatpakID = text(u"X-Flatpak"_s);
     entry.snapName = text(u"X-SnapInstanceName"_s);
     entry.mimeTypes = desktopEntryList(group->value(u"MimeType"_s));
+    entry.categories = desktopEntryList(group->value(u"Categories"_s));
     entry.needsTerminal = flag(u"Terminal"_s);
     entry.isOffered = !flag(u"NoDisplay"_s) && isForThisDesktop(*group, context);
     entry.actions = readActions(file, entry, context);

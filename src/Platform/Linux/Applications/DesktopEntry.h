@@ -31,6 +31,7 @@ struct DesktopEntry {
     QString flatpakID{};
     QString snapName{};
     QStringList mimeTypes{};
+    QStringList categories{};
     QList<DesktopAction> actions{}; ///< in the entry's order
     bool needsTerminal{};
     bool isDBusActivatable{};

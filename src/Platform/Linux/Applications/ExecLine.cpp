@@ -124,6 +124,14 @@ bool takesAddresses(const DesktopEntry& entry) {
     return openingCode(entry).toLower() == u'u';
 }
 
+bool isBrowser(const DesktopEntry& entry) {
+    const auto opens = [&](const QString& type) { return entry.mimeTypes.contains(type); };
+    // Editors and office programs take pages, too, but plain text as well.
+    return opens(u"x-scheme-handler/https"_s) || opens(u"x-scheme-handler/http"_s) ||
+           entry.categories.contains(u"WebBrowser"_s) ||
+           (opens(u"text/html"_s) && !opens(u"text/plain"_s) && takesAddresses(entry));
+}
+
 QList<QStringList> execLines(const DesktopEntry& entry, const QList<QUrl>& files) {
     const QChar code = openingCode(entry);
     // Some programs open files and forget to say how. Others would take a file for a command.

@@ -22,6 +22,9 @@ QList<QStringList> execLines(const DesktopEntry& entry, const QList<QUrl>& files
 /// Whether the program opens addresses, as opposed to files of this machine alone.
 bool takesAddresses(const DesktopEntry& entry);
 
+/// Whether the program shows pages of the web.
+bool isBrowser(const DesktopEntry& entry);
+
 /// The file name of the program that a command line is about: past "env NAME=value" and past an interpreter. Empty
 /// when there is none.
 QString programName(const QStringList& arguments);

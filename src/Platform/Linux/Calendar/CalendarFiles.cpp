@@ -24,17 +24,20 @@ namespace {
 
 constexpr int deepest = 4; // an account, a server's path, a calendar
 constexpr qsizetype mostFiles = 50'000;
+constexpr qsizetype mostFolders = 1'000; // each is watched
 constexpr qint64 largest = 64 << 20;
 
 qint64 nanoseconds(const timespec& time) {
     return time.tv_sec * 1'000'000'000LL + time.tv_nsec;
 }
 
-std::optional<QByteArray> contentOf(const QString& path) {
+/// All of it or nothing: what is read in part must not be written back. `size` is what it had when it was looked at.
+std::optional<QByteArray> contentOf(const QString& path, qint64 size) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largest)
+    if (size > largest || !file.open(QIODevice::ReadOnly))
         return {};
-    return file.readAll();
+    const QByteArray content = file.readAll();
+    return file.error() == QFileDevice::NoError && content.size() == size ? std::optional(content) : std::nullopt;
 }
 
 bool isWritable(const QString& path) {
@@ -60,6 +63,10 @@ std::optional<CalendarFiles::Stamp> CalendarFiles::stampOf(const QString& path) 
 }
 
 void CalendarFiles::lookInto(const QString& folder, int depth, QStringList& files) {
+    struct stat facts {};
+    const bool isThere = stat(QFile::encodeName(folder).constData(), &facts) == 0;
+    if (!isThere || m_folders.size() >= mostFolders || !m_visited.insert({facts.st_dev, facts.st_ino}).second)
+        return; // links may lead to one more than once
     m_folders.append(folder);
     // Hidden ones are on their way to their own names, or what another program remembers.
     const auto entries = QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
@@ -75,6 +82,7 @@ void CalendarFiles::lookInto(const QString& folder, int depth, QStringList& file
 
 void CalendarFiles::look() {
     m_folders.clear();
+    m_visited.clear();
     QStringList files;
     for (const QString& path : std::as_const(m_places.paths)) {
         if (QFileInfo(path).isDir()) {
@@ -92,7 +100,7 @@ void CalendarFiles::look() {
             continue;
         if (auto known = before.find(path); known != before.end() && known->second.stamp == *stamp)
             m_known.insert(before.extract(known));
-        else if (const auto content = contentOf(path))
+        else if (const auto content = contentOf(path, stamp->size))
             m_known.emplace(path, Known{.stamp = *stamp, .calendar = ICalendar(*content)});
     }
 }
@@ -133,7 +141,7 @@ bool CalendarFiles::replace(const QString& path, const Edit& edit) {
     constexpr int attempts = 3;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const auto before = stampOf(path);
-        const auto content = before ? contentOf(path) : std::optional(QByteArray());
+        const auto content = before ? contentOf(path, before->size) : std::optional(QByteArray());
         const auto edited = content ? edit(*content) : std::nullopt;
         if (!edited)
             return false;
@@ -168,7 +176,7 @@ bool CalendarFiles::add(const QString& title, QDate due, WallTime now) {
     look();
     const QString uid = QUuid::createUuid().toString(QUuid::WithoutBraces);
     const QByteArray task = ICalendarEdit::newTask(uid, title, due, now);
-    const auto append = [&task](const QByteArray& text) { return std::optional(ICalendarEdit::added(text, task)); };
+    const auto append = [&task](const QByteArray& text) { return ICalendarEdit::added(text, task); };
     const auto addTo = [&](const QString& folder) { return replace(folder + u'/' + uid + u".ics"_s, append); };
 
     std::map<QString, int> filesIn;
@@ -182,8 +190,8 @@ bool CalendarFiles::add(const QString& title, QDate due, WallTime now) {
                             (known.calendar.seriesCount() == 1 && filesIn[file.path()] > 1);
         return isItem ? addTo(file.path()) : replace(path, append);
     }
-    const QString place = m_places.paths.value(0);
-    return QFileInfo(place).isDir() ? addTo(place) : !place.isEmpty() && replace(place, append);
+    const QFileInfo place(m_places.paths.value(0)); // perhaps it has gone
+    return place.isDir() ? addTo(place.filePath()) : place.isFile() && replace(place.filePath(), append);
 }
 
 } // namespace fendrel

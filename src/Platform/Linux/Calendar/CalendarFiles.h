@@ -5,8 +5,12 @@
 
 #include <QDate>
 
+#include <sys/types.h>
+
 #include <functional>
 #include <map>
+#include <set>
+#include <utility>
 #include <vector>
 
 namespace fendrel {
@@ -51,7 +55,8 @@ private:
 
     CalendarPlaces m_places;
     QStringList m_folders;
-    std::map<QString, Known> m_known; ///< by path
+    std::set<std::pair<dev_t, ino_t>> m_visited; ///< folders, by this look
+    std::map<QString, Known> m_known;            ///< by path
 };
 
 } // namespace fendrel

@@ -38,6 +38,8 @@ Handle CalendarFolders::read(std::function<QList<Item>(CalendarFiles&)> work, Fo
         [this, done = std::move(done)](const Answer& answer) {
             if (m_watch.set(answer.folders))
                 fileChanged(); // perhaps between the look and the watch
+            if (!m_watch.isComplete())
+                m_again = m_clock.after(calendarsRetry, [this] { onChanged(); });
             done(answer.items);
         });
 }

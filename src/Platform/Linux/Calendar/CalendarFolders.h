@@ -33,6 +33,7 @@ private:
     std::shared_ptr<CalendarFiles> m_files; ///< the worker's
     FolderWatch m_watch;
     Handle m_changes;
+    Handle m_again;
 };
 
 } // namespace fendrel

@@ -33,7 +33,7 @@ CalendarPlaces placesInSettings(const QString& text, const QString& home) {
     bool isOfContacts = false;
     const auto endSection = [&] {
         const QString found = plain(std::exchange(path, {}), home);
-        if (QDir::isAbsolutePath(found) && !std::exchange(isOfContacts, false))
+        if (!std::exchange(isOfContacts, false) && QDir::isAbsolutePath(found))
             places.paths.append(found);
     };
     static const QRegularExpression setting(uR"(^\s*(\w+)\s*=\s*(.*?)\s*$)"_s);

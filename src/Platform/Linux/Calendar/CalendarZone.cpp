@@ -14,11 +14,29 @@ icaltimezone* described(const std::shared_ptr<void>& zone) {
     return static_cast<icaltimezone*>(zone.get());
 }
 
+/// Clocks are never set by the number of the week, and the library crashes over some rules that say so.
+void dropWeekNumbers(icalcomponent* zone) {
+    for (auto* part = icalcomponent_get_first_component(zone, ICAL_ANY_COMPONENT); part != nullptr;
+         part = icalcomponent_get_next_component(zone, ICAL_ANY_COMPONENT)) {
+        auto* each = icalcomponent_get_first_property(part, ICAL_RRULE_PROPERTY);
+        while (each != nullptr) {
+            const bool isWrong = icalproperty_get_rrule(each).by_week_no[0] != ICAL_RECURRENCE_ARRAY_MAX;
+            if (isWrong) {
+                icalcomponent_remove_property(part, each);
+                icalproperty_free(each);
+            }
+            each = isWrong ? icalcomponent_get_first_property(part, ICAL_RRULE_PROPERTY)
+                           : icalcomponent_get_next_property(part, ICAL_RRULE_PROPERTY);
+        }
+    }
+}
+
 } // namespace
 
 CalendarZone::CalendarZone(icalcomponent* description)
     : m_described(icaltimezone_new(), [](void* zone) { icaltimezone_free(static_cast<icaltimezone*>(zone), 1); }) {
     icalcomponent* copy = icalcomponent_new_clone(description);
+    dropWeekNumbers(copy);
     if (icaltimezone_set_component(described(m_described), copy) == 0) {
         icalcomponent_free(copy);
         m_described.reset();

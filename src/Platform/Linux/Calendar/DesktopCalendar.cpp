@@ -78,7 +78,7 @@ Handle DesktopCalendar::ask(Kept kept, std::function<Handle(CalendarSource*)> pu
 void DesktopCalendar::drop() {
     for (const auto& each : std::exchange(m_put, {}))
         if (const auto question = each.lock())
-            question->answer.reset();
+            question->answer = question->isWanted && question->kept == Kept::yes ? question->put(nullptr) : Handle();
     m_source.reset();
 }
 
@@ -155,16 +155,25 @@ Handle DesktopCalendar::reminders(WallTime from, WallTime to, Found<CalendarRemi
     });
 }
 
+Handle DesktopCalendar::save(Saved done, std::function<Handle(CalendarSource&, Saved)> put) {
+    const auto once = [waiting = std::make_shared<Saved>(std::move(done))](bool isSaved) {
+        if (const auto told = std::exchange(*waiting, {}))
+            told(isSaved);
+    };
+    return ask(Kept::yes, [this, once, put = std::move(put)](CalendarSource* source) {
+        return source ? put(*source, once) : m_clock.after({}, [once] { once(false); });
+    });
+}
+
 Handle DesktopCalendar::complete(const QString& reminderID, Saved done) {
-    return ask(Kept::yes, [this, reminderID, done = std::move(done)](CalendarSource* source) {
-        return source ? source->complete(reminderID, done) : m_clock.after({}, [done] { done(false); });
+    return save(std::move(done), [reminderID](CalendarSource& source, Saved saved) {
+        return source.complete(reminderID, std::move(saved));
     });
 }
 
 Handle DesktopCalendar::add(const QString& title, QDate due, Saved done) {
-    return ask(Kept::yes, [this, title, due, done = std::move(done)](CalendarSource* source) {
-        return source ? source->add(title, due, done) : m_clock.after({}, [done] { done(false); });
-    });
+    return save(std::move(done),
+                [title, due](CalendarSource& source, Saved saved) { return source.add(title, due, std::move(saved)); });
 }
 
 } // namespace fendrel

@@ -47,7 +47,8 @@ private:
     };
 
     Handle ask(Kept kept, std::function<Handle(CalendarSource*)> put);
-    void drop(); ///< the source, and what is asked of it
+    Handle save(Saved done, std::function<Handle(CalendarSource&, Saved)> put);
+    void drop(); ///< the source, and what is asked of it; who has something saved is told that it failed
     void look();
     void lookForFolders();
     void use(std::unique_ptr<CalendarSource> source);

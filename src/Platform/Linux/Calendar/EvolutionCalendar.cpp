@@ -72,8 +72,9 @@ void EvolutionCalendar::opened(const QDBusMessage& reply) {
 void EvolutionCalendar::follow() {
     m_following = callOnBus(message(u"GetView"_s, {u"#t"_s}), {}, [this](const QDBusMessage& reply) {
         const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
-        if (path.isEmpty())
-            return; // then the clock alone leads to another look
+        m_isFollowed = !path.isEmpty();
+        if (!m_isFollowed)
+            return;
         const auto tell = [&](const QString& method, const QVariantList& arguments) {
             auto message = QDBusMessage::createMethodCall(m_service, path,
                                                           u"org.gnome.evolution.dataserver.CalendarView"_s, method);

@@ -25,6 +25,9 @@ public:
         return m_address;
     } ///< of its owner, lower-case; empty: it has none, or isn't open
 
+    /// False once it is known that it tells nobody of changes.
+    bool isFollowed() const { return m_isFollowed; }
+
     /// Calls one of "org.gnome.evolution.dataserver.Calendar". `done` gets the reply, or the error that came instead.
     Handle call(const QString& method, const QVariantList& arguments, Done done);
 
@@ -52,6 +55,7 @@ private:
     QString m_service; ///< its unique name; empty: not open
     QString m_path;
     QString m_address;
+    bool m_isFollowed = true;
     std::list<std::shared_ptr<Waiting>> m_waiting;
     Handle m_opening;
     Handle m_following;

@@ -41,16 +41,16 @@ bool isOfSeries(const QString& object) {
     return object.contains(mark);
 }
 
-/// The query for the whole of the series that some objects are part of.
+/// The query for the whole of the series that these objects are part of.
 QString seriesQuery(const QStringList& objects) {
     static const QRegularExpression uid(u"^UID:(.*?)\\r?$"_s, QRegularExpression::MultilineOption);
     QStringList terms;
     for (const QString& object : objects) {
-        const QString name = isOfSeries(object) ? uid.match(unfolded(object)).captured(1) : QString();
-        const QString term = u"(uid? \"%1\")"_s.arg(QString(name).replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s));
-        if (!name.isEmpty() && !terms.contains(term))
-            terms.append(term);
+        QString name = unescaped(uid.match(unfolded(object)).captured(1));
+        if (!name.isEmpty())
+            terms.append(u"(uid? \"%1\")"_s.arg(name.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s)));
     }
+    terms.removeDuplicates();
     return terms.isEmpty() ? QString() : u"(or %1)"_s.arg(terms.join(u' '));
 }
 
@@ -67,8 +67,12 @@ struct EvolutionCalendars::Gathering {
     std::list<Handle> calls{};
     qsizetype open{};
     bool hasAnswer{};
+    bool isComplete{true};
+    std::function<void(const Gathering&)> ended{};
 
     void end() {
+        isComplete = isComplete && open == 0;
+        ended(*this);
         patience.reset();
         calls.clear();
         if (const auto ready = std::exchange(done, {}))
@@ -76,6 +80,7 @@ struct EvolutionCalendars::Gathering {
     }
     void answered(bool isAnswer) {
         hasAnswer |= isAnswer;
+        isComplete &= isAnswer;
         if (--open == 0)
             end();
     }
@@ -124,6 +129,10 @@ void EvolutionCalendars::serverGone() {
     m_calendars.clear(); // what was opened went with it
     m_services.setWatchedServices({});
     announce(recovery);
+    for (const auto& each : std::exchange(m_savings, {})) {
+        each->step.reset(); // whether it was saved, the next look tells
+        finish(each, false);
+    }
 }
 
 void EvolutionCalendars::follow(const QString& service) {
@@ -187,10 +196,12 @@ EvolutionCalendars::Calendar EvolutionCalendars::calendar(Kind kind, const QStri
 Handle EvolutionCalendars::gather(Kind kind, const QString& query, Ready done) {
     auto gathering = std::make_shared<Gathering>();
     gathering->done = std::move(done);
+    gathering->ended = [this, kind](const Gathering& ended) { gathered(ended, kind); };
     gathering->known = whenKnown([this, gathering, kind, query](bool isKnown) {
         std::vector<Calendar> asked;
         std::ranges::copy_if(m_calendars, std::back_inserter(asked),
                              [kind](const Calendar& each) { return each->source().kind == kind; });
+        gathering->isComplete = isKnown;
         gathering->hasAnswer = isKnown && asked.empty();
         if (asked.empty())
             return gathering->end();
@@ -210,6 +221,13 @@ Handle EvolutionCalendars::gather(Kind kind, const QString& query, Ready done) {
     });
 }
 
+void EvolutionCalendars::gathered(const Gathering& gathering, Kind kind) {
+    const bool isFollowed = std::ranges::all_of(
+        m_calendars, [kind](const Calendar& each) { return each->source().kind != kind || each->isFollowed(); });
+    if (!gathering.isComplete || !isFollowed)
+        m_again = m_clock.after(calendarsRetry, [this] { onChanged(); });
+}
+
 void EvolutionCalendars::ask(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar,
                              const QString& query) {
     gathering->calls.push_back(calendar->call(
@@ -217,42 +235,70 @@ void EvolutionCalendars::ask(const std::shared_ptr<Gathering>& gathering, const 
             const auto alive = weak.lock();
             if (!alive || !isAnswer(reply))
                 return gathering->answered(false);
-            alive->objects = reply.arguments().value(0).toStringList();
-            completeSeries(gathering, alive);
+            completeSeries(gathering, alive, reply.arguments().value(0).toStringList());
         }));
 }
 
-void EvolutionCalendars::completeSeries(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar) {
+void EvolutionCalendars::completeSeries(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar,
+                                        const QStringList& found) {
     // The query found what is in the range. What was moved out of it must be known as well, or it would show twice.
-    const QString query = seriesQuery(calendar->objects);
-    if (query.isEmpty())
-        return completeZones(gathering, calendar);
-    gathering->calls.push_back(calendar->call(
-        u"GetObjectList"_s, {query}, [this, gathering, weak = std::weak_ptr(calendar)](const QDBusMessage& reply) {
-            const auto alive = weak.lock();
-            if (!alive || !isAnswer(reply))
+    struct Parts {
+        QStringList single{};
+        QString query{}; ///< for the others
+    };
+    const auto part = [found] {
+        Parts parts;
+        QStringList ofSeries;
+        for (const QString& each : found)
+            (isOfSeries(each) ? ofSeries : parts.single).append(each);
+        parts.query = seriesQuery(ofSeries);
+        return parts;
+    };
+    const auto ask = [this, gathering, weak = std::weak_ptr(calendar)](const Parts& parts) {
+        const auto alive = weak.lock();
+        if (!alive)
+            return gathering->answered(false);
+        const auto join = [this, gathering, weak, single = parts.single](const QDBusMessage& reply) {
+            const auto stillOpen = weak.lock();
+            if (!stillOpen || !isAnswer(reply))
                 return gathering->answered(false);
-            alive->objects.removeIf(isOfSeries);
-            alive->objects += reply.arguments().value(0).toStringList();
-            completeZones(gathering, alive);
-        }));
+            stillOpen->objects = single + reply.arguments().value(0).toStringList();
+            completeZones(gathering, stillOpen);
+        };
+        if (!parts.query.isEmpty())
+            return gathering->calls.push_back(alive->call(u"GetObjectList"_s, {parts.query}, join));
+        alive->objects = parts.single;
+        completeZones(gathering, alive);
+    };
+    gathering->calls.push_back(onWorker<Parts>(m_worker, part, ask));
 }
 
 void EvolutionCalendars::completeZones(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar) {
-    QStringList wanted = unknownZones(calendar->objects.join(QString()).toUtf8());
+    gathering->calls.push_back(onWorker<QStringList>(
+        m_worker, [objects = calendar->objects] { return unknownZones(objects.join(QString()).toUtf8()); },
+        [this, gathering, weak = std::weak_ptr(calendar)](const QStringList& unknown) {
+            if (const auto alive = weak.lock())
+                describeZones(gathering, alive, unknown);
+            else
+                gathering->answered(false);
+        }));
+}
+
+void EvolutionCalendars::describeZones(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar,
+                                       QStringList wanted) {
     wanted.removeIf([&](const QString& zone) { return calendar->askedZones.contains(zone); });
     if (wanted.isEmpty())
         return gathering->answered(true);
     const QString zone = wanted.first(); // few calendars have one, and hardly any has two
     calendar->askedZones.append(zone);
     gathering->calls.push_back(calendar->call(
-        u"GetTimezone"_s, {zone}, [this, gathering, weak = std::weak_ptr(calendar)](const QDBusMessage& reply) {
+        u"GetTimezone"_s, {zone}, [this, gathering, wanted, weak = std::weak_ptr(calendar)](const QDBusMessage& reply) {
             const auto alive = weak.lock();
             if (!alive)
                 return gathering->answered(false);
             if (isAnswer(reply))
                 alive->describedZones.append(reply.arguments().value(0).toString());
-            completeZones(gathering, alive);
+            describeZones(gathering, alive, wanted);
         }));
 }
 
@@ -272,10 +318,13 @@ Handle EvolutionCalendars::read(Kind kind, const QString& query, Expand<Item> ex
         for (const Calendar& each : m_calendars) {
             if (each->source().kind != kind)
                 continue;
+            QStringList addresses = m_addresses;
+            if (!each->address().isEmpty())
+                addresses.append(each->address());
             const QString inside = each->describedZones.join(QString()) + each->objects.join(QString());
             texts.append({.source = each->source().uid,
-                          .text = ICalendarEdit::added({}, inside.toUtf8()),
-                          .addresses = m_addresses + QStringList{each->address()}});
+                          .text = ICalendarEdit::calendarOf(inside.toUtf8()),
+                          .addresses = addresses});
         }
         *reading = onWorker<QList<Item>>(
             m_worker,

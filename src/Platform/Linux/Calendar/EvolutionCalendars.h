@@ -57,8 +57,12 @@ private:
     /// Asks all calendars of a kind. `done` when all have answered or their time is over; false: none of them has.
     Handle gather(Kind kind, const QString& query, Ready done);
     void ask(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar, const QString& query);
-    void completeSeries(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar);
+    void completeSeries(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar,
+                        const QStringList& found);
     void completeZones(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar);
+    void describeZones(const std::shared_ptr<Gathering>& gathering, const Calendar& calendar, QStringList wanted);
+    /// Looks again later where some did not answer, or will not tell of changes.
+    void gathered(const Gathering& gathering, Kind kind);
     template<class Item>
     Handle read(Kind kind, const QString& query, Expand<Item> expand, Found<Item> done);
 
@@ -78,6 +82,7 @@ private:
     std::list<std::shared_ptr<Saving>> m_savings;
     Handle m_asking;
     Handle m_changes;
+    Handle m_again;
 };
 
 } // namespace fendrel

@@ -1,6 +1,7 @@
 #include "Platform/Linux/Calendar/FolderWatch.h"
 
 #include <QFile>
+#include <QSet>
 
 #include <sys/inotify.h>
 
@@ -11,7 +12,7 @@ namespace fendrel {
 
 FolderWatch::FolderWatch() : m_inotify(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
     if (!m_inotify)
-        return; // the user has too many; then the clock alone leads to another look
+        return; // the user has too many
     m_notifier = std::make_unique<QSocketNotifier>(m_inotify.get(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { read(); });
 }
@@ -19,8 +20,10 @@ FolderWatch::FolderWatch() : m_inotify(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) 
 bool FolderWatch::set(const QStringList& folders) {
     if (!m_inotify)
         return false;
+    m_isComplete = true;
+    const QSet<QString> wanted(folders.cbegin(), folders.cend());
     m_watches.removeIf([&](const auto& watch) {
-        const bool isUnwanted = !folders.contains(watch.key());
+        const bool isUnwanted = !wanted.contains(watch.key());
         if (isUnwanted)
             inotify_rm_watch(m_inotify.get(), watch.value());
         return isUnwanted;
@@ -32,8 +35,10 @@ bool FolderWatch::set(const QStringList& folders) {
         if (m_watches.contains(folder))
             continue;
         const int watch = inotify_add_watch(m_inotify.get(), QFile::encodeName(folder).constData(), news);
-        if (watch < 0)
+        if (watch < 0) {
+            m_isComplete = false;
             continue;
+        }
         m_watches.insert(folder, watch);
         hasNew = true;
     }

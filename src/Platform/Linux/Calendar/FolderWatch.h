@@ -21,6 +21,8 @@ public:
     /// From now on these and no others. True where there are new ones among them, in which something may have happened
     /// since they were read.
     bool set(const QStringList& folders);
+    /// False where some can't be watched; they are to be looked at again after a while.
+    bool isComplete() const { return m_isComplete; }
 
     std::function<void()> onChanged = [] {};
 
@@ -30,6 +32,7 @@ private:
     FileDescriptor m_inotify;
     std::unique_ptr<QSocketNotifier> m_notifier;
     QHash<QString, int> m_watches;
+    bool m_isComplete = false;
 };
 
 } // namespace fendrel

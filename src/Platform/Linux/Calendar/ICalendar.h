@@ -86,7 +86,7 @@ private:
     QList<LocalSeconds> findInstances(Series& series, LocalSeconds from, LocalSeconds to, const CalendarZone& users);
 
     std::vector<Series> m_series;
-    std::chrono::nanoseconds m_wasted{}; ///< on rules that the library looks for in vain, to the end of its time
+    std::chrono::nanoseconds m_wasted{}; ///< by this question, on rules that the library follows in vain
 };
 
 /// Which reminder is meant, in one text: a UID, and where it comes again, the original start of this one.
@@ -107,6 +107,9 @@ std::optional<SeriesStep> nextInstance(CalendarEntry entry, LocalSeconds after, 
 
 /// The entries of a text, in its order.
 std::vector<CalendarEntry> readICalendar(const QByteArray& text);
+
+/// What a value of TEXT stands for (RFC 5545, 3.3.11).
+QString unescaped(const QString& value);
 
 /// The identifiers of zones in a text that cannot be found by their names alone.
 QStringList unknownZones(const QByteArray& text);

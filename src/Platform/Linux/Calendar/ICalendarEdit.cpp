@@ -219,7 +219,7 @@ std::optional<ICalendarEdit> ICalendarEdit::completed(const QByteArray& text, co
     if (begin < 0 || begin >= lines.size())
         return {};
     Task task(lines, begin);
-    if (QString::fromUtf8(task.value("UID")).trimmed() != entry->uid)
+    if (unescaped(QString::fromUtf8(task.value("UID"))).trimmed() != entry->uid)
         return {}; // what the library made of the text is not what stands there
     const auto step = key.original && !entry->recurrence ? nextInstance(*entry, *key.original, users) : std::nullopt;
     if (step)
@@ -246,7 +246,13 @@ QByteArray ICalendarEdit::newTask(const QString& uid, const QString& title, QDat
     return text;
 }
 
-QByteArray ICalendarEdit::added(const QByteArray& text, const QByteArray& task) {
+QByteArray ICalendarEdit::calendarOf(const QByteArray& components) {
+    return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Fendrel//Fendrel//EN\r\n" + components + "END:VCALENDAR\r\n";
+}
+
+std::optional<QByteArray> ICalendarEdit::added(const QByteArray& text, const QByteArray& task) {
+    if (text.trimmed().isEmpty())
+        return calendarOf(task);
     const QList<Line> lines = linesOf(text);
     for (qsizetype at = lines.size() - 1; at >= 0; --at) {
         if (!lines[at].is("END", "VCALENDAR"))
@@ -256,7 +262,7 @@ QByteArray ICalendarEdit::added(const QByteArray& text, const QByteArray& task) 
             inserted.replace("\r\n", "\n");
         return joined(lines, 0, at) + inserted + joined(lines, at, lines.size());
     }
-    return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Fendrel//Fendrel//EN\r\n" + task + "END:VCALENDAR\r\n";
+    return {};
 }
 
 } // namespace fendrel

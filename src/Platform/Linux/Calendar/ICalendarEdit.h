@@ -21,8 +21,11 @@ struct ICalendarEdit {
 
     /// A VTODO that is due on a day, and nothing around it.
     static QByteArray newTask(const QString& uid, const QString& title, QDate due, WallTime now);
-    /// Puts a VTODO at the end of a calendar. Without one, around it.
-    static QByteArray added(const QByteArray& text, const QByteArray& task);
+    /// A calendar of these components.
+    static QByteArray calendarOf(const QByteArray& components);
+    /// Puts a VTODO at the end of a calendar, of an empty text into a new one. Nothing where the text has no such end:
+    /// it is something else, or only a part.
+    static std::optional<QByteArray> added(const QByteArray& text, const QByteArray& task);
 };
 
 } // namespace fendrel

@@ -1,6 +1,7 @@
 #include "Platform/Linux/Calendar/ICalendar.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 #include <libical/ical.h>
 
@@ -19,20 +20,27 @@ struct FreeComponent {
 };
 using Component = std::unique_ptr<icalcomponent, FreeComponent>;
 
+/// With its logical lines each on one.
+QByteArray unfolded(QByteArray text) {
+    return text.replace("\r\n", "\n").replace("\n ", "").replace("\n\t", "");
+}
+
 /// The library goes down by calling itself.
 bool isTooDeep(const QByteArray& text) {
     constexpr int deepest = 16;
-    const QByteArray upper = "\n" + text.toUpper();
+    const QByteArray upper = "\n" + unfolded(text).toUpper();
     int depth = 0;
     for (qsizetype at = 0; (at = upper.indexOf('\n', at)) >= 0;) {
-        ++at;
-        while (at < upper.size() && (upper[at] == ' ' || upper[at] == '\t' || upper[at] == '\r'))
-            ++at;
-        const auto rest = QByteArrayView(upper).sliced(at);
-        if (rest.startsWith("BEGIN") && ++depth > deepest)
+        const auto line = QByteArrayView(upper).sliced(++at);
+        if (line.startsWith("END:"))
+            depth = std::max(0, depth - 1);
+        if (!line.startsWith("BEGIN"))
+            continue;
+        qsizetype next = 5; // the library takes blanks here
+        while (next < line.size() && (line[next] == ' ' || line[next] == '\t'))
+            ++next;
+        if (next < line.size() && (line[next] == ':' || line[next] == ';') && ++depth > deepest)
             return true;
-        if (rest.startsWith("END"))
-            --depth;
     }
     return false;
 }
@@ -89,7 +97,8 @@ public:
         }
         if (entry.isTask && !start)
             start = entry.due;
-        if (!start || (entry.uid.isEmpty() && entry.recurrence))
+        // Without a name it can't be said which is meant, and another might be ticked off.
+        if (!start || (entry.uid.isEmpty() && (entry.recurrence || entry.isTask)))
             return;
         entry.start = *start;
         if (!entry.isTask)
@@ -173,6 +182,7 @@ private:
         // Where the attendee is named by something else, as an account of the server.
         if (auto* mail = icalproperty_get_first_parameter(property, ICAL_EMAIL_PARAMETER))
             entry.declined.append(text(icalparameter_get_email(mail)).toLower());
+        entry.declined.removeAll(QString()); // nobody in particular
     }
 
     /// As the standard has it: what ends at a given time takes that long whenever it comes, and days are the
@@ -268,16 +278,28 @@ std::vector<CalendarEntry> readICalendar(const QByteArray& text) {
     return std::move(reader.entries);
 }
 
+QString unescaped(const QString& value) {
+    QString plain;
+    for (qsizetype at = 0; at < value.size(); ++at) {
+        const bool isEscape = value[at] == u'\\' && at + 1 < value.size();
+        at += isEscape ? 1 : 0;
+        plain += isEscape && value[at].toLower() == u'n' ? QChar(u'\n') : value[at];
+    }
+    return plain;
+}
+
 QStringList unknownZones(const QByteArray& text) {
     static const QRegularExpression parameter(uR"(;TZID=("[^"\r\n]*"|[^":;\r\n]*))"_s,
                                               QRegularExpression::CaseInsensitiveOption);
-    QByteArray unfolded = text;
-    unfolded.replace("\r\n", "\n").replace("\n ", "").replace("\n\t", "");
+    QSet<QString> seen;
     QStringList unknown;
-    const QString source = QString::fromUtf8(unfolded);
+    const QString source = QString::fromUtf8(unfolded(text));
     for (auto matches = parameter.globalMatch(source); matches.hasNext();) {
         const QString name = matches.next().captured(1).remove(u'"');
-        if (!unknown.contains(name) && !CalendarZone::known(name.toUtf8()))
+        if (seen.contains(name))
+            continue;
+        seen.insert(name);
+        if (!CalendarZone::known(name.toUtf8()))
             unknown.append(name);
     }
     return unknown;

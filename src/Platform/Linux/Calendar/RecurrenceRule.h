@@ -17,6 +17,8 @@ public:
 
     /// Those that begin in [from, to], ascending, by the clock of the start. Of more than there may be, the first.
     QList<LocalSeconds> instances(LocalSeconds from, LocalSeconds to, const CalendarZone& users);
+    /// The library took long to find nothing. Is not asked again where that was to the end of its time.
+    void searchedInVain();
 
 private:
     /// Knows when a rule of so many times ends, so that it need not be counted through again.

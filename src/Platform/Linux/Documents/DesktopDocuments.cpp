@@ -33,7 +33,7 @@ QStringList documentsOf(const DocumentOwner& owner, const QStringList& recent, c
     known += recent;
     for (const QString& title : owner.titles) {
         const auto file = titledFile(title, known);
-        if (file && QFileInfo(*file).isFile())
+        if (file && QFileInfo(*file).isFile() && !held.contains(QFileInfo(*file).canonicalFilePath()))
             held.append(*file);
     }
     held.removeDuplicates();
@@ -49,13 +49,16 @@ QString DesktopDocuments::standardRecentList() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/recently-used.xbel"_s;
 }
 
+Worker& DesktopDocuments::worker() {
+    return m_worker ? *m_worker : m_worker.emplace(u"documents"_s);
+}
+
 Handle DesktopDocuments::find(const QList<DocumentOwner>& owners, Found done) {
-    if (!m_worker)
-        m_worker.emplace(u"documents"_s);
     return onWorker<QList<OpenDocument>>(
-        *m_worker,
-        [owners, home = m_home, list = m_recentList] {
+        worker(),
+        [owners, folder = m_home, list = m_recentList] {
             const QDeadlineTimer deadline(patience);
+            const QString home = QFileInfo(folder).canonicalFilePath(); // as the system names what is open
             QFile file(list);
             const QStringList recent = !owners.isEmpty() && file.open(QIODevice::ReadOnly)
                                            ? recentFiles(file.read(longestList))
@@ -68,6 +71,17 @@ Handle DesktopDocuments::find(const QList<DocumentOwner>& owners, Found done) {
                     found.append({.bundleID = owner.bundleID, .file = QUrl::fromLocalFile(path)});
             }
             return found;
+        },
+        std::move(done));
+}
+
+Handle DesktopDocuments::findGone(const QList<QUrl>& files, Gone done) {
+    return onWorker<QList<QUrl>>(
+        worker(),
+        [files] {
+            QList<QUrl> gone = files;
+            gone.removeIf([](const QUrl& file) { return QFileInfo::exists(file.toLocalFile()); });
+            return gone;
         },
         std::move(done));
 }

@@ -17,8 +17,11 @@ public:
     static QString standardRecentList();
 
     Handle find(const QList<DocumentOwner>& owners, Found done) override;
+    Handle findGone(const QList<QUrl>& files, Gone done) override;
 
 private:
+    Worker& worker();
+
     QString m_home;
     QString m_recentList;
     std::optional<Worker> m_worker; ///< since the first question

@@ -31,7 +31,7 @@ bool isAppended(const QByteArray& facts) {
 } // namespace
 
 bool isDocument(const QString& path, const QString& home) {
-    if (!path.startsWith(home + u'/') || path.mid(home.size()).contains("/."_L1))
+    if (home.isEmpty() || !path.startsWith(home + u'/') || path.mid(home.size()).contains("/."_L1))
         return false;
     static const QStringList programsOwn{
         u"application/vnd.sqlite3"_s,       u"application/x-sqlite3"_s,         u"text/x-log"_s,

@@ -7,7 +7,8 @@
 namespace fendrel::openFiles {
 
 /// Whether a file is one of the user's documents, by its path: below the home folder and not in a hidden one, of a kind
-/// that is known and that programs don't keep for themselves, like databases, logs and libraries.
+/// that is known and that programs don't keep for themselves, like databases, logs and libraries. Both paths are
+/// without links.
 bool isDocument(const QString& path, const QString& home);
 
 /// Paths of the documents that a process holds open. `proc` is where the process file system is mounted.

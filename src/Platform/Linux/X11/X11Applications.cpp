@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "Platform/Linux/Applications/DefaultApplications.h"
+#include "Platform/Linux/Applications/ExecLine.h"
 #include "Platform/Linux/Applications/NativeAppTable.h"
 
 #include <QCoreApplication>
@@ -47,8 +48,7 @@ QString X11Applications::fileManager() const {
 
 bool X11Applications::isBrowser(const QString& bundleID) const {
     const auto* entry = m_groups->catalog().entry(bundleID);
-    return entry != nullptr && (entry->mimeTypes.contains(u"x-scheme-handler/https"_s) ||
-                                entry->mimeTypes.contains(u"x-scheme-handler/http"_s));
+    return entry != nullptr && fendrel::isBrowser(*entry);
 }
 
 NativeApps X11Applications::nativeApps() const {
@@ -97,6 +97,12 @@ void X11Applications::openWindow(const QString& bundleID) {
 }
 
 void X11Applications::openFiles(const QString& bundleID, const QList<QUrl>& files) {
+    // A program that takes no files can still be there for its user.
+    const auto* wanted = m_groups->catalog().entry(bundleID);
+    if (wanted != nullptr && !wanted->exec.isEmpty() && execLines(*wanted, files).isEmpty()) {
+        open(bundleID, true);
+        return;
+    }
     start(bundleID, true, [files](Launcher& launcher, const DesktopEntry& entry, Launcher::Time time) {
         launcher.open(entry, files, time);
     });
